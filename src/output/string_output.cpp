@@ -1,0 +1,28 @@
+#include "output/string_output.h"
+
+#include "number/fatal_stop.h"
+#include "number/text.h"
+#include "output/localized_string.h"
+
+namespace tavi {
+
+TaviStringOutput& TaviStringOutput::shared() {
+  static TaviStringOutput instance;
+  return instance;
+}
+
+void TaviStringOutput::addStep(std::string_view title, std::string_view latexString) {
+  solutionSteps.push_back({std::string(title), std::string(latexString), std::nullopt});
+}
+
+std::string TaviStringOutput::numberedTitle(std::string_view title) {
+  increment(solutionStepCounter);
+  return joined({LocalizedString::step.text(), " ", std::to_string(solutionStepCounter), "    ", title});
+}
+
+void TaviStringOutput::reset() {
+  solutionSteps.clear();
+  solutionStepCounter = 0;
+}
+
+}  // namespace tavi

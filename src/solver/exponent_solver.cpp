@@ -1,0 +1,60 @@
+#include "solver/exponent_solver.h"
+
+#include "input/input_manager.h"
+#include "number/fatal_stop.h"
+
+namespace tavi {
+
+namespace {
+
+std::string inputFormat(int mode) {
+  switch (mode) {
+    case TaviExponentSolver::powerMode:
+      return "%1^{%0}";
+    case TaviExponentSolver::rootMode:
+      return "\\sqrt[%0]{%1}";
+    default:
+      return "";
+  }
+}
+
+}  // namespace
+
+TaviExponentSolver::TaviExponentSolver(TaviStringOutput& collector, TaviMathOperation& arithmetic)
+    : operation(arithmetic), output(collector) {}
+
+CalculationOutcome TaviExponentSolver::calculate(const std::optional<std::string>& firstText,
+                                                 std::string_view firstId,
+                                                 const std::optional<std::string>& secondText,
+                                                 std::string_view secondId, int mode) {
+  std::string first = firstText.value_or("");
+  if (first.empty() && mode == rootMode) first = "2";
+
+  AnalysisRequest request;
+  request.texts = {first, secondText.value_or("")};
+  request.ids = {std::string(firstId), std::string(secondId)};
+  request.inputFormat = {inputFormat(mode)};
+  request.isAllFractionIfOccuredOnce = false;
+  request.isDecimalEliminationForced = true;
+  request.requiredAmount = 2;
+  TermAnalysisResult analysis = TaviInputManager(output, operation).analyse(request);
+
+  allInputs = std::move(analysis.allInputs);
+  if (!allInputs) {
+    return {.errorKey = std::move(analysis.errorKey), .errorFieldIds = std::move(analysis.missingIds)};
+  }
+  operation.withFraction = true;
+  if (mode == powerMode) calculatePower();
+  if (mode == rootMode) calculateRoot();
+  return {.solutionSteps = output.solutionSteps, .latexString = task()};
+}
+
+std::string TaviExponentSolver::task() const {
+  return required(elementAt(output.solutionSteps, 0).latexString, "a first step without a formula");
+}
+
+void TaviExponentSolver::addNumberedStep(std::string_view title, std::string_view latexString) {
+  output.addStep(output.numberedTitle(title), latexString);
+}
+
+}  // namespace tavi

@@ -1,0 +1,70 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <memory>
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "number/digit.h"
+#include "number/math_operation.h"
+#include "output/string_output.h"
+
+namespace tavi {
+
+/// What a calculation came to: the steps and the task in LaTeX, or the key of what is wrong with the input
+/// and the identifiers of the fields at fault. A present `errorKey` marks failure.
+struct CalculationOutcome {
+  std::optional<std::string> errorKey{};
+  std::optional<std::vector<std::string>> errorFieldIds{};
+  std::optional<SolutionSteps> solutionSteps{};
+  std::optional<std::string> latexString{};
+};
+
+/// Ends a solver with an `expansionLimit` that the expansion of a power would pass.
+struct ExpansionTooLong {
+  std::int64_t copies = 0;
+};
+
+/// The solver of powers and roots, made afresh for each calculation.
+class TaviExponentSolver {
+ public:
+  static constexpr int powerMode = 0;
+  static constexpr int rootMode = 1;
+
+  explicit TaviExponentSolver(TaviStringOutput& output = TaviStringOutput::shared(),
+                              TaviMathOperation& operation = TaviMathOperation::shared());
+
+  /// Solves "first text over second text": exponent and base in mode 0, root index (2 by default) and
+  /// radicand in mode 1; any other mode runs the analysis alone. Writes the steps into the collector, which
+  /// the caller has emptied.
+  CalculationOutcome calculate(const std::optional<std::string>& firstText, std::string_view firstId,
+                               const std::optional<std::string>& secondText, std::string_view secondId,
+                               int mode);
+
+  TaviMathOperation& operation;
+  TaviStringOutput& output;
+  std::optional<std::vector<std::shared_ptr<Digit>>> allInputs;
+
+  /// The most copies of a base that a power is written out with; beyond it `ExpansionTooLong` is thrown.
+  std::int64_t expansionLimit = std::numeric_limits<std::int64_t>::max();
+
+ private:
+  void calculatePower();
+  void calculateRoot();
+
+  // The work that powers and roots share: `base` to the positive exponent z/n, first the power z, then the
+  // root n, then the result. Raising replaces `base`.
+  void solveExponent(const Digit& exponent, std::shared_ptr<Digit>& base, std::string_view task);
+  void writePower(const Digit& exponent, std::shared_ptr<Digit>& base, std::string_view rootTemplate);
+  bool writeRoot(const Digit& exponent, Digit& base, std::string_view rootTemplate);
+  void writeResult(const Digit& exponent, const Digit& base, std::string_view task);
+
+  // The LaTeX of the task as typed: the line of the first step.
+  std::string task() const;
+  void addNumberedStep(std::string_view title, std::string_view latexString);
+};
+
+}  // namespace tavi

@@ -1,0 +1,173 @@
+#include <algorithm>
+#include <cstdint>
+#include <iostream>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+
+#include "commands.h"
+#include "solution/display_latex.h"
+#include "solver/rehearsal.h"
+
+namespace tavi::cli {
+namespace {
+
+using nlohmann::ordered_json;
+
+constexpr std::int64_t copyLimit = 100000;
+constexpr std::string_view firstId = "aTextField";
+constexpr std::string_view secondId = "xTextField";
+
+constexpr std::string_view usage = R"(Usage: tavi-cli solve [--raw | --json] power EXPONENT BASE
+       tavi-cli solve [--raw | --json] root INDEX RADICAND
+       tavi-cli solve --json-lines
+
+Prints the working, a line for each step: its title and its LaTeX as it is typeset.
+An operand is a number, a decimal, a fraction, or a multiple of π, x, y or z, and may
+begin with a minus; an empty INDEX is 2. Behind "--" nothing is an option.
+
+  --raw         the LaTeX as it is stored
+  --json        one JSON object, with the stored LaTeX
+  --json-lines  answers each line {"first": text or null, "second": text or null,
+                "mode": 0 for power or 1 for root} of standard input by one line:
+                {"steps", "latexString"}, {"errorKey", "errorFieldIds"},
+                {"fatal": true}, {"huge": copies} or {"malformed": true}
+
+Exit codes: 2 the input is rejected, 3 the task would end the process,
+4 the power would be written out with more than 100000 copies of its base.
+)";
+
+Rehearsal solve(const std::optional<std::string>& first, const std::optional<std::string>& second, int mode) {
+  return rehearse(first, firstId, second, secondId, mode, copyLimit);
+}
+
+// What each ending of a task prints: as JSON, for a reader, and its exit code.
+
+ordered_json asJson(const CalculationOutcome& outcome) {
+  if (outcome.errorKey) {
+    return {{"errorKey", *outcome.errorKey},
+            {"errorFieldIds", outcome.errorFieldIds.value_or(std::vector<std::string>{})}};
+  }
+  ordered_json steps = ordered_json::array();
+  for (const SolutionStep& step : *outcome.solutionSteps) {
+    steps.push_back({{"title", step.title.value_or("")}, {"latexString", step.latexString.value_or("")}});
+  }
+  return {{"steps", std::move(steps)}, {"latexString", outcome.latexString.value_or("")}};
+}
+ordered_json asJson(const FatalStop&) {
+  return {{"fatal", true}};
+}
+ordered_json asJson(const ExpansionTooLong& expansion) {
+  return {{"huge", expansion.copies}};
+}
+
+// One line; bytes of a hostile operand that are no UTF-8 are replaced.
+std::string jsonLine(const Rehearsal& ending) {
+  return std::visit([](const auto& result) { return asJson(result); }, ending)
+      .dump(-1, ' ', false, ordered_json::error_handler_t::replace);
+}
+
+int explain(const CalculationOutcome& outcome) {
+  if (!outcome.errorKey) return success;
+  std::cerr << *outcome.errorKey;
+  for (const std::string& id : *outcome.errorFieldIds) std::cerr << ' ' << id;
+  std::cerr << '\n';
+  return rejected;
+}
+int explain(const FatalStop& stop) {
+  std::cerr << "This task would end the process: " << stop.reason << '\n';
+  return fatal;
+}
+int explain(const ExpansionTooLong& expansion) {
+  std::cerr << "This power would be written out with " << expansion.copies << " copies of its base\n";
+  return tooLong;
+}
+
+void printSteps(const SolutionSteps& steps, bool isRaw) {
+  std::size_t width = 0;
+  for (const SolutionStep& step : steps) width = std::max(width, step.title->size());
+  for (const SolutionStep& step : steps) {
+    std::cout << *step.title << std::string(width + 2 - step.title->size(), ' ')
+              << (isRaw ? *step.latexString : displayLatex(*step.latexString)) << '\n';
+  }
+}
+
+int solveOne(const std::string& first, const std::string& second, int mode, bool isRaw, bool isJson) {
+  const Rehearsal ending = solve(first, second, mode);
+  if (isJson) {
+    std::cout << jsonLine(ending) << '\n';
+  } else if (const auto* outcome = std::get_if<CalculationOutcome>(&ending);
+             outcome && outcome->solutionSteps) {
+    printSteps(*outcome->solutionSteps, isRaw);
+  }
+  return std::visit([](const auto& result) { return explain(result); }, ending);
+}
+
+std::optional<Rehearsal> answer(const std::string& line) {
+  const ordered_json task = ordered_json::parse(line, nullptr, false);
+  if (!task.is_object() || !task.contains("first") || !task.contains("second") || !task.contains("mode")) {
+    return std::nullopt;
+  }
+  const auto isText = [](const ordered_json& value) { return value.is_string() || value.is_null(); };
+  if (!isText(task["first"]) || !isText(task["second"]) || !task["mode"].is_number_integer())
+    return std::nullopt;
+  const auto text = [](const ordered_json& value) {
+    return value.is_null() ? std::nullopt : std::optional(value.get<std::string>());
+  };
+  // All modes beyond the two are alike.
+  const auto mode = task["mode"].get<std::int64_t>();
+  return solve(text(task["first"]), text(task["second"]),
+               mode == 0 || mode == 1 ? static_cast<int>(mode) : -1);
+}
+
+int solveLines() {
+  for (std::string line; std::getline(std::cin, line);) {
+    const std::optional<Rehearsal> ending = answer(line);
+    std::cout << (ending ? jsonLine(*ending) : R"({"malformed":true})") << std::endl;
+  }
+  return success;
+}
+
+}  // namespace
+
+int solveCommand(Arguments arguments) {
+  bool isRaw = false;
+  bool isJson = false;
+  bool isJsonLines = false;
+  std::vector<std::string> operands;
+  bool areOptionsOver = false;
+  for (const std::string_view argument : arguments) {
+    const bool isOption = !areOptionsOver && argument.starts_with("--") &&
+                          (argument.size() == 2 || (argument[2] >= 'a' && argument[2] <= 'z'));
+    if (!isOption) {
+      operands.emplace_back(argument);
+    } else if (argument == "--") {
+      areOptionsOver = true;
+    } else if (argument == "--help") {
+      std::cout << usage;
+      return success;
+    } else if (argument == "--raw") {
+      isRaw = true;
+    } else if (argument == "--json") {
+      isJson = true;
+    } else if (argument == "--json-lines") {
+      isJsonLines = true;
+    } else {
+      return usageError("solve has no option " + std::string(argument), usage);
+    }
+  }
+  if (isRaw + isJson + isJsonLines > 1)
+    return usageError("--raw, --json and --json-lines exclude each other", usage);
+  if (isJsonLines) {
+    return operands.empty() ? solveLines() : usageError("--json-lines takes no operands", usage);
+  }
+  if (operands.size() != 3) return usageError("solve takes a mode and two operands", usage);
+  const std::string& mode = operands[0];
+  if (mode != "power" && mode != "root") return usageError("the mode is power or root", usage);
+  const int modeNumber = mode == "power" ? TaviExponentSolver::powerMode : TaviExponentSolver::rootMode;
+  return solveOne(operands[1], operands[2], modeNumber, isRaw, isJson);
+}
+
+}  // namespace tavi::cli

@@ -1,0 +1,65 @@
+// tavi-cli: the engine's workbench on the command line.
+#include <algorithm>
+#include <array>
+#include <iostream>
+#include <string_view>
+#include <vector>
+
+#include "commands.h"
+
+namespace tavi::cli {
+namespace {
+
+struct Command {
+  std::string_view name;
+  std::string_view summary;
+  int (*run)(Arguments arguments);
+};
+
+constexpr std::array commands{
+    Command{"solve", "the working of a power or a root, step by step", solveCommand},
+    Command{"display-latex", "filters stored lines of LaTeX into what is typeset", displayLatexCommand},
+};
+
+void printUsage(std::ostream& out) {
+  out << "Usage: tavi-cli COMMAND [arguments]\n\n";
+  for (const Command& command : commands) {
+    out << "  " << command.name << std::string(16 - command.name.size(), ' ') << command.summary << '\n';
+  }
+  out << "\ntavi-cli COMMAND --help tells more of each.\n";
+}
+
+int run(Arguments arguments) {
+  if (arguments.empty()) {
+    printUsage(std::cerr);
+    return wrongUsage;
+  }
+  const std::string_view name = arguments.front();
+  if (name == "--help" || name == "help") {
+    printUsage(std::cout);
+    return success;
+  }
+  const auto command = std::find_if(commands.begin(), commands.end(),
+                                    [name](const Command& candidate) { return candidate.name == name; });
+  if (command == commands.end()) {
+    std::cerr << "tavi-cli: no command " << name << "\n\n";
+    printUsage(std::cerr);
+    return wrongUsage;
+  }
+  return command->run(arguments.subspan(1));
+}
+
+}  // namespace
+
+int usageError(std::string_view problem, std::string_view usage) {
+  std::cerr << "tavi-cli: " << problem << "\n\n" << usage;
+  return wrongUsage;
+}
+
+}  // namespace tavi::cli
+
+int main(int argc, char** argv) {
+  std::ios::sync_with_stdio(false);
+  const std::vector<std::string_view> arguments(argv + 1, argv + argc);
+  return tavi::cli::run(arguments);
+}
