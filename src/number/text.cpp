@@ -16,6 +16,7 @@ std::string joined(std::initializer_list<std::string_view> pieces) {
 
 std::string replacedAll(std::string_view text, std::string_view pattern, std::string_view replacement) {
   std::string result;
+  result.reserve(text.size());
   std::size_t from = 0;
   for (std::size_t at = text.find(pattern); at != std::string_view::npos; at = text.find(pattern, from)) {
     result += text.substr(from, at - from);

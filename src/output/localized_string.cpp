@@ -22,7 +22,7 @@ const std::string& LocalizedText::text() const {
     const TextLookup& lookup = installedLookup();
     text_ = lookup ? lookup(key_, comment_) : std::string(key_);
   });
-  return text_;
+  return *text_;
 }
 
 }  // namespace tavi

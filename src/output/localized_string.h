@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <mutex>
+#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,8 +15,9 @@ using TextLookup = std::function<std::string(std::string_view key, std::string_v
 /// that a change of language takes effect at the next start. With no lookup installed the key is the text.
 class LocalizedText {
  public:
-  explicit LocalizedText(std::string_view key) : LocalizedText(key, key) {}
-  LocalizedText(std::string_view key, std::string_view comment) : key_(key), comment_(comment) {}
+  // Constant expressions, so that no text is read before it is made.
+  explicit constexpr LocalizedText(std::string_view key) : LocalizedText(key, key) {}
+  constexpr LocalizedText(std::string_view key, std::string_view comment) : key_(key), comment_(comment) {}
 
   /// Installs the one lookup of all texts; to be called before the first text is read.
   static void installLookup(TextLookup lookup);
@@ -27,35 +29,36 @@ class LocalizedText {
   std::string_view key_;
   std::string_view comment_;
   mutable std::once_flag isLookedUp_;
-  mutable std::string text_;
+  mutable std::optional<std::string> text_;
 };
 
 /// The texts that more than one place uses or that the working is written with.
 struct LocalizedString {
   LocalizedString() = delete;
 
-  inline static const LocalizedText fillInYourGivenNumbers{"Fill in your given numbers:"};
-  inline static const LocalizedText yourInput{"Your Input", "The input title in solution view"};
-  inline static const LocalizedText expand{"Expand"};
-  inline static const LocalizedText modifiedInput{"Modified Input"};
-  inline static const LocalizedText step{"Step", "The input title in solution view"};
-  inline static const LocalizedText result{"Result", "The final result in solution view"};
-  inline static const LocalizedText noSolution{"noSolution", ""};
-  inline static const LocalizedText recommendedVideoIfUnclear{"recommendedVideoIfUnclear",
-                                                              "Recommended video if unclear"};
-  inline static const LocalizedText touchTounlock{"touchTounlock", "Touch to unlock"};
-  inline static const LocalizedText cancel{"Cancel"};
-  inline static const LocalizedText convert{"Convert", "to convert the formula"};
-  inline static const LocalizedText rate{"Rate"};
-  inline static const LocalizedText send{"Send"};
-  inline static const LocalizedText close{"Close"};
-  inline static const LocalizedText thanks{"Thanks"};
-  inline static const LocalizedText error{"error", "Error"};
-  inline static const LocalizedText cancelMath{"Cancel (math)"};  ///< The arithmetic sense: of a fraction.
-  inline static const LocalizedText extractARoot{"Extract a root"};
-  inline static const LocalizedText calculatePower{"Calculate power"};
-  inline static const LocalizedText reciprocal{"Reciprocal"};
-  inline static const LocalizedText taviSolver{"Tavi Solver"};
+  inline static constinit const LocalizedText fillInYourGivenNumbers{"Fill in your given numbers:"};
+  inline static constinit const LocalizedText yourInput{"Your Input", "The input title in solution view"};
+  inline static constinit const LocalizedText expand{"Expand"};
+  inline static constinit const LocalizedText modifiedInput{"Modified Input"};
+  inline static constinit const LocalizedText step{"Step", "The input title in solution view"};
+  inline static constinit const LocalizedText result{"Result", "The final result in solution view"};
+  inline static constinit const LocalizedText noSolution{"noSolution", ""};
+  inline static constinit const LocalizedText recommendedVideoIfUnclear{"recommendedVideoIfUnclear",
+                                                                        "Recommended video if unclear"};
+  inline static constinit const LocalizedText touchTounlock{"touchTounlock", "Touch to unlock"};
+  inline static constinit const LocalizedText cancel{"Cancel"};
+  inline static constinit const LocalizedText convert{"Convert", "to convert the formula"};
+  inline static constinit const LocalizedText rate{"Rate"};
+  inline static constinit const LocalizedText send{"Send"};
+  inline static constinit const LocalizedText close{"Close"};
+  inline static constinit const LocalizedText thanks{"Thanks"};
+  inline static constinit const LocalizedText error{"error", "Error"};
+  inline static constinit const LocalizedText cancelMath{
+      "Cancel (math)"};  ///< The arithmetic sense: of a fraction.
+  inline static constinit const LocalizedText extractARoot{"Extract a root"};
+  inline static constinit const LocalizedText calculatePower{"Calculate power"};
+  inline static constinit const LocalizedText reciprocal{"Reciprocal"};
+  inline static constinit const LocalizedText taviSolver{"Tavi Solver"};
 };
 
 }  // namespace tavi

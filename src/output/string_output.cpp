@@ -1,5 +1,7 @@
 #include "output/string_output.h"
 
+#include <utility>
+
 #include "number/fatal_stop.h"
 #include "number/text.h"
 #include "output/localized_string.h"
@@ -11,8 +13,8 @@ TaviStringOutput& TaviStringOutput::shared() {
   return instance;
 }
 
-void TaviStringOutput::addStep(std::string_view title, std::string_view latexString) {
-  solutionSteps.push_back({std::string(title), std::string(latexString), std::nullopt});
+void TaviStringOutput::addStep(std::string_view title, std::string latexString) {
+  solutionSteps.push_back({std::string(title), std::move(latexString), std::nullopt});
 }
 
 std::string TaviStringOutput::numberedTitle(std::string_view title) {

@@ -1,5 +1,6 @@
 #include "solution/display_latex.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <span>
@@ -49,47 +50,99 @@ constexpr std::array<std::string_view, 10> labels{"I\\right)",  "II\\right)", "I
                                                   "IX\\right)", "X\\right)"};
 constexpr std::string_view closing = "\\right)";
 
-void apply(std::span<const Rule> rules, std::string& line) {
-  for (const Rule& rule : rules) {
-    if (line.find(rule.occurrence) != std::string::npos) {
-      line = replacedAll(line, rule.occurrence, rule.replacement);
+// Rewrites one line in place. The spare string keeps its memory from rule to rule.
+class Rewriter {
+ public:
+  explicit Rewriter(std::string& line) : line_(line) { spare_.reserve(line.size() + line.size() / 2); }
+
+  // Replaces all occurrences, from the left and without overlap; tells whether there was one.
+  bool replaceAll(std::string_view occurrence, std::string_view replacement) {
+    std::size_t at = line_.find(occurrence);
+    if (at == std::string::npos) return false;
+    spare_.clear();
+    std::size_t from = 0;
+    for (; at != std::string::npos; at = line_.find(occurrence, from)) {
+      spare_.append(line_, from, at - from);
+      spare_ += replacement;
+      from = at + occurrence.size();
     }
+    spare_.append(line_, from);
+    line_.swap(spare_);
+    return true;
   }
-}
 
-// Drops ".0" at the end, and the first ".0" unless a digit follows; one that is followed by a digit shields
-// all later ones.
-void dropZeroFraction(std::string& line) {
-  constexpr std::string_view zeros = ".0";
-  if (line.ends_with(zeros)) line.resize(line.size() - zeros.size());
-  const std::size_t at = line.find(zeros);
-  if (at == std::string::npos) return;
-  const std::size_t behind = at + zeros.size();
-  if (behind < line.size() && line[behind] >= '0' && line[behind] <= '9') return;
-  line.erase(at, zeros.size());
-}
-
-void restoreLabel(std::string& line) {
-  for (const std::string_view label : labels) {
-    if (!line.starts_with(label)) continue;
-    const std::string_view numeral = label.substr(0, label.size() - closing.size());
-    line = replacedAll(line, label, joined({numeral, ")"}));
+  bool apply(std::span<const Rule> rules) {
+    bool isAnyApplied = false;
+    for (const Rule& rule : rules) isAnyApplied |= replaceAll(rule.occurrence, rule.replacement);
+    return isAnyApplied;
   }
-}
+
+  // Drops ".0" at the end, and the first ".0" unless a digit follows; one that is followed by a digit shields
+  // all later ones.
+  void dropZeroFraction() {
+    if (line_.ends_with(zeros)) line_.resize(line_.size() - zeros.size());
+    const std::size_t at = line_.find(zeros);
+    if (at != std::string::npos && !isDigitAt(at + zeros.size())) line_.erase(at, zeros.size());
+  }
+
+  // Drops in one sweep what `dropZeroFraction` would drop in as many passes, for a line to which no other
+  // rule applies: as long as no drop brings a rule back. Without it a long line costs a pass for each ".0".
+  void dropSettledZeroFractions() {
+    std::size_t kept = 0;
+    std::size_t from = 0;
+    for (std::size_t at = line_.find(zeros); at != std::string::npos; at = line_.find(zeros, from)) {
+      if (isDigitAt(at + zeros.size()) || !isDroppedAlone(at)) break;
+      std::copy(&line_[from], &line_[at], &line_[kept]);
+      kept += at - from;
+      from = at + zeros.size();
+    }
+    line_.erase(kept, from - kept);
+  }
+
+  bool restoreLabel() {
+    for (const std::string_view label : labels) {
+      if (!line_.starts_with(label)) continue;
+      const std::string_view numeral = label.substr(0, label.size() - closing.size());
+      return replaceAll(label, joined({numeral, ")"}));
+    }
+    return false;
+  }
+
+ private:
+  static constexpr std::string_view zeros = ".0";
+
+  bool isDigitAt(std::size_t at) const { return at < line_.size() && line_[at] >= '0' && line_[at] <= '9'; }
+
+  // True when what meets once the ".0" at `at` is gone is part of no rule: there is a digit before it, and it
+  // makes neither " 1x" nor " 0x" nor another ".0".
+  bool isDroppedAlone(std::size_t at) const {
+    if (at < 2 || !isDigitAt(at - 1)) return false;
+    const char before = line_[at - 2];
+    const bool isBeforeX = line_.compare(at + zeros.size(), 1, "x") == 0;
+    return before != '.' && !(before == ' ' && isBeforeX);
+  }
+
+  std::string& line_;
+  std::string spare_;
+};
 
 }  // namespace
 
 std::string displayLatex(std::string_view latex) {
   std::string line(latex);
   std::string before;
+  Rewriter rewriter(line);
   do {
     before = line;
-    apply(rulesBeforeZeros, line);
-    dropZeroFraction(line);
-    apply(rulesAfterZeros, line);
-    restoreLabel(line);
+    rewriter.apply(rulesBeforeZeros);
+    const bool isUnchanged = line == before;
+    rewriter.dropZeroFraction();
+    const bool isRewritten = rewriter.apply(rulesAfterZeros);
+    const bool isRelabelled = rewriter.restoreLabel();
+    if (isUnchanged && !isRewritten && !isRelabelled && line != before) rewriter.dropSettledZeroFractions();
   } while (line != before);
-  return replacedAll(line, "\\color", "\\;\\color");
+  rewriter.replaceAll("\\color", "\\;\\color");
+  return line;
 }
 
 }  // namespace tavi

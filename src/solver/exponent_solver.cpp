@@ -1,5 +1,7 @@
 #include "solver/exponent_solver.h"
 
+#include <utility>
+
 #include "input/input_manager.h"
 #include "number/fatal_stop.h"
 
@@ -53,8 +55,8 @@ std::string TaviExponentSolver::task() const {
   return required(elementAt(output.solutionSteps, 0).latexString, "a first step without a formula");
 }
 
-void TaviExponentSolver::addNumberedStep(std::string_view title, std::string_view latexString) {
-  output.addStep(output.numberedTitle(title), latexString);
+void TaviExponentSolver::addNumberedStep(std::string_view title, std::string latexString) {
+  output.addStep(output.numberedTitle(title), std::move(latexString));
 }
 
 }  // namespace tavi

@@ -57,14 +57,20 @@ class TaviExponentSolver {
 
   // The work that powers and roots share: `base` to the positive exponent z/n, first the power z, then the
   // root n, then the result. Raising replaces `base`.
+  struct RootFrame {
+    std::string open, close;
+    std::string around(std::string_view radicand) const;
+  };
+  static RootFrame rootFrame(double n);
+
   void solveExponent(const Digit& exponent, std::shared_ptr<Digit>& base, std::string_view task);
-  void writePower(const Digit& exponent, std::shared_ptr<Digit>& base, std::string_view rootTemplate);
-  bool writeRoot(const Digit& exponent, Digit& base, std::string_view rootTemplate);
+  void writePower(const Digit& exponent, std::shared_ptr<Digit>& base, const RootFrame& root);
+  bool writeRoot(const Digit& exponent, Digit& base, const RootFrame& root);
   void writeResult(const Digit& exponent, const Digit& base, std::string_view task);
 
   // The LaTeX of the task as typed: the line of the first step.
   std::string task() const;
-  void addNumberedStep(std::string_view title, std::string_view latexString);
+  void addNumberedStep(std::string_view title, std::string latexString);
 };
 
 }  // namespace tavi

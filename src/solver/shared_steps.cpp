@@ -11,19 +11,6 @@ namespace tavi {
 
 namespace {
 
-constexpr std::string_view placeMark = "§";
-
-// The root that stays open around a power while it is calculated; `placeMark` stands for its radicand.
-std::string rootTemplate(double n) {
-  if (n == 1) return std::string(placeMark);
-  if (n == 2) return joined({"\\sqrt{", placeMark, "}"});
-  return joined({"\\sqrt[", doubleText(n), "]{", placeMark, "}"});
-}
-
-std::string filled(std::string_view rootTemplate, std::string_view radicand) {
-  return replacedAll(rootTemplate, placeMark, radicand);
-}
-
 std::string colored(std::string_view color, std::string_view latex) {
   return joined({"\\color{", color, "}{", latex, "}"});
 }
@@ -40,39 +27,49 @@ double rootValue(double value, double n) {
 
 }  // namespace
 
+std::string TaviExponentSolver::RootFrame::around(std::string_view radicand) const {
+  return joined({open, radicand, close});
+}
+
+// The root with this index, still open around what is calculated under it; none for index 1.
+TaviExponentSolver::RootFrame TaviExponentSolver::rootFrame(double n) {
+  if (n == 1) return {"", ""};
+  if (n == 2) return {"\\sqrt{", "}"};
+  return {joined({"\\sqrt[", doubleText(n), "]{"}), "}"};
+}
+
 void TaviExponentSolver::solveExponent(const Digit& exponent, std::shared_ptr<Digit>& base,
                                        std::string_view task) {
-  const std::string root = rootTemplate(exponent.n);
+  const RootFrame root = rootFrame(exponent.n);
   if (required(exponent.z, "an exponent without a number") > 1) writePower(exponent, base, root);
   if (exponent.n != 1 && !writeRoot(exponent, *base, root)) return;
   writeResult(exponent, *base, task);
 }
 
 void TaviExponentSolver::writePower(const Digit& exponent, std::shared_ptr<Digit>& base,
-                                    std::string_view rootTemplate) {
+                                    const RootFrame& root) {
   const double power = *exponent.z;
   const std::string baseText = TaviStringOutput::digitLatex(*base);
   // Of all numbered steps this one alone has no "=" in front.
-  addNumberedStep(
-      LocalizedString::calculatePower.text(),
-      filled(rootTemplate, joined({baseText, "^{", colored(TaviColor::acting, doubleText(power)), "}"})));
+  addNumberedStep(LocalizedString::calculatePower.text(),
+                  root.around(joined({baseText, "^{", colored(TaviColor::acting, doubleText(power)), "}"})));
 
   const std::int64_t copies = truncatedToInt64(power);
   if (copies > expansionLimit) throw ExpansionTooLong{copies};
   const std::string factor = joined({"\\left( ", baseText, " \\right) "});
-  std::string expansion;
-  expansion.reserve(factor.size() * static_cast<std::size_t>(copies));
+  std::string expansion = joined({"=", root.open});
+  expansion.reserve(expansion.size() + factor.size() * static_cast<std::size_t>(copies) + root.close.size());
   for (std::int64_t i = 0; i < copies; ++i) expansion += factor;
-  output.addStep("", joined({"=", filled(rootTemplate, expansion)}));
+  expansion += root.close;
+  output.addStep("", std::move(expansion));
 
   base = TaviMathOperation::raised(*base, power);
   output.addStep(
-      "",
-      joined({"=", filled(rootTemplate, colored(TaviColor::finished, TaviStringOutput::digitLatex(*base)))}));
+      "", joined({"=", root.around(colored(TaviColor::finished, TaviStringOutput::digitLatex(*base)))}));
 }
 
 // False when the root does not exist, which ends the solution.
-bool TaviExponentSolver::writeRoot(const Digit& exponent, Digit& base, std::string_view rootTemplate) {
+bool TaviExponentSolver::writeRoot(const Digit& exponent, Digit& base, const RootFrame& root) {
   const double n = exponent.n;
   const bool isEven = truncatedToInt64(n) % 2 == 0;
   if (isEven && required(base.value(), "a base without a number") < 0) {
@@ -89,12 +86,12 @@ bool TaviExponentSolver::writeRoot(const Digit& exponent, Digit& base, std::stri
                                  const std::string& denominator) {
     return joined({"=", isFraction ? fraction(side(numerator), side(denominator)) : side(numerator)});
   };
-  const auto inRoot = [&](const std::string& side) { return filled(rootTemplate, side); };
+  const auto inRoot = [&](const std::string& side) { return root.around(side); };
   const auto extracted = [&](const std::string& side) {
     return joined({"\\sqrt[", colored(TaviColor::acting, index), "]{", side, "}"});
   };
   const auto undone = [&](const std::string& side) {
-    return filled(rootTemplate, joined({side, "^{", colored(TaviColor::numerator, index), "}"}));
+    return root.around(joined({side, "^{", colored(TaviColor::numerator, index), "}"}));
   };
   const auto exponentsCancel = [&](const std::string& side) {
     return joined({side, "^{", fraction(index, index), "}"});

@@ -1,0 +1,99 @@
+#include <array>
+#include <cstdio>
+#include <string>
+
+#include <gtest/gtest.h>
+#include <sys/wait.h>
+
+namespace tavi {
+namespace {
+
+struct Finished {
+  std::string output;
+  int exitCode = -1;
+};
+
+// Runs tavi-cli through the shell; `arguments` may hold quotes and redirections.
+Finished cli(const std::string& arguments, const std::string& input = "") {
+  const std::string command = "printf '%s' '" + input + "' | " TAVI_CLI " " + arguments;
+  FILE* pipe = popen(command.c_str(), "r");
+  Finished finished;
+  std::array<char, 4096> buffer{};
+  for (std::size_t size = 0; (size = fread(buffer.data(), 1, buffer.size(), pipe)) > 0;) {
+    finished.output.append(buffer.data(), size);
+  }
+  finished.exitCode = WEXITSTATUS(pclose(pipe));
+  return finished;
+}
+
+TEST(Cli, PrintsAWorkingAsShownStoredOrJson) {
+  const Finished shown = cli("solve root '' 2");
+  EXPECT_EQ(shown.exitCode, 0);
+  EXPECT_EQ(shown.output,
+            "Your Input                \\sqrt[2]{2}\n"
+            "Step 1    Extract a root  =\\sqrt[\\;\\color{#ff3333}{2}]{2}\n"
+            "                          =\\sqrt{1.4142135624^{\\;\\color{#5774f7}{2}}}\n"
+            "                          =1.4142135624^{\\frac{2}{2}}\n"
+            "                          =\\;\\color{#009900}{1.4142135624}\n"
+            "Result                    \\sqrt[2]{2} = 1.4142135624\n"
+            "                          \\sqrt[2]{2} = -1.4142135624\n");
+  EXPECT_NE(cli("solve --raw power -2 3/2").output.find("{2.0}"), std::string::npos);
+  EXPECT_EQ(cli("solve --json power 1 -7").output,
+            R"({"steps":[{"title":"Your Input","latexString":"-7^{1}"},)"
+            R"({"title":"Result","latexString":"-7^{1} = -7"}],"latexString":"-7^{1}"})"
+            "\n");
+}
+
+TEST(Cli, ExitCodesTellHowATaskEnds) {
+  const Finished rejected = cli("solve power 1/ 2 2>&1");
+  EXPECT_EQ(rejected.exitCode, 2);
+  EXPECT_EQ(rejected.output, "fractionIncomplete aTextField\n");
+  EXPECT_EQ(cli("solve power '' '' 2>&1").output, "notEnoughInputValues aTextField xTextField\n");
+  EXPECT_EQ(cli("solve power 2 1.000001/3 2>/dev/null").exitCode, 3);
+  EXPECT_EQ(cli("solve power 100001 2 2>/dev/null").exitCode, 4);
+  for (const char* wrong :
+       {"", "sovle", "solve", "solve power 2", "solve cube 2 3", "solve --rwa power 2 3",
+        "solve --raw --json power 2 3", "solve --json-lines power 2 3", "display-latex x"}) {
+    EXPECT_EQ(cli(std::string(wrong) + " 2>/dev/null").exitCode, 64) << wrong;
+  }
+  for (const char* help : {"--help", "solve --help", "display-latex --help"}) {
+    const Finished finished = cli(help);
+    EXPECT_EQ(finished.exitCode, 0) << help;
+    EXPECT_TRUE(finished.output.starts_with("Usage: tavi-cli")) << help;
+  }
+}
+
+TEST(Cli, AnswersJsonLineByLine) {
+  const std::pair<std::string, std::string> exchanges[] = {
+      {R"x({"first":"1","second":"7","mode":0})x",
+       R"x({"steps":[{"title":"Your Input","latexString":"7^{1}"},{"title":"Result","latexString":"7^{1} = 7"}],)x"
+       R"x("latexString":"7^{1}"})x"},
+      {R"x({"first":null,"second":"7","mode":0})x",
+       R"x({"errorKey":"notEnoughInputValues","errorFieldIds":["aTextField"]})x"},
+      {R"x({"first":"()","second":"7","mode":0})x", R"x({"fatal":true})x"},
+      {R"x({"first":"100001","second":"7","mode":0})x", R"x({"huge":100001})x"},
+      {"[", R"x({"malformed":true})x"},
+      {"", R"x({"malformed":true})x"},
+      {R"x({"first":3,"second":"7","mode":0})x", R"x({"malformed":true})x"},
+      {R"x({"first":"3","second":"7","mode":0.5})x", R"x({"malformed":true})x"},
+      {R"x({"first":"3","mode":0})x", R"x({"malformed":true})x"},
+      {R"x({"first":"3","second":"7","mode":18446744073709551615})x",
+       R"x({"steps":[{"title":"Your Input","latexString":""}],"latexString":""})x"},
+  };
+  std::string questions;
+  std::string answers;
+  for (const auto& [question, answer] : exchanges) {
+    questions += question + '\n';
+    answers += answer + '\n';
+  }
+  const Finished finished = cli("solve --json-lines", questions);
+  EXPECT_EQ(finished.exitCode, 0);
+  EXPECT_EQ(finished.output, answers);
+}
+
+TEST(Cli, FiltersLinesIntoWhatIsTypeset) {
+  EXPECT_EQ(cli("display-latex", "1.0\n(a)\n").output, "1\n\\left(a\\right)\n");
+}
+
+}  // namespace
+}  // namespace tavi
