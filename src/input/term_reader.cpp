@@ -73,7 +73,7 @@ SubstringAnalysis analyseSubstring(const std::string& text) {
   std::string number = text;
   for (const NaturalConstant& constant : analysis.constants) number = withoutSymbol(number, constant.key);
 
-  const SubstringAnalysis found = findVariable(text);
+  SubstringAnalysis found = findVariable(text);
   if (found.errorKey) return found;
   if (!found.variable.empty()) number = withoutSymbol(number, found.variable);
   analysis.variable = found.variable;

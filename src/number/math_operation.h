@@ -34,8 +34,8 @@ class TaviMathOperation {
   /// Reduces the fraction of `digit`, which itself stays as it is, by the greatest common divisor of its
   /// parts as integers, and takes a constant away that stands alike on both sides. Absent when there is
   /// nothing to cancel; a negative denominator alone is no cancellation. `divisor` tells afterwards what it
-  /// divided by, sign included. With both parts above 1 in size, a part that lies below 2 or is no 64-bit
-  /// integer: fatal stop.
+  /// divided by, sign included. With both parts above 1 in size, fatal stop when the smaller lies below 2 or
+  /// one does not fit a signed 64-bit integer.
   std::optional<Cancellation> cancelDown(const Digit& digit);
 
   /// The constants that equal no record of `common`, in order.

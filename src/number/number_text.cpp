@@ -1,13 +1,12 @@
 #include "number/number_text.h"
 
-#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
 #include <cstddef>
 
-#include <locale.h>
-#include <stdlib.h>
+#include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is no C++
+#include <stdlib.h>  // NOLINT(modernize-deprecated-headers): nor is strtod_l
 
 #include "number/fatal_stop.h"
 
@@ -43,9 +42,9 @@ ShortestDigits shortestDigits(double magnitude) {
   return shortest;
 }
 
-// Rounds half to even so that at most `fractionDigits` digits stay behind the point; drops trailing zeros. No
+// So that at most `fractionDigits` digits stay behind the point; drops trailing zeros. No
 // digits are left of a number that rounds to zero.
-void round(ShortestDigits& number, int fractionDigits) {
+void roundHalfToEven(ShortestDigits& number, int fractionDigits) {
   std::string& digits = number.digits;
   const int kept = number.pointAt + fractionDigits;
   if (kept < 0) {
@@ -73,6 +72,7 @@ void round(ShortestDigits& number, int fractionDigits) {
 // strtod needs a locale object of its own: the C locale, whatever the program has set.
 locale_t posixLocale() {
   static const locale_t locale = newlocale(LC_ALL_MASK, "C", nullptr);
+  if (locale == nullptr) fatalStop("no memory for the C locale");
   return locale;
 }
 
@@ -101,7 +101,7 @@ std::string generalText(double value) {
 double readGeneralText(std::string_view text) {
   double value = 0;
   const auto result = std::from_chars(text.data(), text.data() + text.size(), value);
-  if (result.ec != std::errc() || !std::isfinite(value)) fatalStop("a text that is no finite number");
+  if (result.ec != std::errc()) fatalStop("a text that is no number");
   return value;
 }
 
@@ -122,7 +122,7 @@ std::string decimalText(double value, int maximumFractionDigits) {
   ShortestDigits number;
   if (value != 0) {
     number = shortestDigits(std::abs(value));
-    round(number, maximumFractionDigits);
+    roundHalfToEven(number, maximumFractionDigits);
   }
   const std::string& digits = number.digits;
   if (digits.empty()) return text + "0";
@@ -137,9 +137,9 @@ std::string decimalText(double value, int maximumFractionDigits) {
     text.append(pointAt - digits.size(), '0');
     return text;
   }
-  text.append(digits, 0, pointAt);
+  text += std::string_view(digits).substr(0, pointAt);
   text += '.';
-  text.append(digits, pointAt, std::string::npos);
+  text += std::string_view(digits).substr(pointAt);
   return text;
 }
 

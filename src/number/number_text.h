@@ -16,7 +16,7 @@ std::string doubleText(double value);
 /// printf's "%g": six significant digits.
 std::string generalText(double value);
 
-/// Reads a text of `generalText` back. Infinite or not a number: fatal stop.
+/// Reads a text of `generalText` back; inf and nan, too.
 double readGeneralText(std::string_view text);
 
 /// The double that a whole text stands for, by the rules of strtod in the POSIX locale: signs, a trailing

@@ -119,7 +119,7 @@ void TaviFormulaUnit::installReader(ResourceReader reader) {
 
 void TaviFormulaUnit::loadUnits(std::string_view resourceName) {
   const auto content = reader_ ? reader_(resourceName, "json") : std::nullopt;
-  if (!content) throw FormulaError::configurationFailed;
+  if (!content) throw FormulaError{FormulaError::configurationFailed};
   units = json::parse(*content).get<std::vector<Unit>>();
 }
 

@@ -17,7 +17,7 @@ constexpr std::string_view negativeInfinity = "-\\infty";
 
 // Puts `factor` behind `number`, with `blank` between them; a factor of 1 or -1 is not written: its 1 gives
 // way.
-void multiply(std::string& number, std::string_view factor, std::string_view blank) {
+void appendFactor(std::string& number, std::string_view factor, std::string_view blank) {
   if (number == "1" || number == "-1") {
     number.pop_back();
   } else {
@@ -39,7 +39,7 @@ std::string variablePower(std::string_view variable, double power) {
 
 // One side of the fraction of a digit, its constants behind it.
 std::string side(std::string number, std::span<const NaturalConstant> constants) {
-  for (const NaturalConstant& constant : constants) multiply(number, constant.latex, "");
+  for (const NaturalConstant& constant : constants) appendFactor(number, constant.latex, "");
   return number;
 }
 
@@ -53,6 +53,7 @@ std::string numericPart(const Digit& digit, double z, const DigitStyle& style) {
   const std::string numerator = side(decimalText(shown(z), style.maximumFractionDigits), digit.zConstants);
   if (n == 1 && digit.nConstants.empty() && !style.forceFraction) return joined({sign, numerator});
   const double shortened = readGeneralText(generalText(shown(n)));
+  if (!std::isfinite(shortened)) fatalStop("a denominator that is no finite number");
   const std::string denominator = side(decimalText(shortened, style.maximumFractionDigits), digit.nConstants);
   return joined({sign, "\\frac{", numerator, "}{", denominator, "}"});
 }
@@ -71,7 +72,7 @@ std::string TaviStringOutput::digitLatex(const Digit& digit, const DigitStyle& s
   } else {
     result = numericPart(digit, *digit.z, style);
   }
-  if (const auto variable = variableLatex(digit)) multiply(result, *variable, " ");
+  if (const auto variable = variableLatex(digit)) appendFactor(result, *variable, " ");
   if (style.withBrackets.value_or(result.starts_with('-'))) {
     result = joined({"\\left(", result, "\\right)"});
   }
@@ -100,7 +101,7 @@ std::string TaviStringOutput::numberLatex(double value, const NumberStyle& style
       result = number + constants;
     }
   }
-  if (!style.variable.empty()) multiply(result, style.variable, " ");
+  if (!style.variable.empty()) appendFactor(result, style.variable, " ");
   appendUnit(result, style.unit);
   return result;
 }

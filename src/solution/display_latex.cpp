@@ -50,6 +50,21 @@ constexpr std::array<std::string_view, 10> labels{"I\\right)",  "II\\right)", "I
                                                   "IX\\right)", "X\\right)"};
 constexpr std::string_view closing = "\\right)";
 
+// True when a rule looks for something that stands across the seam of `left` and `right`.
+bool bringsRuleBack(std::string_view left, std::string_view right) {
+  const auto isAcross = [left, right](std::string_view occurrence) {
+    for (std::size_t split = 1; split < occurrence.size(); ++split) {
+      if (left.ends_with(occurrence.substr(0, split)) && right.starts_with(occurrence.substr(split)))
+        return true;
+    }
+    return false;
+  };
+  const auto isRuleAcross = [&](const Rule& rule) { return isAcross(rule.occurrence); };
+  return std::any_of(rulesBeforeZeros.begin(), rulesBeforeZeros.end(), isRuleAcross) ||
+         std::any_of(rulesAfterZeros.begin(), rulesAfterZeros.end(), isRuleAcross) ||
+         std::any_of(labels.begin(), labels.end(), isAcross);
+}
+
 // Rewrites one line in place. The spare string keeps its memory from rule to rule.
 class Rewriter {
  public:
@@ -91,10 +106,13 @@ class Rewriter {
     std::size_t kept = 0;
     std::size_t from = 0;
     for (std::size_t at = line_.find(zeros); at != std::string::npos; at = line_.find(zeros, from)) {
-      if (isDigitAt(at + zeros.size()) || !isDroppedAlone(at)) break;
+      const std::size_t behind = at + zeros.size();
       std::copy(&line_[from], &line_[at], &line_[kept]);
       kept += at - from;
-      from = at + zeros.size();
+      from = at;
+      const std::string_view line(line_);
+      if (isDigitAt(behind) || bringsRuleBack(line.substr(0, kept), line.substr(behind))) break;
+      from = behind;
     }
     line_.erase(kept, from - kept);
   }
@@ -112,15 +130,6 @@ class Rewriter {
   static constexpr std::string_view zeros = ".0";
 
   bool isDigitAt(std::size_t at) const { return at < line_.size() && line_[at] >= '0' && line_[at] <= '9'; }
-
-  // True when what meets once the ".0" at `at` is gone is part of no rule: there is a digit before it, and it
-  // makes neither " 1x" nor " 0x" nor another ".0".
-  bool isDroppedAlone(std::size_t at) const {
-    if (at < 2 || !isDigitAt(at - 1)) return false;
-    const char before = line_[at - 2];
-    const bool isBeforeX = line_.compare(at + zeros.size(), 1, "x") == 0;
-    return before != '.' && !(before == ' ' && isBeforeX);
-  }
 
   std::string& line_;
   std::string spare_;

@@ -23,7 +23,7 @@ struct CalculationOutcome {
   std::optional<std::string> latexString{};
 };
 
-/// Ends a solver with an `expansionLimit` that the expansion of a power would pass.
+/// Thrown when a power would be written out with more copies of its base than `expansionLimit`.
 struct ExpansionTooLong {
   std::int64_t copies = 0;
 };
@@ -34,8 +34,8 @@ class TaviExponentSolver {
   static constexpr int powerMode = 0;
   static constexpr int rootMode = 1;
 
-  explicit TaviExponentSolver(TaviStringOutput& output = TaviStringOutput::shared(),
-                              TaviMathOperation& operation = TaviMathOperation::shared());
+  explicit TaviExponentSolver(TaviStringOutput& collector = TaviStringOutput::shared(),
+                              TaviMathOperation& arithmetic = TaviMathOperation::shared());
 
   /// Solves "first text over second text": exponent and base in mode 0, root index (2 by default) and
   /// radicand in mode 1; any other mode runs the analysis alone. Writes the steps into the collector, which
@@ -49,20 +49,22 @@ class TaviExponentSolver {
   std::optional<std::vector<std::shared_ptr<Digit>>> allInputs;
 
   /// The most copies of a base that a power is written out with; beyond it `ExpansionTooLong` is thrown.
+  /// Without a limit the expansion of a large exponent ends in std::bad_alloc.
   std::int64_t expansionLimit = std::numeric_limits<std::int64_t>::max();
 
  private:
   void calculatePower();
   void calculateRoot();
 
-  // The work that powers and roots share: `base` to the positive exponent z/n, first the power z, then the
-  // root n, then the result. Raising replaces `base`.
+  // A root still open around what is calculated under it.
   struct RootFrame {
     std::string open, close;
     std::string around(std::string_view radicand) const;
   };
   static RootFrame rootFrame(double n);
 
+  // The work that powers and roots share: `base` to the positive exponent z/n, first the power z, then the
+  // root n, then the result. Raising replaces `base`.
   void solveExponent(const Digit& exponent, std::shared_ptr<Digit>& base, std::string_view task);
   void writePower(const Digit& exponent, std::shared_ptr<Digit>& base, const RootFrame& root);
   bool writeRoot(const Digit& exponent, Digit& base, const RootFrame& root);

@@ -23,7 +23,8 @@ void TaviExponentSolver::calculatePower() {
     return;
   }
 
-  if (required(exponent.value(), "an exponent without a number") < 0) {
+  // Written, so known.
+  if (*exponent.value() < 0) {
     exponent.z = std::abs(*exponent.z);
     exponent.n = std::abs(exponent.n);
     exponentText = TaviStringOutput::digitLatex(exponent);
@@ -39,7 +40,7 @@ void TaviExponentSolver::calculatePower() {
     return;
   }
 
-  const double z = required(exponent.z, "an exponent without a number");
+  const double z = *exponent.z;
   if (exponent.n == 0) {
     const double power = std::pow(required(base->value(), "a base without a number"), z / exponent.n);
     // The closing parenthesis stands alone.

@@ -17,10 +17,11 @@ void TaviExponentSolver::calculateRoot() {
   std::string radicandText = TaviStringOutput::digitLatex(*radicand);
   const std::string& result = LocalizedString::result.text();
 
+  double z = required(index.z, "an index without a number");
+
   // The index upside down, as the exponent that the root stands for.
-  const auto exponentText = [&index] {
-    return joined({"^{\\frac{", doubleText(index.n), "}{",
-                   doubleText(required(index.z, "an index without a number")), "}}"});
+  const auto exponentText = [&] {
+    return joined({"^{\\frac{", doubleText(index.n), "}{", doubleText(z), "}}"});
   };
 
   if (index.n == 0) {
@@ -30,9 +31,9 @@ void TaviExponentSolver::calculateRoot() {
   }
 
   // A typed minus counts even before a zero.
-  const double typedZ = required(index.z, "an index without a number");
-  if (*index.value() < 0 || (typedZ == 0 && std::signbit(typedZ))) {
-    index.z = std::abs(typedZ);
+  if (*index.value() < 0 || (z == 0 && std::signbit(z))) {
+    z = std::abs(z);
+    index.z = z;
     index.n = std::abs(index.n);
     const std::string indexText = TaviStringOutput::digitLatex(index, {.keepSigns = true});
     addNumberedStep(LocalizedString::reciprocal.text(), joined({"=\\sqrt[\\color{", TaviColor::acting, "}{-}",
@@ -48,7 +49,6 @@ void TaviExponentSolver::calculateRoot() {
     return;
   }
 
-  const double z = required(index.z, "an index without a number");
   if (index.value() == 0.0) {
     const double power = std::pow(required(radicand->value(), "a radicand without a number"), index.n / z);
     output.addStep(result, joined({task, " = ", radicandText, exponentText(), " \\approx ", radicandText,

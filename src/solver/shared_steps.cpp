@@ -31,7 +31,7 @@ std::string TaviExponentSolver::RootFrame::around(std::string_view radicand) con
   return joined({open, radicand, close});
 }
 
-// The root with this index, still open around what is calculated under it; none for index 1.
+// Index 1 is no root.
 TaviExponentSolver::RootFrame TaviExponentSolver::rootFrame(double n) {
   if (n == 1) return {"", ""};
   if (n == 2) return {"\\sqrt{", "}"};

@@ -1,3 +1,4 @@
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -40,10 +41,11 @@ TEST_F(Normalisation, EliminatesDecimalsOnlyWhereAsked) {
 
 TEST_F(Normalisation, SixSignificantDigitsDecide) {
   struct Case {
-    const char* text;
+    std::string text;
     double z, n;
   };
   const Case cases[] = {
+      {std::string(400, '9') + "/2.5", std::numeric_limits<double>::infinity(), 25},
       {"1.23456789", 123457, 100000},
       {"0.1234567", 123457, 1000000},
       {"1234567.5", 1234567.5, 1},

@@ -94,13 +94,13 @@ void printSteps(const SolutionSteps& steps, bool isRaw) {
   }
 }
 
-int solveOne(const std::string& first, const std::string& second, int mode, bool isRaw, bool isJson) {
+int solveOne(const std::string& first, const std::string& second, int mode, std::string_view form) {
   const Rehearsal ending = solve(first, second, mode);
-  if (isJson) {
+  if (form == "--json") {
     std::cout << jsonLine(ending) << '\n';
   } else if (const auto* outcome = std::get_if<CalculationOutcome>(&ending);
-             outcome && outcome->solutionSteps) {
-    printSteps(*outcome->solutionSteps, isRaw);
+             outcome != nullptr && outcome->solutionSteps) {
+    printSteps(*outcome->solutionSteps, form == "--raw");
   }
   return std::visit([](const auto& result) { return explain(result); }, ending);
 }
@@ -133,9 +133,7 @@ int solveLines() {
 }  // namespace
 
 int solveCommand(Arguments arguments) {
-  bool isRaw = false;
-  bool isJson = false;
-  bool isJsonLines = false;
+  std::string_view form;
   std::vector<std::string> operands;
   bool areOptionsOver = false;
   for (const std::string_view argument : arguments) {
@@ -148,26 +146,23 @@ int solveCommand(Arguments arguments) {
     } else if (argument == "--help") {
       std::cout << usage;
       return success;
-    } else if (argument == "--raw") {
-      isRaw = true;
-    } else if (argument == "--json") {
-      isJson = true;
-    } else if (argument == "--json-lines") {
-      isJsonLines = true;
+    } else if (argument == "--raw" || argument == "--json" || argument == "--json-lines") {
+      if (!form.empty() && form != argument) {
+        return usageError("--raw, --json and --json-lines exclude each other", usage);
+      }
+      form = argument;
     } else {
       return usageError("solve has no option " + std::string(argument), usage);
     }
   }
-  if (isRaw + isJson + isJsonLines > 1)
-    return usageError("--raw, --json and --json-lines exclude each other", usage);
-  if (isJsonLines) {
+  if (form == "--json-lines") {
     return operands.empty() ? solveLines() : usageError("--json-lines takes no operands", usage);
   }
   if (operands.size() != 3) return usageError("solve takes a mode and two operands", usage);
   const std::string& mode = operands[0];
   if (mode != "power" && mode != "root") return usageError("the mode is power or root", usage);
   const int modeNumber = mode == "power" ? TaviExponentSolver::powerMode : TaviExponentSolver::rootMode;
-  return solveOne(operands[1], operands[2], modeNumber, isRaw, isJson);
+  return solveOne(operands[1], operands[2], modeNumber, form);
 }
 
 }  // namespace tavi::cli

@@ -39,8 +39,8 @@ int run(Arguments arguments) {
     printUsage(std::cout);
     return success;
   }
-  const auto command = std::find_if(commands.begin(), commands.end(),
-                                    [name](const Command& candidate) { return candidate.name == name; });
+  const auto* const command = std::find_if(
+      commands.begin(), commands.end(), [name](const Command& candidate) { return candidate.name == name; });
   if (command == commands.end()) {
     std::cerr << "tavi-cli: no command " << name << "\n\n";
     printUsage(std::cerr);
