@@ -1,0 +1,28 @@
+#pragma once
+
+#include <QByteArray>
+#include <QString>
+#include <optional>
+
+namespace tavi {
+
+/// The files that are built into the application, found by name and extension.
+class ResourceBundle {
+ public:
+  /// The application's own resources.
+  static const ResourceBundle& main();
+
+  /// A bundle over a folder of the resource system or, for tests, of the disk.
+  explicit ResourceBundle(QString root);
+
+  /// Path of the file, for those who read it themselves; absent if there is none.
+  std::optional<QString> path(const QString& name, const QString& extension) const;
+
+  /// The whole content of the file; absent if there is none or it cannot be read.
+  std::optional<QByteArray> data(const QString& name, const QString& extension) const;
+
+ private:
+  QString root_;
+};
+
+}  // namespace tavi

@@ -1,0 +1,54 @@
+#pragma once
+
+#include <QLatin1StringView>
+
+/// Every event the application reports, by the name it is reported under. A comment gives the parameters; an
+/// event without one passes none at all. "taviApp" is the English name of an application, "sendingApp" the
+/// identifier of this one or "unknown".
+namespace tavi::events {
+
+// Menu button and side menu. The button's event comes before the test whether a calculation is running.
+inline constexpr QLatin1StringView tappedMenuButton{"tapped_menu_button"};
+inline constexpr QLatin1StringView tappedMenuCalculate{"tapped_menu_calculate"};
+inline constexpr QLatin1StringView tappedMenuHistory{"tapped_menu_history"};
+inline constexpr QLatin1StringView tappedOnboarding{"tapped_onboarding"};
+inline constexpr QLatin1StringView tappedPrivacyPolicy{"tapped_privacy_policy"};
+inline constexpr QLatin1StringView tappedDiscord{"tapped_discord"};   // before the online test
+inline constexpr QLatin1StringView tappedRateApp{"tapped_rate_app"};  // before the online test
+// "taviApp": text. After the page was opened.
+inline constexpr QLatin1StringView tappedRatingInMenu{"Tapped Rating in Menu"};
+// "has_app": boolean, "taviApp": text, empty without an English name. After the link was opened.
+inline constexpr QLatin1StringView tappedAppLink{"Tapped App Link"};
+
+// Calculate screen.
+inline constexpr QLatin1StringView tappedClear{"tapped_clear"};
+// "solutionSteps": list of step records, "solutionStepsCount": integer. After the hand-over to the solution
+// page.
+inline constexpr QLatin1StringView taviCalculate{"tavi_calculate"};
+// "error_case": text, the key of the input error.
+inline constexpr QLatin1StringView taviGotError{"tavi_got_error"};
+
+// History.
+// "calc_count": integer, records before the clearing.
+inline constexpr QLatin1StringView tappedHistoryClear{"tapped_history_clear"};
+inline constexpr QLatin1StringView tappedHistoryDeleteSingleCalc{"tapped_history_delete_single_calc"};
+// "calc_parameters": map of text to text, "latex_string": text. Between the store's update and the change of
+// screen.
+inline constexpr QLatin1StringView tappedHistoryItem{"tapped_history_item"};
+
+// Solution screen.
+// "solutionSteps": list of step records, "solutionStepsCount": integer.
+inline constexpr QLatin1StringView taviTappedShare{"tavi_tapped_share"};
+
+// House advertisements, each with "sendingApp": text, "taviAdId": text, the image name or "unknown", and
+// "countTaviAdsPresented": integer, in the first event after its increment.
+inline constexpr QLatin1StringView taviAdsPresented{"taviAds_presented"};
+inline constexpr QLatin1StringView taviAdsClosedAds{"taviAds_closedAds"};
+inline constexpr QLatin1StringView taviAdsOpenedAdProduct{"taviAds_openedAdProduct"};
+
+// Rating prompt.
+// "app": text, a fixed code of two letters, "rating": floating point, the stars given.
+inline constexpr QLatin1StringView tappedRatedApp{"tapped_rated_app"};
+inline constexpr QLatin1StringView tappedRatedAppCancel{"tapped_rated_app_cancel"};
+
+}  // namespace tavi::events

@@ -1,0 +1,79 @@
+#pragma once
+
+#include <QList>
+#include <QString>
+#include <optional>
+
+#include "platform/preference_store.h"
+#include "shell/calculation.h"
+
+namespace tavi {
+
+/// A store with a preference store and a key that can save and load itself.
+class Persistable {
+ public:
+  virtual ~Persistable() = default;
+
+  virtual PreferenceStore& userDefaults() const = 0;
+  virtual QString persistKey() const = 0;
+  virtual void loadCalculations() = 0;
+  virtual void saveCalculations() = 0;
+};
+
+/// What the user has calculated: the history, newest first, the snapshot of the fields and the record picked
+/// for reopening. Each change of the history rewrites the whole list in the preference store. Main thread
+/// only.
+class CalcManager : public Persistable {
+ public:
+  static CalcManager& shared();
+
+  /// Loads what the store holds; a list of another shape than ours is replaced by an empty one.
+  explicit CalcManager(PreferenceStore& userDefaults);
+
+  PreferenceStore& userDefaults() const override { return userDefaults_; }
+
+  /// A name of the store; the list itself lies under "Calculations".
+  QString persistKey() const override;
+
+  const QList<Calculation>& calculations() const { return calculations_; }
+
+  /// The record at the index; one outside the list is a fatal stop, here and below.
+  const Calculation& calculation(qsizetype index) const;
+
+  /// Puts the record in front of the others.
+  void addCalculation(const Calculation& calculation);
+
+  void removeCalculation(qsizetype index);
+
+  /// Exchanges two records, and nothing between them. Saves after each half.
+  void swapCalculations(qsizetype first, qsizetype second);
+
+  /// Empties the history; snapshot and picked record stay.
+  void clearCalculations();
+
+  /// Snapshot of the fields, for the length of one run: it is not written.
+  const std::optional<Calculation>& currentCalculation() const { return currentCalculation_; }
+  void setCurrentCalculation(std::optional<Calculation> calculation);
+
+  /// The record picked in the history, kept over a restart until it is set to absent.
+  const std::optional<Calculation>& currentSelectedCalculation() const { return currentSelectedCalculation_; }
+  void setCurrentSelectedCalculation(std::optional<Calculation> calculation);
+
+  /// On the very first start: notes the date and leaves a history of the one sample task. Later: nothing.
+  void runFirstStartStep();
+
+  void loadCalculations() override;
+  void saveCalculations() override;
+
+ private:
+  std::optional<Calculation> stored(const QString& key) const;
+  void persistSelection();
+  void requireIndex(qsizetype index) const;
+
+  PreferenceStore& userDefaults_;
+  QList<Calculation> calculations_;
+  std::optional<Calculation> currentCalculation_;
+  std::optional<Calculation> currentSelectedCalculation_;
+};
+
+}  // namespace tavi
