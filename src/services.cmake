@@ -1,15 +1,16 @@
 # What a phone's system gives an application, and the stores above it: no screen, no engine.
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Network)
 find_package(SQLite3 REQUIRED)
-find_package(Threads REQUIRED)
 
 add_library(tavi_services STATIC
   platform/analytics.cpp
   platform/application_context.cpp
+  platform/bounded_get.cpp
   platform/links.cpp
   platform/network_access.cpp
   platform/notification_center.cpp
   platform/online_test.cpp
+  platform/preference_codec.cpp
   platform/preference_store.cpp
   platform/property_list.cpp
   platform/remote_config_service.cpp
@@ -22,7 +23,7 @@ set_target_properties(tavi_services PROPERTIES AUTOMOC ON)
 target_include_directories(tavi_services PUBLIC ${CMAKE_CURRENT_SOURCE_DIR})
 target_link_libraries(tavi_services
   PUBLIC Qt6::Core Qt6::Network
-  PRIVATE Qt6::Gui SQLite::SQLite3 tavi_options)
+  PRIVATE tavi_engine Qt6::Gui SQLite::SQLite3 tavi_options)
 qt_add_resources(tavi_services tavi_services PREFIX / BASE ${PROJECT_SOURCE_DIR}/resources FILES
   ${PROJECT_SOURCE_DIR}/resources/ProjectSettings.json
   ${PROJECT_SOURCE_DIR}/resources/RemoteConfigDefaults.plist)

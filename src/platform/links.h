@@ -14,6 +14,8 @@ class Links {
 
   static Links& shared();
 
+  Links();
+
   /// True for a valid address that some program can be expected to open. Links to other applications of the
   /// family are never openable where the system does not say whether they are installed.
   bool canOpen(const QUrl& address) const;

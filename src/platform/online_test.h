@@ -23,7 +23,7 @@ class OnlineTest {
 
   /// Sends the request and answers later, on this thread. Any HTTP response counts as online, whatever its
   /// status; a redirect is one too and is not followed. No answer once the context is destroyed.
-  void run(const QObject* context, Completion completion);
+  void run(QObject* context, Completion completion) const;
 
  private:
   QUrl address_;

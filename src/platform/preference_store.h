@@ -5,8 +5,10 @@
 #include <QVariant>
 #include <concepts>
 #include <memory>
+#include <optional>
 
 struct sqlite3;
+struct sqlite3_stmt;
 
 namespace tavi {
 
@@ -52,16 +54,26 @@ class PreferenceStore {
   bool remove(const QString& key);
 
   /// False when the values live in memory only.
-  bool isDurable() const { return durable_; }
+  bool isDurable() const { return isDurable_; }
 
- private:
   struct Close {
     void operator()(sqlite3* database) const;
   };
+  struct Finalize {
+    void operator()(sqlite3_stmt* statement) const;
+  };
   using Database = std::unique_ptr<sqlite3, Close>;
+  using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
+
+ private:
+  std::optional<QByteArray> text(const QString& key) const;
+  bool change(sqlite3_stmt* statement, const QString& key);
 
   Database database_;
-  bool durable_ = true;
+  Statement read_;
+  Statement write_;
+  Statement remove_;
+  bool isDurable_ = true;
 };
 
 }  // namespace tavi

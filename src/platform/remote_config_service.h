@@ -17,6 +17,8 @@
 
 namespace tavi {
 
+struct HttpAnswer;
+
 enum class FetchStatus { noFetchYet = 0, success = 1, failure = 2, throttled = 3 };
 
 /// Where remote values come from and within which limits.
@@ -64,10 +66,10 @@ class RemoteConfigService : public QObject {
   virtual void activate(ActivateCompletion completion);
 
  private:
-  class Transfer;
-
-  void receive(const QByteArray& body, const QByteArray& entityTag);
-  void finish(std::optional<QString> error);
+  bool isFresh(std::chrono::seconds expiry) const;
+  std::optional<QString> receive(const HttpAnswer& answer);
+  void finishLater(std::optional<QString> error);
+  void finish(const std::optional<QString>& error);
   void save();
 
   RemoteConfigSettings settings_;

@@ -1,0 +1,79 @@
+#include "platform/bounded_get.h"
+
+#include <QNetworkReply>
+#include <QTimer>
+
+#include "platform/network_access.h"
+
+namespace tavi {
+namespace {
+
+constexpr int redirectLimit = 5;
+constexpr int statusOk = 200;
+constexpr int statusNotModified = 304;
+
+// One exchange; lives and dies with its reply.
+class Exchange : public QObject {
+ public:
+  Exchange(QNetworkReply* reply, const HttpBounds& bounds, std::function<void(const HttpAnswer&)> completion)
+      : QObject(reply), reply_(reply), bounds_(bounds), completion_(std::move(completion)) {
+    connect(reply, &QNetworkReply::redirected, this, &Exchange::judgeRedirect);
+    connect(reply, &QNetworkReply::readyRead, this, &Exchange::collect);
+    connect(reply, &QNetworkReply::finished, this, &Exchange::finish);
+    QTimer::singleShot(bounds.timeout, this, [this] { abort(QStringLiteral("the server took too long")); });
+  }
+
+ private:
+  void judgeRedirect(const QUrl& target) {
+    if (bounds_.allows(target))
+      emit reply_->redirectAllowed();
+    else
+      abort(QStringLiteral("a redirect to an insecure address"));
+  }
+
+  void collect() {
+    answer_.body += reply_->readAll();
+    if (answer_.body.size() > bounds_.bodyLimit) abort(QStringLiteral("the answer is too long"));
+  }
+
+  void abort(const QString& reason) {
+    answer_.error = reason;
+    reply_->abort();
+  }
+
+  void finish() {
+    if (!answer_.error) collect();
+    answer_.status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
+    answer_.entityTag = reply_->rawHeader("ETag");
+    if (!answer_.error && reply_->error() != QNetworkReply::NoError) answer_.error = reply_->errorString();
+    if (!answer_.error && answer_.status != statusOk && answer_.status != statusNotModified)
+      answer_.error = QStringLiteral("status %1").arg(answer_.status);
+    reply_->deleteLater();
+    completion_(answer_);
+  }
+
+  QNetworkReply* reply_;
+  HttpBounds bounds_;
+  std::function<void(const HttpAnswer&)> completion_;
+  HttpAnswer answer_;
+};
+
+}  // namespace
+
+bool HttpBounds::allows(const QUrl& address) const {
+  return address.scheme() == u"https" || (allowsLoopbackHttp && isLoopbackHttp(address));
+}
+
+void boundedGet(QNetworkAccessManager& access, QNetworkRequest request, const HttpBounds& bounds,
+                std::function<void(const HttpAnswer&)> completion) {
+  request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::UserVerifiedRedirectPolicy);
+  request.setMaximumRedirectsAllowed(redirectLimit);
+  request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
+  request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
+  // A named encoding keeps Qt from unpacking on its own: what is counted is what came over the wire.
+  request.setRawHeader("Accept-Encoding", "identity");
+  QNetworkReply* reply = access.get(request);
+  new Exchange(reply, bounds, std::move(completion));
+}
+
+}  // namespace tavi
