@@ -1,6 +1,4 @@
 # What a phone's system gives an application, and the stores above it: no screen, no engine.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Network)
-find_package(SQLite3 REQUIRED)
 
 add_library(tavi_services STATIC
   platform/analytics.cpp

@@ -25,19 +25,19 @@ void OnlineTest::run(QObject* context, Completion completion) const {
   QNetworkAccessManager* access = makeAccess_().release();
   access->setParent(context);
   QNetworkReply* reply = access->get(request);
-  const auto isAnswered = [reply] {
-    return reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
-  };
   // The head of an answer settles the question; its body is not waited for.
-  QObject::connect(reply, &QNetworkReply::metaDataChanged, reply, [reply, isAnswered] {
-    if (isAnswered()) reply->abort();
-  });
+  const auto judge = [reply, access, completion = std::move(completion)] {
+    const bool isOnline = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).isValid();
+    if (!isOnline && !reply->isFinished()) return;
+    reply->disconnect(access);
+    // The completion may end the context, and the access manager must outlive this signal.
+    access->setParent(nullptr);
+    access->deleteLater();
+    completion(isOnline);
+  };
+  QObject::connect(reply, &QNetworkReply::metaDataChanged, access, judge);
+  QObject::connect(reply, &QNetworkReply::finished, access, judge);
   QTimer::singleShot(timeout_, reply, &QNetworkReply::abort);
-  QObject::connect(reply, &QNetworkReply::finished, access,
-                   [access, isAnswered, completion = std::move(completion)] {
-                     access->deleteLater();
-                     completion(isAnswered());
-                   });
 }
 
 }  // namespace tavi

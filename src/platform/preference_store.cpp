@@ -28,14 +28,12 @@ struct Opened {
 
 constexpr int busyMilliseconds = 2000;
 
-// WAL with full synchronisation: a change is one append and one flush, and what was acknowledged survives a
-// power cut. The check reads every page once, so that a damaged file is noticed here and not by half of its
-// readers.
-constexpr const char* setUp =
-    "PRAGMA journal_mode = WAL;"
-    "PRAGMA synchronous = FULL;"
-    "CREATE TABLE IF NOT EXISTS preferences(key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL);";
+// Every page is read once, so that a damaged file is noticed here and not by half of its readers.
 constexpr const char* check = "PRAGMA quick_check(1)";
+constexpr const char* makeTable =
+    "CREATE TABLE IF NOT EXISTS preferences(key TEXT PRIMARY KEY NOT NULL, value TEXT NOT NULL)";
+// A change is one append to a log and one flush, and what was acknowledged survives a power cut.
+constexpr const char* makeDurable = "PRAGMA journal_mode = WAL; PRAGMA synchronous = FULL";
 constexpr const char* readValue = "SELECT value FROM preferences WHERE key = ?1";
 constexpr const char* writeValue =
     "INSERT INTO preferences(key, value) VALUES(?1, ?2) ON CONFLICT(key) DO UPDATE SET value = "
@@ -44,6 +42,10 @@ constexpr const char* removeValue = "DELETE FROM preferences WHERE key = ?1";
 
 void print(const char* what, const QString& where, const QString& why) {
   qInfo().noquote() << "Preference store:" << what << where + ':' << why;
+}
+
+int execute(sqlite3* database, const char* sql) {
+  return sqlite3_exec(database, sql, nullptr, nullptr, nullptr);
 }
 
 Statement prepared(sqlite3* database, const char* sql) {
@@ -75,15 +77,17 @@ Opened openDatabase(const QByteArray& path, bool isExclusive) {
   sqlite3_busy_timeout(raw, busyMilliseconds);
   sqlite3_db_config(raw, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
   sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-  if (isExclusive) sqlite3_exec(raw, "PRAGMA locking_mode = EXCLUSIVE", nullptr, nullptr, nullptr);
-  if (const int error = sqlite3_exec(raw, setUp, nullptr, nullptr, nullptr); error != SQLITE_OK)
-    return {{}, error};
-
+  sqlite3_db_config(raw, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
+  if (isExclusive) execute(raw, "PRAGMA locking_mode = EXCLUSIVE");
   const Statement checking = prepared(raw, check);
-  if (const int step = sqlite3_step(checking.get()); step != SQLITE_ROW) return {{}, step};
+  if (sqlite3_step(checking.get()) != SQLITE_ROW) return {{}, sqlite3_errcode(raw)};
   if (firstColumn(checking.get()) != "ok") return {{}, SQLITE_CORRUPT};
+  sqlite3_reset(checking.get());
+  if (const int error = execute(raw, makeTable); error != SQLITE_OK) return {{}, error};
   for (const char* sql : {readValue, writeValue, removeValue})
     if (!prepared(raw, sql)) return {{}, SQLITE_ERROR};
+  if (const int error = execute(raw, makeDurable); error != SQLITE_OK) return {{}, error};
+  sqlite3_db_config(raw, SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 0, nullptr);
   return {std::move(database)};
 }
 

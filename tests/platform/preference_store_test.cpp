@@ -1,0 +1,103 @@
+#include "platform/preference_store.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+
+#include <gtest/gtest.h>
+
+#include "number/fatal_stop.h"
+#include "platform/store_children.h"
+#include "platform/test_support.h"
+
+namespace tavi {
+namespace {
+
+class PreferenceStoreTest : public testing::Test {
+ protected:
+  QString path(const QString& name = "preferences.sqlite") const { return folder_.filePath(name); }
+
+  QTemporaryDir folder_;
+};
+
+TEST_F(PreferenceStoreTest, GivesEveryKindBackExactlyInAnotherProcess) {
+  ASSERT_EQ(QProcess::execute(QCoreApplication::applicationFilePath(), {"--child", "write-kinds", path()}),
+            0);
+  const PreferenceStore store(path());
+  const QVariantList written = valuesOfEveryKind();
+  for (qsizetype i = 0; i < written.size(); ++i) {
+    const QVariant read = store.variant(QString::number(i));
+    EXPECT_EQ(read.typeId(), written[i].typeId()) << testing::PrintToString(written[i]);
+    EXPECT_EQ(read, written[i]);
+  }
+}
+
+TEST_F(PreferenceStoreTest, MakesTheFoldersAboveItsFile) {
+  PreferenceStore store(path("a/b/preferences.sqlite"));
+  EXPECT_TRUE(store.isDurable());
+}
+
+TEST_F(PreferenceStoreTest, ReadsByKind) {
+  PreferenceStore store(path());
+  EXPECT_TRUE(store.setValue("counter", 5));
+  EXPECT_EQ(store.value<qlonglong>("counter", 0), 5);
+  EXPECT_EQ(store.value("counter", QString("no text")), "no text");
+  EXPECT_FALSE(store.value("counter", false));
+  EXPECT_TRUE(store.value("absent", true));
+}
+
+TEST_F(PreferenceStoreTest, AKeyIsThereUntilItIsCleared) {
+  PreferenceStore store(path());
+  EXPECT_FALSE(store.contains("key"));
+  store.setValue("key", QVariantList());
+  EXPECT_TRUE(store.contains("key"));
+  EXPECT_TRUE(store.setValue("key", QVariant()));
+  EXPECT_FALSE(store.contains("key"));
+  EXPECT_TRUE(store.remove("key"));
+}
+
+TEST_F(PreferenceStoreTest, RefusesOtherKinds) {
+  PreferenceStore store(path());
+  store.setValue("key", "old");
+  for (const QVariant& value : {QVariant(1.5), QVariant(QByteArray("x")), QVariant(QDateTime()),
+                                QVariant(QVariantList{QVariant()}), QVariant(QVariantMap{{"deep", 1.5}})})
+    EXPECT_THROW(store.setValue("key", value), FatalStop) << testing::PrintToString(value);
+  EXPECT_EQ(store.variant("key"), "old");
+}
+
+TEST_F(PreferenceStoreTest, TwoProgramsShareTheFile) {
+  PreferenceStore first(path());
+  PreferenceStore second(path());
+  EXPECT_TRUE(first.setValue("key", "first"));
+  EXPECT_TRUE(second.setValue("key", "second"));
+  EXPECT_EQ(first.variant("key"), "second");
+}
+
+TEST_F(PreferenceStoreTest, ReadsForeignTextsAsAbsentWithOneLine) {
+  PreferenceStore store(path());
+  const QByteArrayList texts{"",
+                             "[",
+                             "1",
+                             "{}",
+                             "[]",
+                             "[1,2]",
+                             "[null]",
+                             "[1.5]",
+                             "[1e300]",
+                             "[[null]]",
+                             "[{\"a\":1.5}]",
+                             "[{\"$a\":1}]",
+                             "[\"\xff\"]",
+                             "[{\"$date\":\"today\"}]",
+                             "[{\"$date\":9223372036854775808}]",
+                             QByteArray(5000, '[') + QByteArray(5000, ']')};
+  for (const QByteArray& text : texts) {
+    runSql(path(), "INSERT OR REPLACE INTO preferences VALUES('key', CAST(x'" + text.toHex() + "' AS TEXT))");
+    const ConsoleLines console;
+    EXPECT_FALSE(store.variant("key").isValid()) << text.toStdString();
+    EXPECT_EQ(console.lines().size(), 1) << text.toStdString();
+  }
+  EXPECT_TRUE(store.contains("key"));
+}
+
+}  // namespace
+}  // namespace tavi
