@@ -12,7 +12,7 @@ void NotificationCenter::post(const QString& name) {
 }
 
 QMetaObject::Connection NotificationCenter::observe(const QString& name, const QObject* context,
-                                                    std::function<void()> callback) {
+                                                    std::function<void()> callback) const {
   return connect(this, &NotificationCenter::posted, context,
                  [name, callback = std::move(callback)](const QString& posted) {
                    if (posted == name) callback();

@@ -20,7 +20,7 @@ class NotificationCenter : public QObject {
   /// Calls back on each post of the name, on the thread of the context, until the context is destroyed or the
   /// connection is cut.
   QMetaObject::Connection observe(const QString& name, const QObject* context,
-                                  std::function<void()> callback);
+                                  std::function<void()> callback) const;
 
  signals:
   void posted(const QString& name);

@@ -14,7 +14,7 @@ OnlineTest::OnlineTest(QUrl address, std::chrono::milliseconds timeout, NetworkA
     : address_(std::move(address)), timeout_(timeout), makeAccess_(std::move(makeAccess)) {}
 
 QUrl OnlineTest::standardAddress() {
-  return QUrl(QStringLiteral("https://www.wikipedia.org/"));
+  return {QStringLiteral("https://www.wikipedia.org/")};
 }
 
 void OnlineTest::run(QObject* context, Completion completion) const {

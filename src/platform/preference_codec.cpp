@@ -90,7 +90,7 @@ std::optional<QVariant> decoded(const QJsonValue& json);
 std::optional<QVariant> decodedArray(const QJsonArray& array) {
   QVariantList list;
   list.reserve(array.size());
-  for (const QJsonValue& element : array) {
+  for (const QJsonValue element : array) {
     std::optional<QVariant> value = decoded(element);
     if (!value) return std::nullopt;
     list.append(*std::move(value));

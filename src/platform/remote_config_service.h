@@ -26,7 +26,7 @@ struct RemoteConfigSettings {
   QUrl endpoint;  ///< https address of the values; empty means that nothing is ever asked.
   bool allowsLoopbackHttp = false;
   std::chrono::milliseconds timeout{30'000};  ///< For the whole fetch, redirects included.
-  qint64 bodyLimit = 4 * 1024 * 1024;         ///< Bytes.
+  qint64 bodyLimit = 4LL * 1024 * 1024;       ///< Bytes.
 
   /// From "ProjectSettings.json" of the bundle; whatever is missing or misshapen there keeps its default.
   static RemoteConfigSettings fromBundle(const ResourceBundle& bundle);

@@ -38,7 +38,7 @@ class Node {
   template <typename Value>
   QList<Value> list(Value (*decode)(const Node&)) const {
     QList<Value> result;
-    for (const QJsonValue& element : require(QJsonValue::Array, "an array").toArray())
+    for (const QJsonValue element : require(QJsonValue::Array, "an array").toArray())
       result.append(decode({element, path_ + '[' + QString::number(result.size()) + ']'}));
     return result;
   }
