@@ -33,12 +33,21 @@ class Writer {
       case QMetaType::QDateTime:
         return date(value.toDateTime());
       case QMetaType::QVariantList:
-        return array(value.toList());
+        return list(value.toList());
       case QMetaType::QVariantMap:
         return object(value.toMap());
       default:
         fatalStop("a preference is a text, integer, boolean, date, array or map");
     }
+  }
+
+  void array(qsizetype count, const std::function<QVariant(qsizetype)>& element) {
+    out_ += '[';
+    for (qsizetype i = 0; i < count; ++i) {
+      if (i > 0) out_ += ',';
+      value(element(i));
+    }
+    out_ += ']';
   }
 
   QByteArray take() { return std::move(out_); }
@@ -62,13 +71,8 @@ class Writer {
     out_ += "{\"$date\":" + QByteArray::number(date.toMSecsSinceEpoch()) + '}';
   }
 
-  void array(const QVariantList& list) {
-    char separator = '[';
-    for (const QVariant& element : list) {
-      out_ += std::exchange(separator, ',');
-      value(element);
-    }
-    out_ += list.isEmpty() ? "[]" : "]";
+  void list(const QVariantList& list) {
+    array(list.size(), [&](qsizetype index) { return list[index]; });
   }
 
   void object(const QVariantMap& map) {
@@ -147,8 +151,14 @@ std::optional<QVariant> decoded(const QJsonValue& json) {
 // A JSON document is an array or an object, so that every value is wrapped into an array of one.
 QByteArray encodePreference(const QVariant& value) {
   Writer writer;
-  writer.value(QVariantList{value});
-  return writer.take();
+  writer.value(value);
+  return '[' + writer.take() + ']';
+}
+
+QByteArray encodePreferenceArray(qsizetype count, const std::function<QVariant(qsizetype)>& element) {
+  Writer writer;
+  writer.array(count, element);
+  return '[' + writer.take() + ']';
 }
 
 std::optional<QVariant> decodePreference(const QByteArray& text) {

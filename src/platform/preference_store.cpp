@@ -54,9 +54,10 @@ Statement prepared(sqlite3* database, const char* sql) {
   return Statement(statement);
 }
 
+// The text must live until the statement is reset.
 void bind(sqlite3_stmt* statement, int index, const QByteArray& text) {
   sqlite3_bind_text64(statement, index, text.constData(), static_cast<sqlite3_uint64>(text.size()),
-                      SQLITE_TRANSIENT, SQLITE_UTF8);
+                      SQLITE_STATIC, SQLITE_UTF8);
 }
 
 QByteArray firstColumn(sqlite3_stmt* statement) {
@@ -166,17 +167,25 @@ PreferenceStore::PreferenceStore(const QString& path) {
 }
 
 std::optional<QByteArray> PreferenceStore::text(const QString& key) const {
-  bind(read_.get(), 1, key.toUtf8());
+  const QByteArray name = key.toUtf8();
+  bind(read_.get(), 1, name);
   std::optional<QByteArray> found;
   const int step = sqlite3_step(read_.get());
   if (step == SQLITE_ROW) found = firstColumn(read_.get());
   if (step != SQLITE_ROW && step != SQLITE_DONE) print("cannot read", key, sqlite3_errmsg(database_.get()));
   sqlite3_reset(read_.get());
+  sqlite3_clear_bindings(read_.get());
   return found;
 }
 
+bool PreferenceStore::write(const QString& key, const QByteArray& text) {
+  bind(write_.get(), 2, text);
+  return change(write_.get(), key);
+}
+
 bool PreferenceStore::change(sqlite3_stmt* statement, const QString& key) {
-  bind(statement, 1, key.toUtf8());
+  const QByteArray name = key.toUtf8();
+  bind(statement, 1, name);
   const bool isDone = sqlite3_step(statement) == SQLITE_DONE;
   if (!isDone) print("cannot write", key, sqlite3_errmsg(database_.get()));
   sqlite3_reset(statement);
@@ -197,9 +206,12 @@ QVariant PreferenceStore::variant(const QString& key) const {
 }
 
 bool PreferenceStore::setValue(const QString& key, const QVariant& value) {
-  if (!value.isValid()) return remove(key);
-  bind(write_.get(), 2, encodePreference(value));
-  return change(write_.get(), key);
+  return value.isValid() ? write(key, encodePreference(value)) : remove(key);
+}
+
+bool PreferenceStore::setArray(const QString& key, qsizetype count,
+                               const std::function<QVariant(qsizetype)>& element) {
+  return write(key, encodePreferenceArray(count, element));
 }
 
 bool PreferenceStore::remove(const QString& key) {

@@ -4,6 +4,7 @@
 #include <QString>
 #include <QVariant>
 #include <concepts>
+#include <functional>
 #include <memory>
 #include <optional>
 
@@ -50,6 +51,9 @@ class PreferenceStore {
   /// when the disk refuses. A value of another kind than those above is a fatal stop.
   bool setValue(const QString& key, const QVariant& value);
 
+  /// Sets an array whose elements are made one at a time, so that a long one is never held twice.
+  bool setArray(const QString& key, qsizetype count, const std::function<QVariant(qsizetype)>& element);
+
   /// Clears the key; clearing an absent one is no error. False as above.
   bool remove(const QString& key);
 
@@ -67,6 +71,7 @@ class PreferenceStore {
 
  private:
   std::optional<QByteArray> text(const QString& key) const;
+  bool write(const QString& key, const QByteArray& text);
   bool change(sqlite3_stmt* statement, const QString& key);
 
   Database database_;

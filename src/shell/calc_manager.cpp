@@ -100,10 +100,8 @@ void CalcManager::loadCalculations() {
 }
 
 void CalcManager::saveCalculations() {
-  QVariantList records;
-  records.reserve(calculations_.size());
-  for (const Calculation& calculation : calculations_) records.append(calculation.properties());
-  userDefaults_.setValue(calculationsKey, records);
+  userDefaults_.setArray(calculationsKey, calculations_.size(),
+                         [this](qsizetype index) { return calculations_[index].properties(); });
 }
 
 std::optional<Calculation> CalcManager::stored(const QString& key) const {

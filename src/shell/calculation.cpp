@@ -5,10 +5,11 @@
 namespace tavi {
 namespace {
 
-constexpr QLatin1StringView inputParametersKey{"inputParameters"};
-constexpr QLatin1StringView latexStringKey{"latexString"};
-constexpr QLatin1StringView solutionStepsKey{"solutionSteps"};
-constexpr QLatin1StringView setupParameterKey{"setupParameter"};
+// Literals as QString, since ten thousand records would each make their own.
+const QString inputParametersKey = QStringLiteral("inputParameters");
+const QString latexStringKey = QStringLiteral("latexString");
+const QString solutionStepsKey = QStringLiteral("solutionSteps");
+const QString setupParameterKey = QStringLiteral("setupParameter");
 
 bool isText(const QVariant& value) {
   return value.typeId() == QMetaType::QString;
