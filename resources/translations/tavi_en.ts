@@ -1,0 +1,275 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en">
+<context>
+    <name></name>
+    <message id="Fill in your given numbers:">
+        <source>Fill in your given numbers:</source>
+        <translation>Fill in your given numbers:</translation>
+    </message>
+    <message id="Your Input">
+        <source>Your Input</source>
+        <translation>Your input</translation>
+    </message>
+    <message id="Expand">
+        <source>Expand</source>
+        <translation>Expand</translation>
+    </message>
+    <message id="Modified Input">
+        <source>Modified Input</source>
+        <translation>Rewritten input</translation>
+    </message>
+    <message id="Step">
+        <source>Step</source>
+        <translation>Step</translation>
+    </message>
+    <message id="Result">
+        <source>Result</source>
+        <translation>Result</translation>
+    </message>
+    <message id="noSolution">
+        <source>noSolution</source>
+        <translation>No solution among the real numbers</translation>
+    </message>
+    <message id="recommendedVideoIfUnclear">
+        <source>recommendedVideoIfUnclear</source>
+        <translation>Still unclear? Watch a video</translation>
+    </message>
+    <message id="touchTounlock">
+        <source>touchTounlock</source>
+        <translation>Touch to unlock</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="Convert">
+        <source>Convert</source>
+        <translation>Convert</translation>
+    </message>
+    <message id="Rate">
+        <source>Rate</source>
+        <translation>Rate</translation>
+    </message>
+    <message id="Send">
+        <source>Send</source>
+        <translation>Send</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>Close</translation>
+    </message>
+    <message id="Thanks">
+        <source>Thanks</source>
+        <translation>Thanks</translation>
+    </message>
+    <message id="error">
+        <source>error</source>
+        <translation>Error</translation>
+    </message>
+    <message id="Cancel (math)">
+        <source>Cancel (math)</source>
+        <translation>Cancel the fraction</translation>
+    </message>
+    <message id="Extract a root">
+        <source>Extract a root</source>
+        <translation>Extract a root</translation>
+    </message>
+    <message id="Calculate power">
+        <source>Calculate power</source>
+        <translation>Calculate the power</translation>
+    </message>
+    <message id="Reciprocal">
+        <source>Reciprocal</source>
+        <translation>Reciprocal</translation>
+    </message>
+    <message id="Tavi Solver">
+        <source>Tavi Solver</source>
+        <translation>Tavi Solver</translation>
+    </message>
+    <message id="Input">
+        <source>Input</source>
+        <translation>Input</translation>
+    </message>
+    <message id="Clear">
+        <source>Clear</source>
+        <translation>Clear</translation>
+    </message>
+    <message id="Calculate Title">
+        <source>Calculate Title</source>
+        <translation>Powers and roots</translation>
+    </message>
+    <message id="sharingImageQualityTitle">
+        <source>sharingImageQualityTitle</source>
+        <translation>Preparing your picture</translation>
+    </message>
+    <message id="sharingImageQualityText">
+        <source>sharingImageQualityText</source>
+        <translation>The whole solution becomes one long picture. For the best quality, send it as a file.</translation>
+    </message>
+    <message id="History">
+        <source>History</source>
+        <translation>History</translation>
+    </message>
+    <message id="Clear History">
+        <source>Clear History</source>
+        <translation>Clear history</translation>
+    </message>
+    <message id="Are you sure to delete your whole history?">
+        <source>Are you sure to delete your whole history?</source>
+        <translation>Are you sure you want to delete your whole history?</translation>
+    </message>
+    <message id="Assistance">
+        <source>Assistance</source>
+        <translation>Help</translation>
+    </message>
+    <message id="noInternet">
+        <source>noInternet</source>
+        <translation>No internet connection</translation>
+    </message>
+    <message id="dsgvoAccept">
+        <source>dsgvoAccept</source>
+        <translation>Accept</translation>
+    </message>
+    <message id="dsgvoDecline">
+        <source>dsgvoDecline</source>
+        <translation>Decline</translation>
+    </message>
+    <message id="dsgvoYoutubeTitle">
+        <source>dsgvoYoutubeTitle</source>
+        <translation>Video privacy</translation>
+    </message>
+    <message id="dsgvoYoutubeText">
+        <source>dsgvoYoutubeText</source>
+        <translation>The videos come from YouTube. When you watch one, YouTube learns your internet address and may store data on your device. Do you want to see videos here?</translation>
+    </message>
+    <message id="dsgvoTitlePro">
+        <source>dsgvoTitlePro</source>
+        <translation>Privacy</translation>
+    </message>
+    <message id="dsgvoTextPro">
+        <source>dsgvoTextPro</source>
+        <translation>Everything you calculate stays on this device. The app notes which functions are used, without your name, so that it can become better. Do you agree?</translation>
+    </message>
+    <message id="onboardingA">
+        <source>onboardingA</source>
+        <translation>Welcome! Here you learn how powers and roots are worked out, one step at a time.</translation>
+    </message>
+    <message id="onboardingB">
+        <source>onboardingB</source>
+        <translation>Choose between power and root at the top.</translation>
+    </message>
+    <message id="onboardingC">
+        <source>onboardingC</source>
+        <translation>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome too.</translation>
+    </message>
+    <message id="onboardingD">
+        <source>onboardingD</source>
+        <translation>Tap the tick to see every step of the solution.</translation>
+    </message>
+    <message id="onboardingE">
+        <source>onboardingE</source>
+        <translation>Your tasks stay in the history, and you can share a solution as a picture.</translation>
+    </message>
+    <message id="onboardingYoutube1">
+        <source>onboardingYoutube1</source>
+        <translation>Some steps are easier to understand in a video.</translation>
+    </message>
+    <message id="onboardingYoutube2">
+        <source>onboardingYoutube2</source>
+        <translation>The videos below a solution fit the task you calculated.</translation>
+    </message>
+    <message id="onboardingYoutube3">
+        <source>onboardingYoutube3</source>
+        <translation>They come from YouTube, which may store data on your device.</translation>
+    </message>
+    <message id="onboardingYoutube4">
+        <source>onboardingYoutube4</source>
+        <translation>Nothing is loaded before you agree.</translation>
+    </message>
+    <message id="onboardingYoutube5">
+        <source>onboardingYoutube5</source>
+        <translation>You can change your mind at any time in the menu.</translation>
+    </message>
+    <message id="introduction">
+        <source>introduction</source>
+        <translation>Introduction</translation>
+    </message>
+    <message id="privacyPolicy">
+        <source>privacyPolicy</source>
+        <translation>Privacy policy</translation>
+    </message>
+    <message id="Rate this App">
+        <source>Rate this App</source>
+        <translation>Rate this app</translation>
+    </message>
+    <message id="oppositionError">
+        <source>oppositionError</source>
+        <translation>These numbers contradict each other. Please check your input.</translation>
+    </message>
+    <message id="mustBeBiggerThanXAndLessThanY">
+        <source>mustBeBiggerThanXAndLessThanY</source>
+        <translation>The value must be greater than %0 and less than %1.</translation>
+    </message>
+    <message id="mustBeGreatherThanX">
+        <source>mustBeGreatherThanX</source>
+        <translation>The value must be greater than %0.</translation>
+    </message>
+    <message id="mustBeLessThanX">
+        <source>mustBeLessThanX</source>
+        <translation>The value must be less than %0.</translation>
+    </message>
+    <message id="notEnoughInputValues">
+        <source>notEnoughInputValues</source>
+        <translation>A value is missing. Please fill in the marked field.</translation>
+    </message>
+    <message id="inputParameterError">
+        <source>inputParameterError</source>
+        <translation>This is not a number I can read. Please check the marked field.</translation>
+    </message>
+    <message id="fractionIncomplete">
+        <source>fractionIncomplete</source>
+        <translation>The fraction is incomplete. It needs a number above and below the line.</translation>
+    </message>
+    <message id="inputZeroInDenominator">
+        <source>inputZeroInDenominator</source>
+        <translation>You cannot divide by zero. Please change the denominator.</translation>
+    </message>
+    <message id="toManyNaturalConstantsInSubstring">
+        <source>toManyNaturalConstantsInSubstring</source>
+        <translation>Use π only once in each part of a number.</translation>
+    </message>
+    <message id="naturalConstantInWrongPositionOfSubstring">
+        <source>naturalConstantInWrongPositionOfSubstring</source>
+        <translation>Write π behind its number, as in 2π.</translation>
+    </message>
+    <message id="toManyVariablesInSubstring">
+        <source>toManyVariablesInSubstring</source>
+        <translation>Use only one variable in each part of a number.</translation>
+    </message>
+    <message id="calculationTooLong">
+        <source>calculationTooLong</source>
+        <translation>This would take more steps than anyone can read. Please try a smaller number here.</translation>
+    </message>
+    <message id="calculationOutOfRange">
+        <source>calculationOutOfRange</source>
+        <translation>These numbers are too large or too exact for me. Please use smaller or shorter ones.</translation>
+    </message>
+    <message id="menuButton">
+        <source>menuButton</source>
+        <translation>Menu</translation>
+    </message>
+    <message id="shareButton">
+        <source>shareButton</source>
+        <translation>Share the solution</translation>
+    </message>
+    <message id="manualButton">
+        <source>manualButton</source>
+        <translation>How it works</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+</context>
+</TS>

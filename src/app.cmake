@@ -1,0 +1,78 @@
+# The application: controllers, the items they drive, and its resources.
+find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick QuickControls2 LinguistTools)
+
+qt_add_library(tavi_app STATIC)
+set_target_properties(tavi_app PROPERTIES AUTOMOC ON)
+set_source_files_properties(appearance/Icons.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
+qt_add_qml_module(tavi_app
+  URI Tavi
+  VERSION 1.0
+  RESOURCE_PREFIX /qt-project.org/imports
+  OUTPUT_DIRECTORY ${CMAKE_BINARY_DIR}/qml/Tavi
+  SOURCES
+    appearance/appearance.cpp appearance/appearance.h
+    appearance/color_manager.cpp appearance/color_manager.h
+    appearance/interface_colors.cpp appearance/interface_colors.h
+    appearance/interface_fonts.cpp appearance/interface_fonts.h
+    appearance/shadow_item.cpp appearance/shadow_item.h
+    appearance/theme.cpp appearance/theme.h
+    appearance/view.cpp appearance/view.h
+    platform/localization.cpp platform/localization.h
+    shell/alert_controller.cpp shell/alert_controller.h
+    shell/app_delegate.cpp shell/app_delegate.h
+    shell/controller_host.cpp shell/controller_host.h
+    shell/navigation_drawer_controller.cpp shell/navigation_drawer_controller.h
+    shell/page_tab_bar_controller.cpp shell/page_tab_bar_controller.h
+    shell/tab_item.cpp shell/tab_item.h
+    shell/toolbar.cpp shell/toolbar.h
+    shell/toolbar_controller.cpp shell/toolbar_controller.h
+    shell/view_controller.cpp shell/view_controller.h
+    shell/view_manager.cpp shell/view_manager.h
+    solution/solution_view_controller.cpp solution/solution_view_controller.h
+  QML_FILES
+    appearance/ActionButton.qml
+    appearance/FloatingButton.qml
+    appearance/FocusRing.qml
+    appearance/Icon.qml
+    appearance/IconButton.qml
+    appearance/Icons.qml
+    shell/AlertPage.qml
+    shell/AppWindow.qml
+    shell/CalculatePage.qml
+    shell/DrawerPage.qml
+    shell/LeftPage.qml
+    shell/SpinnerOverlay.qml
+    shell/TabsPage.qml
+    shell/ToastLayer.qml
+    shell/ToolbarPage.qml
+    solution/SolutionPage.qml)
+target_include_directories(tavi_app
+  PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}
+  # The generated registration of QML types includes headers by their bare names.
+  PRIVATE appearance shell solution)
+target_link_libraries(tavi_app
+  PUBLIC tavi_engine tavi_services Qt6::Gui Qt6::Qml Qt6::Quick
+  PRIVATE Qt6::QuickControls2 tavi_options)
+
+
+# Built in: fonts from their Debian packages, the style of the controls, translations by key.
+function(tavi_add_font file folder)
+  find_file(path ${file} PATHS ${folder} REQUIRED NO_DEFAULT_PATH NO_CACHE)
+  set_source_files_properties(${path} PROPERTIES QT_RESOURCE_ALIAS ${file})
+  qt_add_resources(tavi_app "font_${file}" PREFIX /fonts FILES ${path})
+endfunction()
+foreach(weight Regular Medium Heavy)
+  tavi_add_font(Lato-${weight}.ttf /usr/share/fonts/truetype/lato)
+endforeach()
+tavi_add_font(materialdesignicons-webfont.ttf /usr/share/fonts/truetype/materialdesignicons-webfont)
+
+set(resources ${PROJECT_SOURCE_DIR}/resources)
+qt_add_resources(tavi_app controls_style PREFIX / BASE ${resources} FILES ${resources}/qtquickcontrols2.conf)
+qt_add_translations(tavi_app
+  TS_FILES ${resources}/translations/tavi_en.ts
+  RESOURCE_PREFIX /i18n
+  LRELEASE_OPTIONS -idbased)
+
+add_executable(tavi main.cpp shell/application.cpp shell/application.h)
+set_target_properties(tavi PROPERTIES AUTOMOC ON)
+target_link_libraries(tavi PRIVATE tavi_app tavi_appplugin tavi_options)

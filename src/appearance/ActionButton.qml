@@ -1,0 +1,50 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// A button with a title or an icon on a coloured, rounded ground, which darkens at once while it is pressed.
+// Styling writes its colours and its shadow into the attached view.
+T.Button {
+    id: control
+
+    property string iconText
+    property int radius: 8
+
+    View.kind: View.Button
+
+    implicitWidth: Math.max(Theme.touchTarget, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: Theme.touchTarget
+    leftPadding: 12
+    rightPadding: 12
+    opacity: View.alpha * (enabled ? 1 : 0.4)
+    font: Theme.medium(22)
+    hoverEnabled: true
+    Accessible.name: text
+
+    background: Item {
+        Shadow {
+            anchors.fill: parent
+            anchors.margins: -extent
+            shadow: control.View.shadow
+            cornerRadius: control.radius
+        }
+        Rectangle {
+            anchors.fill: parent
+            radius: control.radius
+            color: control.down ? Qt.darker(control.View.backgroundColor, 1.3)
+                                : control.hovered ? Qt.darker(control.View.backgroundColor, 1.06)
+                                                  : control.View.backgroundColor
+        }
+        FocusRing {
+            control: control
+            radius: control.radius
+        }
+    }
+    contentItem: Text {
+        text: control.iconText || control.text
+        font: control.iconText ? Theme.icons(24) : control.font
+        color: control.iconText ? control.View.tintColor : control.View.titleColor
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        elide: Text.ElideRight
+    }
+}

@@ -1,0 +1,26 @@
+import QtQuick
+
+// A round button over a page; outlined ones stand back.
+ActionButton {
+    id: control
+
+    property bool outlined: false
+
+    View.kind: View.FloatingButton
+
+    implicitWidth: 56
+    implicitHeight: 56
+    leftPadding: 0
+    rightPadding: 0
+    radius: width / 2
+
+    Rectangle {
+        anchors.fill: parent
+        visible: control.outlined
+        z: -1
+        radius: control.radius
+        color: "transparent"
+        border.width: 1
+        border.color: Theme.secondaryGray
+    }
+}

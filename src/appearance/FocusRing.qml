@@ -1,0 +1,13 @@
+import QtQuick
+
+// The ring around the control that the keyboard acts on.
+Rectangle {
+    required property Item control
+
+    anchors.fill: parent
+    anchors.margins: 1
+    visible: control.visualFocus
+    color: "transparent"
+    border.width: 2
+    border.color: Theme.focus
+}

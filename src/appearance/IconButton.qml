@@ -1,0 +1,39 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// A flat button of a toolbar: an icon or, without one, its title.
+T.AbstractButton {
+    id: control
+
+    property string iconText
+    property color tintColor: View.tintColor
+
+    View.kind: View.IconButton
+
+    implicitWidth: Math.max(Theme.touchTarget, contentItem.implicitWidth + leftPadding + rightPadding)
+    implicitHeight: Theme.touchTarget
+    leftPadding: 12
+    rightPadding: 12
+    hoverEnabled: true
+    font: Theme.medium(14)
+    Accessible.role: Accessible.Button
+    Accessible.name: text
+
+    background: Rectangle {
+        radius: height / 2
+        color: control.tintColor
+        opacity: control.down ? 0.2 : control.hovered ? 0.08 : 0
+    }
+    contentItem: Text {
+        text: control.iconText || control.text
+        font: control.iconText ? Theme.icons(24) : control.font
+        color: control.tintColor
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    FocusRing {
+        control: control
+        radius: height / 2
+    }
+}

@@ -1,0 +1,11 @@
+pragma Singleton
+import QtQml
+
+// The pictures of the icon font by what they show.
+QtObject {
+    readonly property string menu: "\uf35c"
+    readonly property string check: "\uf12c"
+    readonly property string arrowBack: "\uf06e"
+    readonly property string share: "\uf497"
+    readonly property string manual: "\uf625"
+}

@@ -1,0 +1,71 @@
+#include "appearance/theme.h"
+
+#include "appearance/appearance.h"
+#include "appearance/interface_colors.h"
+#include "appearance/interface_fonts.h"
+
+namespace tavi {
+
+Theme::Theme(QObject* parent) : QObject(parent) {
+  connect(&Appearance::shared(), &Appearance::changed, this, &Theme::appearanceChanged);
+}
+
+bool Theme::isDark() const {
+  return Appearance::shared().isDark();
+}
+
+QColor Theme::label() const {
+  return InterfaceColor::label();
+}
+
+QColor Theme::secondaryGray() const {
+  return InterfaceColor::secondaryGray();
+}
+
+QColor Theme::background() const {
+  return InterfaceColor::background();
+}
+
+QColor Theme::groupedBackground() const {
+  return InterfaceColor::groupedBackground();
+}
+
+QColor Theme::page() const {
+  return InterfaceColor::page();
+}
+
+QColor Theme::hairline() const {
+  QColor color = InterfaceColor::label();
+  color.setAlphaF(0.14F);
+  return color;
+}
+
+QColor Theme::focus() const {
+  return isDark() ? QColor::fromRgb(0x64b5f6) : QColor::fromRgb(0x1565c0);
+}
+
+QColor Theme::accentText() const {
+  return isDark() ? QColor::fromRgb(0xff80ab) : QColor::fromRgb(0xc2185b);
+}
+
+QColor Theme::darkTitle() const {
+  return InterfaceColor::darkTitle();
+}
+
+QFont Theme::book(int size) const {
+  return InterfaceFont::book(size);
+}
+
+QFont Theme::medium(int size) const {
+  return InterfaceFont::medium(size);
+}
+
+QFont Theme::heavy(int size) const {
+  return InterfaceFont::heavy(size);
+}
+
+QFont Theme::icons(int size) const {
+  return InterfaceFont::icons(size);
+}
+
+}  // namespace tavi

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QColor>
+#include <QFont>
+#include <QObject>
+#include <QQmlEngine>
+
+#include "appearance/color_manager.h"
+
+namespace tavi {
+
+/// Colours, fonts and measures for QML.
+class Theme : public QObject {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_SINGLETON
+  Q_PROPERTY(bool isDark READ isDark NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor label READ label NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor secondaryGray READ secondaryGray NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor background READ background NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor groupedBackground READ groupedBackground NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor page READ page NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor hairline READ hairline NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor focus READ focus NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor accentText READ accentText NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor darkTitle READ darkTitle CONSTANT)
+  Q_PROPERTY(QColor darkGold READ darkGold CONSTANT)
+  Q_PROPERTY(QColor brightYellow READ brightYellow CONSTANT)
+  Q_PROPERTY(QColor strongYellow READ strongYellow CONSTANT)
+  Q_PROPERTY(QColor pink READ pink CONSTANT)
+  Q_PROPERTY(QColor darkMagenta READ darkMagenta CONSTANT)
+  Q_PROPERTY(int tabletWidth READ tabletWidth CONSTANT)
+  Q_PROPERTY(int touchTarget READ touchTarget CONSTANT)
+
+ public:
+  explicit Theme(QObject* parent = nullptr);
+
+  bool isDark() const;
+  QColor label() const;
+  QColor secondaryGray() const;
+  QColor background() const;
+  QColor groupedBackground() const;
+  QColor page() const;
+  QColor hairline() const;    ///< Thin separating lines.
+  QColor focus() const;       ///< The ring around what the keyboard acts on.
+  QColor accentText() const;  ///< Pink as it can be read as text on the background.
+  QColor darkTitle() const;
+  QColor darkGold() const { return KeypadPalette::shared().darkGold; }
+  QColor brightYellow() const { return KeypadPalette::shared().brightYellow; }
+  QColor strongYellow() const { return KeypadPalette::shared().strongYellow; }
+  QColor pink() const { return KeypadPalette::shared().pink; }
+  QColor darkMagenta() const { return KeypadPalette::shared().darkMagenta; }
+
+  /// Windows from this width on are laid out as a tablet's.
+  int tabletWidth() const { return 840; }
+  /// Smallest side of what a finger taps.
+  int touchTarget() const { return 48; }
+
+  Q_INVOKABLE QFont book(int size) const;
+  Q_INVOKABLE QFont medium(int size) const;
+  Q_INVOKABLE QFont heavy(int size) const;
+  Q_INVOKABLE QFont icons(int size) const;
+
+ signals:
+  void appearanceChanged();
+};
+
+}  // namespace tavi

@@ -1,0 +1,26 @@
+import QtQuick
+import QtQuick.Window
+
+// The window of the application.
+Window {
+    id: window
+
+    required property ViewController rootController
+
+    width: 412
+    height: 870
+    minimumWidth: 320
+    minimumHeight: 480
+    color: Theme.page
+
+    ControllerHost {
+        anchors.fill: parent
+        controller: window.rootController
+    }
+    ToastLayer {
+        anchors.fill: parent
+    }
+    SpinnerOverlay {
+        anchors.fill: parent
+    }
+}

@@ -1,0 +1,7 @@
+import QtQuick
+
+Rectangle {
+    required property ViewController controller
+
+    color: Theme.page
+}

@@ -1,0 +1,8 @@
+import QtQuick
+
+// The side menu below its head; its table is empty yet.
+Rectangle {
+    required property ViewController controller
+
+    color: Theme.brightYellow
+}

@@ -1,0 +1,79 @@
+import QtQuick
+import QtQuick.Templates as T
+
+// Equal tabs over the open page, with a line that slides under the open one.
+Rectangle {
+    id: page
+
+    required property AppPageTabBarController controller
+
+    color: Theme.page
+
+    Rectangle {
+        id: bar
+
+        width: parent.width
+        height: 48
+        color: Theme.strongYellow
+
+        Row {
+            Repeater {
+                id: tabs
+
+                model: page.controller.tabItems
+
+                T.AbstractButton {
+                    id: tab
+
+                    required property int index
+                    required property TabItem modelData
+
+                    objectName: "tab" + index
+                    width: bar.width / tabs.count
+                    height: bar.height
+                    enabled: modelData.enabled
+                    text: modelData.title
+                    Accessible.role: Accessible.PageTab
+                    Accessible.name: text
+                    Accessible.selected: index === page.controller.selectedIndex
+                    background: Rectangle {
+                        color: tab.down ? Qt.darker(bar.color, 1.2) : "transparent"
+                    }
+                    contentItem: Text {
+                        text: tab.modelData.title
+                        font: tab.modelData.font
+                        color: tab.modelData.titleColor
+                        horizontalAlignment: Text.AlignHCenter
+                        verticalAlignment: Text.AlignVCenter
+                        elide: Text.ElideRight
+                    }
+                    onClicked: page.controller.tapTab(index)
+
+                    FocusRing {
+                        control: tab
+                    }
+                }
+            }
+        }
+
+        Rectangle {
+            objectName: "tabLine"
+            y: parent.height - height
+            x: page.controller.selectedIndex * width
+            width: parent.width / tabs.count
+            height: 2
+            color: Theme.pink
+
+            Behavior on x {
+                NumberAnimation { duration: 200; easing.type: Easing.OutCubic }
+            }
+        }
+    }
+
+    ControllerHost {
+        anchors.top: bar.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        controller: page.controller.selectedController
+    }
+}

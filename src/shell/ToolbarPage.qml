@@ -1,0 +1,90 @@
+import QtQuick
+
+// One screen under a toolbar.
+Item {
+    id: page
+
+    required property BasicToolbarController controller
+    readonly property Toolbar toolbar: controller.toolbar
+
+    Rectangle {
+        id: statusStrip
+
+        width: parent.width
+        height: visible ? 24 : 0
+        visible: page.toolbar.statusBarColor.a > 0
+        color: page.toolbar.statusBarColor
+    }
+
+    Rectangle {
+        id: bar
+
+        anchors.top: statusStrip.bottom
+        width: parent.width
+        height: page.toolbar.height
+        color: page.toolbar.backgroundColor
+
+        Item {
+            anchors.fill: parent
+            anchors.topMargin: page.toolbar.topInset
+
+            Row {
+                id: left
+
+                anchors.left: parent.left
+                anchors.leftMargin: 4
+                anchors.verticalCenter: parent.verticalCenter
+                Repeater {
+                    model: page.toolbar.leftViews
+                    delegate: barButton
+                }
+            }
+            Text {
+                anchors.left: left.right
+                anchors.right: right.left
+                anchors.margins: 12
+                anchors.verticalCenter: parent.verticalCenter
+                text: page.toolbar.title
+                font: page.toolbar.titleFont
+                color: page.toolbar.titleColor
+                elide: Text.ElideRight
+                fontSizeMode: page.toolbar.shrinksTitle ? Text.HorizontalFit : Text.FixedSize
+                minimumPixelSize: 12
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+            Row {
+                id: right
+
+                anchors.right: parent.right
+                anchors.rightMargin: 4
+                anchors.verticalCenter: parent.verticalCenter
+                Repeater {
+                    model: page.toolbar.rightViews
+                    delegate: barButton
+                }
+            }
+        }
+    }
+
+    Component {
+        id: barButton
+
+        IconButton {
+            required property ToolbarButton modelData
+
+            objectName: modelData.accessibilityIdentifier
+            text: modelData.title
+            iconText: modelData.icon ? Icons[modelData.icon] : ""
+            tintColor: modelData.tintColor
+            onClicked: modelData.tap()
+        }
+    }
+
+    ControllerHost {
+        anchors.top: bar.bottom
+        anchors.bottom: parent.bottom
+        width: parent.width
+        controller: page.controller.rootController
+    }
+}

@@ -1,0 +1,97 @@
+#include "shell/app_delegate.h"
+
+#include <QGuiApplication>
+#include <QQmlComponent>
+
+#include "number/fatal_stop.h"
+
+namespace tavi {
+
+namespace {
+
+/// Builds the controller of a lazy field and gives it its page.
+template <typename Controller, typename... Arguments>
+void build(std::shared_ptr<Controller>& field, QQmlEngine& engine, const char* page,
+           Arguments&&... arguments) {
+  field = std::make_shared<Controller>(std::forward<Arguments>(arguments)...);
+  field->setPage(engine, QString::fromLatin1(page));
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(QQmlEngine& engine) : engine_(engine) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::didFinishLaunching(const Services& services) {
+  services.remoteConfigManager.reload();
+  services.calcManager.runFirstStartStep();
+
+  std::shared_ptr<MenuToolbarController> menu;
+  build(menu, engine_, "shell/ToolbarPage.qml", leftViewController());
+  build(drawer_, engine_, "shell/DrawerPage.qml", appToolbarController(), menu);
+  openWindow();
+  presentFirstRun(services.userDefaults);
+
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [services](Qt::ApplicationState state) {
+    if (state == Qt::ApplicationActive) didBecomeActive(services);
+  });
+}
+
+void AppDelegate::didBecomeActive(const Services& services) {
+  constexpr std::chrono::seconds expiry{21600};
+  services.remoteConfig.fetch(
+      expiry, [&manager = services.remoteConfigManager](FetchStatus status, const std::optional<QString>& error) {
+        manager.handleFetchResult(status, error);
+      });
+}
+
+void AppDelegate::openWindow() {
+  QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Tavi/shell/AppWindow.qml")));
+  std::unique_ptr<QObject> object(component.createWithInitialProperties(
+      {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}}));
+  window_.reset(qobject_cast<QQuickWindow*>(object.get()));
+  if (!window_) fatalStop("the window does not load: " + component.errorString().toStdString());
+  std::ignore = object.release();
+  drawer_->beginAppearance();
+  window_->show();
+  drawer_->endAppearance();
+}
+
+/// Introduction and consent have no pages yet: what would call for them is read, and nothing is shown.
+void AppDelegate::presentFirstRun(const PreferenceStore& userDefaults) {
+  const bool needsOnboarding = !userDefaults.value<bool>(QStringLiteral("isOnboardingFinished"), false);
+  const bool needsConsent = !userDefaults.value<bool>(QStringLiteral("isDsgvoAccepted"), false);
+  std::ignore = needsOnboarding || needsConsent;
+}
+
+const std::shared_ptr<ViewController>& AppDelegate::calculateViewController() {
+  if (!calculateViewController_) build(calculateViewController_, engine_, "shell/CalculatePage.qml");
+  return calculateViewController_;
+}
+
+const std::shared_ptr<ViewController>& AppDelegate::leftViewController() {
+  if (!leftViewController_) build(leftViewController_, engine_, "shell/LeftPage.qml");
+  return leftViewController_;
+}
+
+const std::shared_ptr<SolutionViewController>& AppDelegate::solutionViewController() {
+  if (!solutionViewController_) build(solutionViewController_, engine_, "solution/SolutionPage.qml");
+  return solutionViewController_;
+}
+
+const std::shared_ptr<AppPageTabBarController>& AppDelegate::pageTabBarController() {
+  if (!pageTabBarController_) {
+    std::vector<std::shared_ptr<ViewController>> pages{calculateViewController(), solutionViewController()};
+    build(pageTabBarController_, engine_, "shell/TabsPage.qml", std::move(pages), 0);
+  }
+  return pageTabBarController_;
+}
+
+const std::shared_ptr<AppToolbarController>& AppDelegate::appToolbarController() {
+  if (!appToolbarController_)
+    build(appToolbarController_, engine_, "shell/ToolbarPage.qml", pageTabBarController());
+  return appToolbarController_;
+}
+
+}  // namespace tavi

@@ -1,0 +1,67 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <memory>
+
+#include "platform/preference_store.h"
+#include "platform/remote_config_service.h"
+#include "remote/remote_config_manager.h"
+#include "shell/calc_manager.h"
+#include "shell/navigation_drawer_controller.h"
+#include "shell/page_tab_bar_controller.h"
+#include "shell/toolbar_controller.h"
+#include "solution/solution_view_controller.h"
+
+namespace tavi {
+
+/// Starts the application and builds its controllers, each when it is first asked for.
+///
+/// A second one, never launched, is the way back to fresh pages: its `appToolbarController` goes to the
+/// drawer's `transition`.
+class AppDelegate : public QObject {
+  Q_OBJECT
+
+ public:
+  /// What a launch works with.
+  struct Services {
+    RemoteConfigService& remoteConfig = RemoteConfigService::shared();
+    RemoteConfigManager& remoteConfigManager = RemoteConfigManager::shared();
+    CalcManager& calcManager = CalcManager::shared();
+    PreferenceStore& userDefaults = PreferenceStore::standard();
+  };
+
+  /// The engine loads the pages and must live longer than every controller.
+  explicit AppDelegate(QQmlEngine& engine);
+  ~AppDelegate() override;
+
+  /// The launch: remote records, first-start step, screen tree, window. To be called once.
+  void didFinishLaunching(const Services& services);
+
+  /// Asks for new remote values if the last ones are older than six hours.
+  static void didBecomeActive(const Services& services);
+
+  QQuickWindow* window() const { return window_.get(); }
+  const std::shared_ptr<AppNavigationDrawerController>& drawer() const { return drawer_; }
+
+  const std::shared_ptr<ViewController>& calculateViewController();
+  const std::shared_ptr<ViewController>& leftViewController();
+  const std::shared_ptr<SolutionViewController>& solutionViewController();
+  const std::shared_ptr<AppPageTabBarController>& pageTabBarController();
+  const std::shared_ptr<AppToolbarController>& appToolbarController();
+
+ private:
+  void openWindow();
+  void presentFirstRun(const PreferenceStore& userDefaults);
+
+  QQmlEngine& engine_;
+  std::shared_ptr<ViewController> calculateViewController_;
+  std::shared_ptr<ViewController> leftViewController_;
+  std::shared_ptr<SolutionViewController> solutionViewController_;
+  std::shared_ptr<AppPageTabBarController> pageTabBarController_;
+  std::shared_ptr<AppToolbarController> appToolbarController_;
+  std::shared_ptr<AppNavigationDrawerController> drawer_;
+  std::unique_ptr<QQuickWindow> window_;
+};
+
+}  // namespace tavi

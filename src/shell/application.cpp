@@ -1,0 +1,26 @@
+#include "shell/application.h"
+
+#include <QtQml/qqmlextensionplugin.h>
+
+#include "appearance/appearance.h"
+#include "platform/application_context.h"
+#include "platform/localization.h"
+
+Q_IMPORT_QML_PLUGIN(TaviPlugin)
+
+namespace tavi {
+
+Application::Application(int& argumentCount, char** arguments)
+    : QGuiApplication(argumentCount, arguments), delegate_(engine_) {
+  nameApplication();
+  loadTranslations();
+  Appearance::shared().followSystem();
+}
+
+Application::~Application() = default;
+
+void Application::launch() {
+  delegate_.didFinishLaunching({});
+}
+
+}  // namespace tavi

@@ -1,0 +1,7 @@
+import QtQuick
+
+Rectangle {
+    required property SolutionViewController controller
+
+    color: Theme.page
+}
