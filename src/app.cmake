@@ -2,7 +2,8 @@
 find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick QuickControls2 LinguistTools)
 
 qt_add_library(tavi_app STATIC)
-set_target_properties(tavi_app PROPERTIES AUTOMOC ON)
+# Byte code alone starts as fast as generated C++ here, and builds in a fraction of the time.
+set_target_properties(tavi_app PROPERTIES AUTOMOC ON QT_QMLCACHEGEN_ARGUMENTS --only-bytecode)
 set_source_files_properties(appearance/Icons.qml PROPERTIES QT_QML_SINGLETON_TYPE TRUE)
 qt_add_qml_module(tavi_app
   URI Tavi

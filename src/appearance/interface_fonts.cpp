@@ -1,6 +1,7 @@
 #include "appearance/interface_fonts.h"
 
 #include <QFontDatabase>
+#include <QStringList>
 
 #include "number/fatal_stop.h"
 
