@@ -23,6 +23,7 @@ qt_add_qml_module(tavi_app
     shell/app_delegate.cpp shell/app_delegate.h
     shell/controller_host.cpp shell/controller_host.h
     shell/navigation_drawer_controller.cpp shell/navigation_drawer_controller.h
+    shell/page_loader.cpp shell/page_loader.h
     shell/page_tab_bar_controller.cpp shell/page_tab_bar_controller.h
     shell/tab_item.cpp shell/tab_item.h
     shell/toolbar.cpp shell/toolbar.h

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tavi
 
 // A button with a title or an icon on a coloured, rounded ground, which darkens at once while it is pressed.
 // Styling writes its colours and its shadow into the attached view.

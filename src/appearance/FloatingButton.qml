@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // A round button over a page; outlined ones stand back.
 ActionButton {

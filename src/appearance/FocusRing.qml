@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // The ring around the control that the keyboard acts on.
 Rectangle {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // One picture of the icon font, such as Icons.menu.
 Text {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tavi
 
 // A flat button of a toolbar: an icon or, without one, its title.
 T.AbstractButton {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tavi
 
 // A message in the middle of the window, with its buttons under it.
 Item {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Window
+import Tavi
 
 // The window of the application.
 Window {

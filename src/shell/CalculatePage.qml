@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 Rectangle {
     required property ViewController controller

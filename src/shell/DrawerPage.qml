@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tavi
 
 // The pages, and the side menu that slides over them; in a wide window it stays open beside them.
 Item {

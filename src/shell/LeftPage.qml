@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // The side menu below its head; its table is empty yet.
 Rectangle {

@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // Darkens the window under a turning wheel while something takes long, and holds all input off.
 Rectangle {

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Templates as T
+import Tavi
 
 // Equal tabs over the open page, with a line that slides under the open one.
 Rectangle {

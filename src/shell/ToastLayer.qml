@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // Short messages near the foot of the window; later ones stand on top of earlier ones.
 Item {

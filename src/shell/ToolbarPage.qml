@@ -1,4 +1,5 @@
 import QtQuick
+import Tavi
 
 // One screen under a toolbar.
 Item {

@@ -1,9 +1,8 @@
 #include "shell/app_delegate.h"
 
 #include <QGuiApplication>
-#include <QQmlComponent>
 
-#include "number/fatal_stop.h"
+#include "shell/page_loader.h"
 
 namespace tavi {
 
@@ -47,12 +46,9 @@ void AppDelegate::didBecomeActive(const Services& services) {
 }
 
 void AppDelegate::openWindow() {
-  QQmlComponent component(&engine_, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Tavi/shell/AppWindow.qml")));
-  std::unique_ptr<QObject> object(component.createWithInitialProperties(
-      {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}}));
-  window_.reset(qobject_cast<QQuickWindow*>(object.get()));
-  if (!window_) fatalStop("the window does not load: " + component.errorString().toStdString());
-  std::ignore = object.release();
+  window_ = loadPage<QQuickWindow>(
+      engine_, QStringLiteral("shell/AppWindow.qml"),
+      {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}});
   drawer_->beginAppearance();
   window_->show();
   drawer_->endAppearance();

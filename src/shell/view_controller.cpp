@@ -1,17 +1,16 @@
 #include "shell/view_controller.h"
 
 #include <QGuiApplication>
-#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTimer>
 #include <utility>
 
 #include "appearance/interface_fonts.h"
-#include "number/fatal_stop.h"
 #include "platform/localization.h"
 #include "platform/online_test.h"
 #include "shell/alert_controller.h"
+#include "shell/page_loader.h"
 
 namespace tavi {
 
@@ -40,14 +39,7 @@ QQuickItem* ViewController::view() {
 }
 
 void ViewController::load() {
-  const QUrl address(QStringLiteral("qrc:/qt-project.org/imports/Tavi/") + page_);
-  QQmlComponent component(engine_, address);
-  std::unique_ptr<QObject> object(
-      component.createWithInitialProperties({{QStringLiteral("controller"), QVariant::fromValue(this)}}));
-  view_.reset(qobject_cast<QQuickItem*>(object.get()));
-  if (!view_) fatalStop("a page does not load: " + component.errorString().toStdString());
-  std::ignore = object.release();
-  QQmlEngine::setObjectOwnership(view_.get(), QQmlEngine::CppOwnership);
+  view_ = loadPage<QQuickItem>(*engine_, page_, {{QStringLiteral("controller"), QVariant::fromValue(this)}});
 }
 
 void ViewController::beginAppearance() {
