@@ -9,10 +9,10 @@ namespace tavi::typeset {
 namespace {
 
 // TeX's \delimiterfactor and \delimitershortfall, the second in ems of the line: how much of the inside a fence covers.
-constexpr double kDelimiterFactor = 0.901;
-constexpr double kDelimiterShortfall = 0.5;
+constexpr double delimiterFactor = 0.901;
+constexpr double delimiterShortfall = 0.5;
 // TeX's \nulldelimiterspace in place of the invisible delimiter, in ems of the line.
-constexpr double kInvisibleDelimiter = 0.12;
+constexpr double invisibleDelimiterWidth = 0.12;
 
 // How far a part may be pushed over the one below it.
 struct Joint {
@@ -88,7 +88,7 @@ Extent Compositor::assembly(const VerticalShapes& shapes, char32_t character, do
 }
 
 Extent Compositor::delimiter(char32_t character, double total, Style style) {
-  if (character == 0) return {.width = rootEm(kInvisibleDelimiter)};
+  if (character == 0) return {.width = rootEm(invisibleDelimiterWidth)};
   const VerticalShapes& shapes = font_.verticalShapes(character);
   const double wanted = total / em(1, style);
   const auto variant = std::ranges::find_if(
@@ -108,7 +108,7 @@ Extent Compositor::fence(const Fence& fence, Style style) {
   Extent box = list(fence.content, style, true);
   const Mark contentEnd = mark();
   const double half = std::max(box.height - axis, box.depth + axis);
-  const double total = std::max(kDelimiterFactor * 2 * half, 2 * half - rootEm(kDelimiterShortfall));
+  const double total = std::max(delimiterFactor * 2 * half, 2 * half - rootEm(delimiterShortfall));
 
   // Centred on the axis at the given place; gives the width.
   const auto place = [&](char32_t character, double x) {

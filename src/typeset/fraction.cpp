@@ -6,7 +6,7 @@ namespace tavi::typeset {
 namespace {
 
 // TeX's \nulldelimiterspace at either side, which the MATH table does not know; in ems of the line.
-constexpr double kSideBlank = 0.12;
+constexpr double sideBlank = 0.12;
 
 }  // namespace
 
@@ -32,7 +32,7 @@ Extent Compositor::fraction(const Fraction& fraction, Style style) {
   const double down = std::max(denominatorShift, denominator.height + denominatorGap - ruleBottom);
 
   const double width = std::max(numerator.width, denominator.width);
-  const double side = rootEm(kSideBlank);
+  const double side = rootEm(sideBlank);
   move(start, middle, side + (width - numerator.width) / 2, up);
   move(middle, side + (width - denominator.width) / 2, -down);
   addRule(side, ruleBottom, width, thickness);

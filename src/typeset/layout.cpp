@@ -11,7 +11,7 @@ namespace {
 
 // TeX's table of the blanks between two atoms, a row for each class of the left one: 0 none, 1 thin outside scripts,
 // 2 thin in every style, 3 medium and 4 thick outside scripts, - a pair that cannot be.
-constexpr std::array<std::string_view, 8> kBlanks = {
+constexpr std::array<std::string_view, 8> blankTable = {
     "02340001",  // ordinary
     "22-40001",  // operation
     "33--3--3",  // binary
@@ -23,10 +23,10 @@ constexpr std::array<std::string_view, 8> kBlanks = {
 };
 
 // Stands where the font lacks a character: its own sign for that is blank.
-constexpr char32_t kSubstitute = U'□';
+constexpr char32_t substituteCharacter = U'□';
 
 double blankInMu(AtomClass left, AtomClass right, Style style) {
-  switch (kBlanks[static_cast<std::size_t>(left)][static_cast<std::size_t>(right)]) {
+  switch (blankTable[static_cast<std::size_t>(left)][static_cast<std::size_t>(right)]) {
     case '1':
       return style.isScript() ? 0 : 3;
     case '2':
@@ -118,9 +118,9 @@ const GlyphMetrics& Compositor::character(char32_t character, double x, Style st
   if (!layout_.error) {
     layout_.error = Error{.message = "the font has no " + encodeUtf8({&character, 1}), .position = position};
   }
-  const GlyphMetrics& substitute = font_.glyph(kSubstitute, style.shape());
+  const GlyphMetrics& substitute = font_.glyph(substituteCharacter, style.shape());
   addGlyph(substitute.id, character, x, 0, style);
-  layout_.glyphs.back().color = kErrorColor;
+  layout_.glyphs.back().color = errorColor;
   return substitute;
 }
 
@@ -184,7 +184,7 @@ Extent Compositor::symbol(const Symbol& symbol, Style style) {
 
 Extent Compositor::text(const Text& text, Style style) {
   const Color outer = color_;
-  if (text.isUnreadable) color_ = kErrorColor;
+  if (text.isUnreadable) color_ = errorColor;
   Extent box;
   for (const char32_t next : text.characters) {
     const GlyphMetrics& glyph = character(next, box.width, style, text.position);

@@ -36,7 +36,7 @@ struct Layout {
   double depth = 0;   ///< below the baseline
   std::vector<Glyph> glyphs;
   std::vector<Rule> rules;
-  /// The first character that the font lacks, if any; an empty box in kErrorColor takes its place.
+  /// The first character that the font lacks, if any; an empty box in errorColor takes its place.
   std::optional<Error> error;
 };
 

@@ -20,7 +20,7 @@ struct Rgb {
 using Color = std::optional<Rgb>;
 
 /// The colour of what could not be read or has no glyph.
-inline constexpr Rgb kErrorColor{0xd3, 0x2f, 0x2f};
+inline constexpr Rgb errorColor{0xd3, 0x2f, 0x2f};
 
 /// TeX's classes of atoms; they decide the blanks between neighbours.
 enum class AtomClass : std::uint8_t {

@@ -21,7 +21,7 @@ bool isLetter(char32_t character) {
 }
 
 bool isControl(char32_t character) {
-  return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == kNoCharacter;
+  return character < 0x20 || (character >= 0x7F && character < 0xA0) || character == noCharacter;
 }
 
 class Parser {
@@ -125,7 +125,7 @@ class Parser {
   // Reads `{…}` into `content`. False when it is no whole group: the braces then stand among the content as typed.
   bool braces(List& content) {
     const Position start = position_;
-    if (nesting_ == kMaximumNesting) {
+    if (nesting_ == maximumNesting) {
       skipGroup();
       unreadable(content, start, tooDeep());
       return false;
@@ -160,7 +160,7 @@ class Parser {
   }
 
   static std::string tooDeep() {
-    return "nested more than " + std::to_string(kMaximumNesting) + " levels deep";
+    return "nested more than " + std::to_string(maximumNesting) + " levels deep";
   }
 
   // What a command or a script takes: a group, or the next atom. Nothing is moved when there is none.
@@ -176,7 +176,7 @@ class Parser {
       braces(content);
       return content;
     }
-    if (nesting_ == kMaximumNesting) {
+    if (nesting_ == maximumNesting) {
       fail(position_, tooDeep());
       position_ = start;
       return std::nullopt;
@@ -289,7 +289,7 @@ class Parser {
     skipBlanks();
     if (at(U'[')) {
       nameEnd = ++position_;
-      if (nesting_ == kMaximumNesting) return unreadable(into, start, tooDeep());
+      if (nesting_ == maximumNesting) return unreadable(into, start, tooDeep());
       ++nesting_;
       index = list(Until::bracket);
       --nesting_;
@@ -303,25 +303,23 @@ class Parser {
 
   // The delimiter behind `\left` or `\right`: 0 for the invisible one, nothing when there is none.
   std::optional<char32_t> delimiter() {
+    const Position start = position_;
     skipBlanks();
-    if (atEnd()) return std::nullopt;
-    char32_t character = line_[position_];
-    Position length = 1;
-    if (character == U'\\' && position_ + 1 < line_.size()) {
-      character = line_[position_ + 1];
-      length = 2;
-      if (character != U'{' && character != U'}') return std::nullopt;
-    } else if (std::u32string_view(U"()[]|.").find(character) == std::u32string_view::npos) {
+    const bool isEscaped = at(U'\\');
+    if (isEscaped) ++position_;
+    const std::u32string_view delimiters = isEscaped ? U"{}" : U"()[]|.";
+    if (atEnd() || delimiters.find(line_[position_]) == std::u32string_view::npos) {
+      position_ = start;
       return std::nullopt;
     }
-    position_ += length;
+    const char32_t character = line_[position_++];
     return character == U'.' ? char32_t{0} : character;
   }
 
   void fence(List& into, Position start) {
     const auto opening = delimiter();
     if (!opening) return unreadable(into, start, "\\left needs a delimiter");
-    if (nesting_ == kMaximumNesting) return unreadable(into, start, tooDeep());
+    if (nesting_ == maximumNesting) return unreadable(into, start, tooDeep());
     const Position openingEnd = position_;
     ++nesting_;
     std::optional<List> content = list(Until::right);

@@ -15,7 +15,7 @@ constexpr Command space(std::string_view name, double mu) {
 constexpr Command function(std::string_view name) { return {.name = name, .kind = CommandKind::function}; }
 
 // In the order of the names' bytes.
-constexpr auto kCommands = std::to_array<Command>({
+constexpr auto commands = std::to_array<Command>({
     space(" ", 6),
     space("!", -3),
     symbol("#", U'#'),
@@ -113,7 +113,7 @@ constexpr auto kCommands = std::to_array<Command>({
     symbol("{", U'{'),
     symbol("}", U'}'),
 });
-static_assert(std::ranges::is_sorted(kCommands, {}, &Command::name));
+static_assert(std::ranges::is_sorted(commands, {}, &Command::name));
 
 struct ClassRange {
   char32_t first;
@@ -124,7 +124,7 @@ struct ClassRange {
 using enum AtomClass;
 
 // The classes of Unicode's mathematical characters; what is not listed is ordinary.
-constexpr auto kClasses = std::to_array<ClassRange>({
+constexpr auto classRanges = std::to_array<ClassRange>({
     {U'!', U'!', closing},
     {U'(', U'(', opening},
     {U')', U')', closing},
@@ -181,8 +181,8 @@ constexpr auto kClasses = std::to_array<ClassRange>({
 });
 
 AtomClass classOf(char32_t character) {
-  const auto range = std::ranges::lower_bound(kClasses, character, {}, &ClassRange::last);
-  return range != kClasses.end() && range->first <= character ? range->atomClass : ordinary;
+  const auto range = std::ranges::lower_bound(classRanges, character, {}, &ClassRange::last);
+  return range != classRanges.end() && range->first <= character ? range->atomClass : ordinary;
 }
 
 // Unicode's alphabets of mathematical italic letters.
@@ -206,8 +206,8 @@ std::optional<std::uint8_t> hexDigit(char32_t character) {
 }  // namespace
 
 const Command* findCommand(std::string_view name) {
-  const auto command = std::ranges::lower_bound(kCommands, name, {}, &Command::name);
-  return command != kCommands.end() && command->name == name ? &*command : nullptr;
+  const auto command = std::ranges::lower_bound(commands, name, {}, &Command::name);
+  return command != commands.end() && command->name == name ? &*command : nullptr;
 }
 
 Symbol symbolFor(char32_t character, bool isUpright) {

@@ -6,7 +6,7 @@ namespace tavi::typeset {
 namespace {
 
 struct Decoded {
-  char32_t character = kNoCharacter;
+  char32_t character = noCharacter;
   std::size_t length = 1;
 };
 

@@ -16,6 +16,7 @@ using Arguments = std::span<const std::string_view>;
 
 int solveCommand(Arguments arguments);
 int displayLatexCommand(Arguments arguments);
+int typesetCommand(Arguments arguments);
 
 /// Prints what is wrong and the usage to standard error; the result is the exit code.
 int usageError(std::string_view problem, std::string_view usage);
