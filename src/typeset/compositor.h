@@ -17,8 +17,9 @@ struct Extent {
   [[nodiscard]] double total() const { return height + depth; }
 };
 
-/// Sets a tree into a Layout. Each function sets its construct with the origin at (0, 0) behind what is in the layout
-/// already and gives its box; the caller then moves it into place. A function stands in the file of its construct.
+/// Sets a tree into a Layout. Each function sets its construct with the origin at (0, 0) behind what is in
+/// the layout already and gives its box; the caller then moves it into place. A function stands in the file
+/// of its construct.
 class Compositor {
  public:
   Compositor(MathFont& font, double size, Layout& layout);
@@ -51,8 +52,8 @@ class Compositor {
   Extent symbol(const Symbol& symbol, Style style);
   Extent text(const Text& text, Style style);
   Extent group(const Group& group, Style style);
-  // The smallest shape of the delimiter at least `total` tall, with its glyph's baseline, or the bottom of its
-  // assembly, at 0. Nothing for the delimiter 0 but its blank.
+  // The smallest shape of the delimiter at least `total` tall, with its glyph's baseline, or the bottom of
+  // its assembly, at 0. Nothing for the delimiter 0 but its blank.
   Extent delimiter(char32_t character, double total, Style style);
   Extent assembly(const VerticalShapes& shapes, char32_t character, double total, Style style);
   // Sets the character at x on the baseline; `position` is its place in the line, should the font lack it.
@@ -68,8 +69,8 @@ class Compositor {
   Color color_;
 };
 
-/// The single character an atom comes to, through groups that hold nothing else; nullptr for all others. Such an atom
-/// behaves as its character does.
+/// The single character an atom comes to, through groups that hold nothing else; nullptr for all others. Such
+/// an atom behaves as its character does.
 const Symbol* singleSymbol(const Atom& atom);
 
 }  // namespace tavi::typeset

@@ -8,7 +8,8 @@
 namespace tavi::typeset {
 namespace {
 
-// TeX's \delimiterfactor and \delimitershortfall, the second in ems of the line: how much of the inside a fence covers.
+// TeX's \delimiterfactor and \delimitershortfall, the second in ems of the line: how much of the inside a
+// fence covers.
 constexpr double delimiterFactor = 0.901;
 constexpr double delimiterShortfall = 0.5;
 // TeX's \nulldelimiterspace in place of the invisible delimiter, in ems of the line.

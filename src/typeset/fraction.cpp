@@ -20,14 +20,16 @@ Extent Compositor::fraction(const Fraction& fraction, Style style) {
   const double thickness = em(constants_.fractionRuleThickness, style);
   const double ruleTop = em(constants_.axisHeight, style) + thickness / 2;
   const double ruleBottom = ruleTop - thickness;
-  const double numeratorShift = em(isDisplay ? constants_.fractionNumeratorDisplayStyleShiftUp
-                                             : constants_.fractionNumeratorShiftUp, style);
-  const double numeratorGap = em(isDisplay ? constants_.fractionNumDisplayStyleGapMin
-                                           : constants_.fractionNumeratorGapMin, style);
+  const double numeratorShift =
+      em(isDisplay ? constants_.fractionNumeratorDisplayStyleShiftUp : constants_.fractionNumeratorShiftUp,
+         style);
+  const double numeratorGap =
+      em(isDisplay ? constants_.fractionNumDisplayStyleGapMin : constants_.fractionNumeratorGapMin, style);
   const double denominatorShift = em(isDisplay ? constants_.fractionDenominatorDisplayStyleShiftDown
-                                               : constants_.fractionDenominatorShiftDown, style);
-  const double denominatorGap = em(isDisplay ? constants_.fractionDenomDisplayStyleGapMin
-                                             : constants_.fractionDenominatorGapMin, style);
+                                               : constants_.fractionDenominatorShiftDown,
+                                     style);
+  const double denominatorGap = em(
+      isDisplay ? constants_.fractionDenomDisplayStyleGapMin : constants_.fractionDenominatorGapMin, style);
   const double up = std::max(numeratorShift, ruleTop + numeratorGap + numerator.depth);
   const double down = std::max(denominatorShift, denominator.height + denominatorGap - ruleBottom);
 

@@ -9,8 +9,8 @@
 namespace tavi::typeset {
 namespace {
 
-// TeX's table of the blanks between two atoms, a row for each class of the left one: 0 none, 1 thin outside scripts,
-// 2 thin in every style, 3 medium and 4 thick outside scripts, - a pair that cannot be.
+// TeX's table of the blanks between two atoms, a row for each class of the left one: 0 none, 1 thin outside
+// scripts, 2 thin in every style, 3 medium and 4 thick outside scripts, - a pair that cannot be.
 constexpr std::array<std::string_view, 8> blankTable = {
     "02340001",  // ordinary
     "22-40001",  // operation
@@ -40,7 +40,9 @@ double blankInMu(AtomClass left, AtomClass right, Style style) {
   }
 }
 
-bool isSpace(const Atom& atom) { return std::holds_alternative<Space>(atom.content); }
+bool isSpace(const Atom& atom) {
+  return std::holds_alternative<Space>(atom.content);
+}
 
 const Atom& nucleusOf(const Atom& atom) {
   const auto* scripts = std::get_if<Scripts>(&atom.content);
@@ -97,12 +99,8 @@ void Compositor::move(Mark from, Mark to, double dx, double dy) {
 }
 
 void Compositor::addGlyph(std::uint32_t id, char32_t character, double x, double y, Style style) {
-  layout_.glyphs.push_back({.id = id,
-                            .codePoint = character,
-                            .x = x,
-                            .y = y,
-                            .size = em(1, style),
-                            .color = color_});
+  layout_.glyphs.push_back(
+      {.id = id, .codePoint = character, .x = x, .y = y, .size = em(1, style), .color = color_});
 }
 
 void Compositor::addRule(double x, double y, double width, double height) {
@@ -135,7 +133,8 @@ Extent Compositor::list(const List& atoms, Style style, bool isFenced) {
     }
     AtomClass atomClass = classOf(current);
     if (atomClass == AtomClass::binary) {
-      const auto next = std::find_if_not(atoms.begin() + static_cast<std::ptrdiff_t>(index) + 1, atoms.end(), isSpace);
+      const auto next =
+          std::find_if_not(atoms.begin() + static_cast<std::ptrdiff_t>(index) + 1, atoms.end(), isSpace);
       const auto right = next == atoms.end() ? std::nullopt : std::optional(classOf(*next));
       if (leavesNoOperand(left) || takesNoOperand(right)) atomClass = AtomClass::ordinary;
     }

@@ -9,8 +9,8 @@
 
 namespace tavi::typeset {
 
-/// A glyph with its origin. All lengths of a layout are in the unit of the font size (pixels, points, …); x grows to
-/// the right from the start of the line, y upwards from its baseline.
+/// A glyph with its origin. All lengths of a layout are in the unit of the font size (pixels, points, …); x
+/// grows to the right from the start of the line, y upwards from its baseline.
 struct Glyph {
   std::uint32_t id = 0;
   char32_t codePoint = 0;  ///< the character drawn: a mathematical letter, a delimiter, the sign of a root

@@ -1,11 +1,11 @@
 #include "typeset/math_font.h"
 
-#include <hb-ot.h>
-#include <hb.h>
-
 #include <algorithm>
 #include <limits>
 #include <utility>
+
+#include <hb-ot.h>
+#include <hb.h>
 
 namespace tavi::typeset {
 namespace {

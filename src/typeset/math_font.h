@@ -13,7 +13,8 @@ struct hb_font_t;
 
 namespace tavi::typeset {
 
-/// Which of a glyph's shapes is set: the plain one, or the sturdier ones drawn for scripts and scripts of scripts.
+/// Which of a glyph's shapes is set: the plain one, or the sturdier ones drawn for scripts and scripts of
+/// scripts.
 enum class ScriptShape : std::uint8_t { plain, script, scriptscript };
 
 /// A glyph's measures, in ems of the style in which it is set.

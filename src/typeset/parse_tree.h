@@ -99,9 +99,7 @@ struct Error {
   std::size_t position = 0;  ///< index of the character, from 0
 
   /// The message with the place, counted from 1: "unknown command \foo at character 3".
-  [[nodiscard]] std::string text() const {
-    return message + " at character " + std::to_string(position + 1);
-  }
+  [[nodiscard]] std::string text() const { return message + " at character " + std::to_string(position + 1); }
 };
 
 /// A line as read. A faulty line is read as far as it goes, and its first fault is told.

@@ -122,7 +122,8 @@ class Parser {
     into.push_back({read});
   }
 
-  // Reads `{…}` into `content`. False when it is no whole group: the braces then stand among the content as typed.
+  // Reads `{…}` into `content`. False when it is no whole group: the braces then stand among the content as
+  // typed.
   bool braces(List& content) {
     const Position start = position_;
     if (nesting_ == maximumNesting) {
@@ -276,7 +277,8 @@ class Parser {
   }
 
   // The command alone could not be read: it stands as typed, what was read of its arguments follows.
-  void keepAsTyped(List& into, Position start, Position nameEnd, std::string message, std::optional<List>& read) {
+  void keepAsTyped(List& into, Position start, Position nameEnd, std::string message,
+                   std::optional<List>& read) {
     const Position end = std::exchange(position_, nameEnd);
     unreadable(into, start, std::move(message));
     position_ = end;
@@ -328,7 +330,8 @@ class Parser {
     const Position right = position_;
     commandName();
     const auto closing = delimiter();
-    into.push_back({Fence{.opening = *opening, .closing = closing.value_or(0), .content = *std::move(content)}});
+    into.push_back(
+        {Fence{.opening = *opening, .closing = closing.value_or(0), .content = *std::move(content)}});
     if (!closing) unreadable(into, right, "\\right needs a delimiter");
   }
 
@@ -347,7 +350,8 @@ class Parser {
     auto characters = rawArgument();
     if (!characters) return unreadable(into, start, "\\text needs an argument in braces");
     if (std::ranges::any_of(*characters, isControl)) return unreadable(into, start, "unreadable character");
-    into.push_back({Text{.characters = withoutMarkup(*characters), .position = static_cast<std::uint32_t>(start)}});
+    into.push_back(
+        {Text{.characters = withoutMarkup(*characters), .position = static_cast<std::uint32_t>(start)}});
   }
 
   // Running text without its inner braces and the backslashes of escaped characters.
@@ -380,6 +384,8 @@ class Parser {
 
 }  // namespace
 
-Formula parse(std::string_view latex) { return Parser(latex).run(); }
+Formula parse(std::string_view latex) {
+  return Parser(latex).run();
+}
 
 }  // namespace tavi::typeset

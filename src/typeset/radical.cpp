@@ -10,8 +10,8 @@ Extent Compositor::radical(const Radical& radical, Style style) {
   const Mark radicandEnd = mark();
 
   const double thickness = em(constants_.radicalRuleThickness, style);
-  double gap = em(style.isDisplay() ? constants_.radicalDisplayStyleVerticalGap : constants_.radicalVerticalGap,
-                  style);
+  double gap = em(
+      style.isDisplay() ? constants_.radicalDisplayStyleVerticalGap : constants_.radicalVerticalGap, style);
   const double needed = radicand.total() + gap + thickness;
   const Extent sign = delimiter(U'√', needed, style);
   if (sign.total() > needed) gap += (sign.total() - needed) / 2;

@@ -19,9 +19,10 @@ Extent Compositor::scripts(const Scripts& scripts, Style style) {
   const Extent below = scripts.subscript ? list(*scripts.subscript, style.subscript()) : Extent{};
 
   if (scripts.superscript) {
-    up = std::max({up,
-                   em(style.isCramped ? constants_.superscriptShiftUpCramped : constants_.superscriptShiftUp, style),
-                   above.depth + em(constants_.superscriptBottomMin, style)});
+    up = std::max(
+        {up,
+         em(style.isCramped ? constants_.superscriptShiftUpCramped : constants_.superscriptShiftUp, style),
+         above.depth + em(constants_.superscriptBottomMin, style)});
   }
   if (scripts.subscript) {
     down = std::max(down, em(constants_.subscriptShiftDown, style));

@@ -12,7 +12,9 @@ constexpr Command symbol(std::string_view name, char32_t character) {
 constexpr Command space(std::string_view name, double mu) {
   return {.name = name, .kind = CommandKind::space, .mu = mu};
 }
-constexpr Command function(std::string_view name) { return {.name = name, .kind = CommandKind::function}; }
+constexpr Command function(std::string_view name) {
+  return {.name = name, .kind = CommandKind::function};
+}
 
 // In the order of the names' bytes.
 constexpr auto commands = std::to_array<Command>({
@@ -125,59 +127,24 @@ using enum AtomClass;
 
 // The classes of Unicode's mathematical characters; what is not listed is ordinary.
 constexpr auto classRanges = std::to_array<ClassRange>({
-    {U'!', U'!', closing},
-    {U'(', U'(', opening},
-    {U')', U')', closing},
-    {U'+', U'+', binary},
-    {U',', U',', punctuation},
-    {U';', U';', punctuation},
-    {U'<', U'>', relation},
-    {U'[', U'[', opening},
-    {U']', U']', closing},
-    {U'{', U'{', opening},
-    {U'}', U'}', closing},
-    {U'±', U'±', binary},
-    {U'·', U'·', binary},
-    {U'×', U'×', binary},
-    {U'÷', U'÷', binary},
-    {0x2020, 0x2022, binary},
-    {0x2190, 0x21FF, relation},
-    {0x2208, 0x220D, relation},
-    {0x220F, 0x2211, operation},
-    {0x2212, 0x2219, binary},
-    {0x221D, 0x221D, relation},
-    {0x2223, 0x2226, relation},
-    {0x2227, 0x222A, binary},
-    {0x222B, 0x2233, operation},
-    {0x2236, 0x2237, relation},
-    {0x2238, 0x2238, binary},
-    {0x2239, 0x223D, relation},
-    {0x223E, 0x223E, binary},
-    {0x2240, 0x2240, binary},
-    {0x2241, 0x228B, relation},
-    {0x228C, 0x228E, binary},
-    {0x228F, 0x2292, relation},
-    {0x2293, 0x22A1, binary},
-    {0x22A2, 0x22A3, relation},
-    {0x22A6, 0x22B8, relation},
-    {0x22BA, 0x22BD, binary},
-    {0x22C0, 0x22C3, operation},
-    {0x22C4, 0x22C7, binary},
-    {0x22C8, 0x22C8, relation},
-    {0x22C9, 0x22CC, binary},
-    {0x22CD, 0x22CD, relation},
-    {0x22CE, 0x22CF, binary},
-    {0x22D0, 0x22D1, relation},
-    {0x22D2, 0x22D3, binary},
-    {0x22D4, 0x22EE, relation},
-    {0x22F0, 0x22FF, relation},
-    {0x2308, 0x2308, opening},
-    {0x2309, 0x2309, closing},
-    {0x230A, 0x230A, opening},
-    {0x230B, 0x230B, closing},
-    {0x27E8, 0x27E8, opening},
-    {0x27E9, 0x27E9, closing},
-    {0x27F0, 0x297F, relation},
+    {U'!', U'!', closing},       {U'(', U'(', opening},      {U')', U')', closing},
+    {U'+', U'+', binary},        {U',', U',', punctuation},  {U';', U';', punctuation},
+    {U'<', U'>', relation},      {U'[', U'[', opening},      {U']', U']', closing},
+    {U'{', U'{', opening},       {U'}', U'}', closing},      {U'±', U'±', binary},
+    {U'·', U'·', binary},        {U'×', U'×', binary},       {U'÷', U'÷', binary},
+    {0x2020, 0x2022, binary},    {0x2190, 0x21FF, relation}, {0x2208, 0x220D, relation},
+    {0x220F, 0x2211, operation}, {0x2212, 0x2219, binary},   {0x221D, 0x221D, relation},
+    {0x2223, 0x2226, relation},  {0x2227, 0x222A, binary},   {0x222B, 0x2233, operation},
+    {0x2236, 0x2237, relation},  {0x2238, 0x2238, binary},   {0x2239, 0x223D, relation},
+    {0x223E, 0x223E, binary},    {0x2240, 0x2240, binary},   {0x2241, 0x228B, relation},
+    {0x228C, 0x228E, binary},    {0x228F, 0x2292, relation}, {0x2293, 0x22A1, binary},
+    {0x22A2, 0x22A3, relation},  {0x22A6, 0x22B8, relation}, {0x22BA, 0x22BD, binary},
+    {0x22C0, 0x22C3, operation}, {0x22C4, 0x22C7, binary},   {0x22C8, 0x22C8, relation},
+    {0x22C9, 0x22CC, binary},    {0x22CD, 0x22CD, relation}, {0x22CE, 0x22CF, binary},
+    {0x22D0, 0x22D1, relation},  {0x22D2, 0x22D3, binary},   {0x22D4, 0x22EE, relation},
+    {0x22F0, 0x22FF, relation},  {0x2308, 0x2308, opening},  {0x2309, 0x2309, closing},
+    {0x230A, 0x230A, opening},   {0x230B, 0x230B, closing},  {0x27E8, 0x27E8, opening},
+    {0x27E9, 0x27E9, closing},   {0x27F0, 0x297F, relation},
 });
 
 AtomClass classOf(char32_t character) {

@@ -8,7 +8,18 @@
 
 namespace tavi::typeset {
 
-enum class CommandKind : std::uint8_t { symbol, function, space, fraction, root, left, right, color, text, upright };
+enum class CommandKind : std::uint8_t {
+  symbol,
+  function,
+  space,
+  fraction,
+  root,
+  left,
+  right,
+  color,
+  text,
+  upright
+};
 
 struct Command {
   std::string_view name;  ///< without the backslash
@@ -20,8 +31,9 @@ struct Command {
 /// The command of that name, or nullptr.
 const Command* findCommand(std::string_view name);
 
-/// How `character` is set in mathematics: which glyph, and of which class. Letters and small Greek letters become
-/// mathematical italic, unless `isUpright`; a hyphen becomes a minus sign, a colon the sign of a ratio.
+/// How `character` is set in mathematics: which glyph, and of which class. Letters and small Greek letters
+/// become mathematical italic, unless `isUpright`; a hyphen becomes a minus sign, a colon the sign of a
+/// ratio.
 Symbol symbolFor(char32_t character, bool isUpright);
 
 /// `#rgb`, `#rrggbb`, black, red, green, blue or gray.

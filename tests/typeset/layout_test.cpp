@@ -1,9 +1,9 @@
 #include "typeset/layout.h"
 
-#include <gtest/gtest.h>
-
 #include <algorithm>
 #include <string>
+
+#include <gtest/gtest.h>
 
 #include "math_font_fixture.h"
 #include "typeset/typeset.h"
@@ -11,11 +11,14 @@
 namespace tavi::typeset {
 namespace {
 
-Layout set(std::string_view latex, double size = 20) { return typeset(latex, testFont(), size); }
+Layout set(std::string_view latex, double size = 20) {
+  return typeset(latex, testFont(), size);
+}
 
 TEST(Layout, ScalesWithTheSize) {
   constexpr std::string_view latex =
-      "\\sqrt[3]{\\frac{x^{2}_{1}}{2}}=\\left(\\frac{\\frac{\\frac{1}{2}}{3}}{\\frac{4}{\\frac{5}{6}}}\\right)^{\\left.1\\right|}";
+      "\\sqrt[3]{\\frac{x^{2}_{1}}{2}}=\\left(\\frac{\\frac{\\frac{1}{2}}{3}}{\\frac{4}{\\frac{5}{6}}}"
+      "\\right)^{\\left.1\\right|}";
   const Layout small = set(latex, 10);
   const Layout large = set(latex, 70);
   EXPECT_NEAR(large.width, 7 * small.width, 1e-9);
@@ -86,9 +89,11 @@ TEST(Layout, AnEmptyLineIsNothing) {
   EXPECT_TRUE(layout.glyphs.empty());
 }
 
-// The bar of a root goes on where its sign ends, and a bar of a fraction stands on the axis of the fences around it.
+// The bar of a root goes on where its sign ends, and a bar of a fraction stands on the axis of the fences
+// around it.
 TEST(Layout, BarsMeetTheirSigns) {
-  for (const std::string_view radicand : {"2", "x^{2}", "\\frac{1}{2}", "\\frac{\\frac{1}{2}}{\\frac{\\frac{3}{4}}{5}}"}) {
+  for (const std::string_view radicand :
+       {"2", "x^{2}", "\\frac{1}{2}", "\\frac{\\frac{1}{2}}{\\frac{\\frac{3}{4}}{5}}"}) {
     SCOPED_TRACE(radicand);
     const Layout layout = set("\\sqrt{" + std::string(radicand) + "}");
     const auto& bar = layout.rules.back();

@@ -1,7 +1,7 @@
-#include <gtest/gtest.h>
-
 #include <array>
 #include <vector>
+
+#include <gtest/gtest.h>
 
 #include "math_font_fixture.h"
 
@@ -47,7 +47,8 @@ TEST(MathFont, ParenthesesGrowInStepsAndThenInPieces) {
   for (const GlyphMetrics& variant : shapes.variants) heights.push_back(variant.height + variant.depth);
   const std::array expected{0.996, 1.094, 1.194, 1.444, 1.792, 2.092, 2.392, 2.990};
   ASSERT_EQ(heights.size(), expected.size());
-  for (std::size_t index = 0; index < expected.size(); ++index) EXPECT_NEAR(heights[index], expected[index], 0.002);
+  for (std::size_t index = 0; index < expected.size(); ++index)
+    EXPECT_NEAR(heights[index], expected[index], 0.002);
   ASSERT_EQ(shapes.assembly.size(), 3U);
   EXPECT_TRUE(shapes.assembly[1].isExtender);
 }

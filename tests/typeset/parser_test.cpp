@@ -1,9 +1,9 @@
 #include "typeset/parser.h"
 
-#include <gtest/gtest.h>
-
 #include <string>
 #include <string_view>
+
+#include <gtest/gtest.h>
 
 #include "typeset/utf8.h"
 
@@ -83,7 +83,10 @@ TEST(Parser, ColoursAreDigitsOrNames) {
     Rgb rgb;
   };
   const Case cases[] = {
-      {"#5774f7", {0x57, 0x74, 0xf7}}, {"#F3a", {0xff, 0x33, 0xaa}}, {"gray", {0x80, 0x80, 0x80}}, {"red", {0xff, 0, 0}},
+      {"#5774f7", {0x57, 0x74, 0xf7}},
+      {"#F3a", {0xff, 0x33, 0xaa}},
+      {"gray", {0x80, 0x80, 0x80}},
+      {"red", {0xff, 0, 0}},
   };
   for (const auto& [name, rgb] : cases) {
     SCOPED_TRACE(name);
@@ -146,16 +149,22 @@ TEST(Parser, LimitsHowDeepALineNests) {
     std::string_view opening;
     std::string_view closing;
   };
-  const Case cases[] = {{"{", "}"},           {"x^{", "}"},        {"\\sqrt", ""},
-                        {"\\sqrt[", "]2"},    {"\\frac{1}{", "}"}, {"\\left(", "\\right)"},
-                        {"\\color{red}{", "}"}, {"\\mathrm{", "}"}};
+  const Case cases[] = {{"{", "}"},
+                        {"x^{", "}"},
+                        {"\\sqrt", ""},
+                        {"\\sqrt[", "]2"},
+                        {"\\frac{1}{", "}"},
+                        {"\\left(", "\\right)"},
+                        {"\\color{red}{", "}"},
+                        {"\\mathrm{", "}"}};
   for (const auto& [opening, closing] : cases) {
     SCOPED_TRACE(opening);
     EXPECT_FALSE(parse(repeat(opening, maximumNesting) + "2" + repeat(closing, maximumNesting)).error);
     for (const int depth : {maximumNesting + 1, 100000}) {
       const auto error = parse(repeat(opening, depth) + "2" + repeat(closing, depth)).error;
       ASSERT_TRUE(error.has_value());
-      EXPECT_TRUE(error->text().starts_with("nested more than 200 levels deep at character")) << error->text();
+      EXPECT_TRUE(error->text().starts_with("nested more than 200 levels deep at character"))
+          << error->text();
     }
   }
 }

@@ -7,7 +7,6 @@
 #include <vector>
 
 #include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
 
 #include "math_font_fixture.h"
@@ -72,7 +71,8 @@ TEST(Reference, EveryLineIsSetAsTexSetsIt) {
     ASSERT_EQ(layout.rules.size(), expected["rules"].size());
     for (const Rule& rule : layout.rules) {
       const bool isThere = std::ranges::any_of(expected["rules"], [&](const json& other) {
-        return std::abs(rule.x - other[0].get<double>()) < near && std::abs(rule.y - other[1].get<double>()) < near &&
+        return std::abs(rule.x - other[0].get<double>()) < near &&
+               std::abs(rule.y - other[1].get<double>()) < near &&
                std::abs(rule.width - other[2].get<double>()) < near &&
                std::abs(rule.height - other[3].get<double>()) < near;
       });

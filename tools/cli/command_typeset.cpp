@@ -28,7 +28,9 @@ lower left corner. "cp" is the code point drawn. A faulty line is set as far as 
 )";
 
 // Coordinates to the millionth: what is left of doubles beyond that is noise.
-double rounded(double value) { return std::round(value * 1e6) / 1e6 + 0.0; }
+double rounded(double value) {
+  return std::round(value * 1e6) / 1e6 + 0.0;
+}
 
 ordered_json asJson(const std::string& latex, double size, const typeset::Layout& layout) {
   ordered_json glyphs = ordered_json::array();
@@ -58,7 +60,8 @@ ordered_json asJson(const std::string& latex, double size, const typeset::Layout
 std::optional<double> readSize(std::string_view text) {
   double size = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), size);
-  if (error != std::errc{} || end != text.data() + text.size() || !(size > 0 && size <= 10000)) return std::nullopt;
+  if (error != std::errc{} || end != text.data() + text.size() || !(size > 0 && size <= 10000))
+    return std::nullopt;
   return size;
 }
 
