@@ -59,6 +59,8 @@ class Compositor {
   // Sets the character at x on the baseline; `position` is its place in the line, should the font lack it.
   const GlyphMetrics& character(char32_t character, double x, Style style, std::uint32_t position);
   void addGlyph(std::uint32_t id, char32_t character, double x, double y, Style style);
+  // What is set since `from` becomes one figure.
+  void join(Mark from);
   void addRule(double x, double y, double width, double height);
   [[nodiscard]] double italicCorrection(const Atom& atom, Style style);
 
@@ -67,6 +69,7 @@ class Compositor {
   Layout& layout_;
   std::array<double, 4> sizes_;  // by StyleLevel
   Color color_;
+  Figure lastFigure_ = noFigure;
 };
 
 /// The single character an atom comes to, through groups that hold nothing else; nullptr for all others. Such

@@ -72,6 +72,7 @@ Extent Compositor::assembly(const VerticalShapes& shapes, char32_t character, do
   const double surplus = std::clamp(reach.tallest - wanted, 0.0, reach.slack);
   const double share = reach.slack > 0 ? surplus / reach.slack : 0;
 
+  const Mark start = mark();
   Extent box;
   double bottom = 0;
   for (std::size_t index = 0; index < sequence.size(); ++index) {
@@ -84,6 +85,7 @@ Extent Compositor::assembly(const VerticalShapes& shapes, char32_t character, do
     bottom += part.length;
     box.width = std::max(box.width, em(part.width, style));
   }
+  join(start);
   box.height = em(bottom, style);
   return box;
 }

@@ -44,11 +44,6 @@ bool isSpace(const Atom& atom) {
   return std::holds_alternative<Space>(atom.content);
 }
 
-const Atom& nucleusOf(const Atom& atom) {
-  const auto* scripts = std::get_if<Scripts>(&atom.content);
-  return scripts ? scripts->nucleus.front() : atom;
-}
-
 AtomClass classOf(const Atom& atom) {
   if (const auto* symbol = std::get_if<Symbol>(&atom.content)) return symbol->atomClass;
   if (const auto* text = std::get_if<Text>(&atom.content)) return text->atomClass;
@@ -74,9 +69,9 @@ bool takesNoOperand(std::optional<AtomClass> right) {
 const Symbol* singleSymbol(const Atom& atom) {
   if (const auto* symbol = std::get_if<Symbol>(&atom.content)) return symbol;
   const auto* group = std::get_if<Group>(&atom.content);
-  if (!group || group->content.size() != 1) return nullptr;
+  if (group == nullptr || group->content.size() != 1) return nullptr;
   const Symbol* symbol = singleSymbol(group->content.front());
-  return symbol && symbol->atomClass == AtomClass::ordinary ? symbol : nullptr;
+  return symbol != nullptr && symbol->atomClass == AtomClass::ordinary ? symbol : nullptr;
 }
 
 Compositor::Compositor(MathFont& font, double size, Layout& layout)
@@ -104,7 +99,18 @@ void Compositor::addGlyph(std::uint32_t id, char32_t character, double x, double
 }
 
 void Compositor::addRule(double x, double y, double width, double height) {
-  layout_.rules.push_back({.x = x, .y = y, .width = width, .height = height, .color = color_});
+  // Blanks such as \! can make an argument narrower than nothing.
+  layout_.rules.push_back({.x = x, .y = y, .width = std::max(0.0, width), .height = height, .color = color_});
+}
+
+void Compositor::join(Mark from) {
+  ++lastFigure_;
+  for (std::size_t index = from.glyphs; index < layout_.glyphs.size(); ++index) {
+    layout_.glyphs[index].figure = lastFigure_;
+  }
+  for (std::size_t index = from.rules; index < layout_.rules.size(); ++index) {
+    layout_.rules[index].figure = lastFigure_;
+  }
 }
 
 const GlyphMetrics& Compositor::character(char32_t character, double x, Style style, std::uint32_t position) {
@@ -147,7 +153,8 @@ Extent Compositor::list(const List& atoms, Style style, bool isFenced) {
     box.width += extent.width;
     box.height = std::max(box.height, extent.height);
     box.depth = std::max(box.depth, extent.depth);
-    const bool isBeforeSymbol = index + 1 < atoms.size() && singleSymbol(nucleusOf(atoms[index + 1]));
+    const bool isBeforeSymbol =
+        index + 1 < atoms.size() && singleSymbol(nucleusOf(atoms[index + 1])) != nullptr;
     if (isBeforeSymbol) box.width += italicCorrection(current, style);
   }
   if (left && isFenced) box.width += em(blankInMu(*left, AtomClass::closing, style) / 18, style);
@@ -156,7 +163,8 @@ Extent Compositor::list(const List& atoms, Style style, bool isFenced) {
 
 double Compositor::italicCorrection(const Atom& atom, Style style) {
   const Symbol* symbol = singleSymbol(atom);
-  const bool hasCorrection = symbol && !symbol->isUpright && symbol->atomClass != AtomClass::opening;
+  const bool hasCorrection =
+      symbol != nullptr && !symbol->isUpright && symbol->atomClass != AtomClass::opening;
   return hasCorrection ? em(font_.glyph(symbol->drawn, style.shape()).italicCorrection, style) : 0;
 }
 

@@ -9,6 +9,11 @@
 
 namespace tavi::typeset {
 
+/// Glyphs and rules that form one figure, such as a root's sign with its bar or the pieces of a tall
+/// parenthesis, have the same number and are to be filled as one outline, without seams.
+using Figure = std::uint32_t;
+inline constexpr Figure noFigure = 0;
+
 /// A glyph with its origin. All lengths of a layout are in the unit of the font size (pixels, points, …); x
 /// grows to the right from the start of the line, y upwards from its baseline.
 struct Glyph {
@@ -18,6 +23,7 @@ struct Glyph {
   double y = 0;
   double size = 0;  ///< the em at which it is drawn
   Color color;
+  Figure figure = noFigure;
 };
 
 /// A filled rectangle with its lower left corner: the bar of a fraction or of a root.
@@ -27,6 +33,7 @@ struct Rule {
   double width = 0;
   double height = 0;
   Color color;
+  Figure figure = noFigure;
 };
 
 /// A line as set, glyphs and rules in drawing order. Doubling the size doubles every figure in it.

@@ -58,9 +58,9 @@ MathConstants readConstants(hb_font_t* font, double unitsPerEm) {
 
 // The lookup of the feature `ssty`, which holds the shapes for scripts.
 std::optional<unsigned> findScriptShapeLookup(hb_face_t* face) {
-  const hb_tag_t features[] = {HB_TAG('s', 's', 't', 'y'), HB_TAG_NONE};
+  constexpr std::array<hb_tag_t, 2> features{HB_TAG('s', 's', 't', 'y'), HB_TAG_NONE};
   const Pointer<hb_set_t> lookups(hb_set_create(), hb_set_destroy);
-  hb_ot_layout_collect_lookups(face, HB_OT_TAG_GSUB, nullptr, nullptr, features, lookups.get());
+  hb_ot_layout_collect_lookups(face, HB_OT_TAG_GSUB, nullptr, nullptr, features.data(), lookups.get());
   const hb_codepoint_t lookup = hb_set_get_min(lookups.get());
   if (lookup == HB_SET_VALUE_INVALID) return std::nullopt;
   return lookup;
@@ -75,7 +75,7 @@ std::optional<MathFont> MathFont::open(std::span<const std::byte> bytes) {
                      HB_MEMORY_MODE_READONLY, nullptr, nullptr),
       hb_blob_destroy);
   const Pointer<hb_face_t> face(hb_face_create(blob.get(), 0), hb_face_destroy);
-  if (!hb_ot_math_has_data(face.get())) return std::nullopt;
+  if (hb_ot_math_has_data(face.get()) == 0) return std::nullopt;
   return MathFont(FontPointer(hb_font_create(face.get()), hb_font_destroy));
 }
 
@@ -97,37 +97,41 @@ GlyphMetrics MathFont::measure(std::uint32_t id) const {
   };
 }
 
-GlyphMetrics MathFont::lookUp(char32_t character, ScriptShape shape) const {
-  hb_codepoint_t glyph = 0;
-  if (!hb_font_get_nominal_glyph(font_.get(), character, &glyph)) return measure(0);
-  if (shape != ScriptShape::plain && scriptShapeLookup_) {
-    const unsigned alternate = shape == ScriptShape::script ? 0 : 1;
-    unsigned count = 1;
-    hb_codepoint_t scriptGlyph = 0;
-    hb_ot_layout_lookup_get_glyph_alternates(hb_font_get_face(font_.get()), *scriptShapeLookup_, glyph,
-                                             alternate, &count, &scriptGlyph);
-    if (count == 1) glyph = scriptGlyph;
-  }
-  return measure(glyph);
+std::uint32_t MathFont::shapeOf(std::uint32_t glyph, ScriptShape shape) const {
+  if (shape == ScriptShape::plain || !scriptShapeLookup_) return glyph;
+  const unsigned alternate = shape == ScriptShape::script ? 0 : 1;
+  unsigned count = 1;
+  hb_codepoint_t scriptGlyph = 0;
+  hb_ot_layout_lookup_get_glyph_alternates(hb_font_get_face(font_.get()), *scriptShapeLookup_, glyph,
+                                           alternate, &count, &scriptGlyph);
+  return count == 1 ? scriptGlyph : glyph;
 }
 
 const GlyphMetrics& MathFont::glyph(char32_t character, ScriptShape shape) {
-  auto& cached = glyphs_[character][static_cast<std::size_t>(shape)];
-  if (!cached) cached = lookUp(character, shape);
-  return *cached;
+  auto entry = glyphs_.find(character);
+  if (entry == glyphs_.end()) {
+    hb_codepoint_t glyph = 0;
+    if (hb_font_get_nominal_glyph(font_.get(), character, &glyph) == 0) return missing_;
+    entry = glyphs_
+                .emplace(character, std::array{measure(glyph), measure(shapeOf(glyph, ScriptShape::script)),
+                                               measure(shapeOf(glyph, ScriptShape::scriptscript))})
+                .first;
+  }
+  return entry->second[static_cast<std::size_t>(shape)];
 }
 
 const VerticalShapes& MathFont::verticalShapes(char32_t character) {
-  const auto [entry, isNew] = verticalShapes_.try_emplace(character);
-  if (isNew) entry->second = lookUpVerticalShapes(character);
+  auto entry = verticalShapes_.find(character);
+  if (entry == verticalShapes_.end()) {
+    hb_codepoint_t glyph = 0;
+    if (hb_font_get_nominal_glyph(font_.get(), character, &glyph) == 0) return noShapes_;
+    entry = verticalShapes_.emplace(character, lookUpVerticalShapes(glyph)).first;
+  }
   return entry->second;
 }
 
-VerticalShapes MathFont::lookUpVerticalShapes(char32_t character) const {
+VerticalShapes MathFont::lookUpVerticalShapes(std::uint32_t glyph) const {
   VerticalShapes shapes;
-  hb_codepoint_t glyph = 0;
-  if (!hb_font_get_nominal_glyph(font_.get(), character, &glyph)) return shapes;
-
   unsigned count = hb_ot_math_get_glyph_variants(font_.get(), glyph, HB_DIRECTION_BTT, 0, nullptr, nullptr);
   std::vector<hb_ot_math_glyph_variant_t> variants(count);
   hb_ot_math_get_glyph_variants(font_.get(), glyph, HB_DIRECTION_BTT, 0, &count, variants.data());

@@ -96,15 +96,18 @@ class MathFont {
 
   explicit MathFont(FontPointer font);
   [[nodiscard]] GlyphMetrics measure(std::uint32_t id) const;
-  [[nodiscard]] GlyphMetrics lookUp(char32_t character, ScriptShape shape) const;
-  [[nodiscard]] VerticalShapes lookUpVerticalShapes(char32_t character) const;
+  [[nodiscard]] std::uint32_t shapeOf(std::uint32_t glyph, ScriptShape shape) const;
+  [[nodiscard]] VerticalShapes lookUpVerticalShapes(std::uint32_t glyph) const;
 
   FontPointer font_;
   double unitsPerEm_;
   std::optional<unsigned> scriptShapeLookup_;
   MathConstants constants_;
-  // By character, the three shapes of each.
-  std::unordered_map<char32_t, std::array<std::optional<GlyphMetrics>, 3>> glyphs_;
+  GlyphMetrics missing_;
+  VerticalShapes noShapes_;
+  // By character, the three shapes of each; only of those the font has, so that no text makes it grow without
+  // bound.
+  std::unordered_map<char32_t, std::array<GlyphMetrics, 3>> glyphs_;
   std::unordered_map<char32_t, VerticalShapes> verticalShapes_;
 };
 

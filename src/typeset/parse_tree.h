@@ -85,13 +85,19 @@ struct Fence {
 /// A nucleus, always exactly one atom, with an exponent, an index or both.
 struct Scripts {
   List nucleus;
-  std::optional<List> superscript = std::nullopt;
-  std::optional<List> subscript = std::nullopt;
+  std::optional<List> superscript;
+  std::optional<List> subscript;
 };
 
 struct Atom {
   std::variant<Symbol, Space, Text, Group, Fraction, Radical, Fence, Scripts> content;
 };
+
+/// The atom that carries the scripts, or the atom itself.
+inline const Atom& nucleusOf(const Atom& atom) {
+  const auto* scripts = std::get_if<Scripts>(&atom.content);
+  return scripts != nullptr ? scripts->nucleus.front() : atom;
+}
 
 /// What is wrong with a line, and where.
 struct Error {

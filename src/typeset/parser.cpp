@@ -116,7 +116,7 @@ class Parser {
     }
   }
 
-  void symbol(List& into, char32_t character, Position start) {
+  void symbol(List& into, char32_t character, Position start) const {
     Symbol read = symbolFor(character, isUpright_);
     read.position = static_cast<std::uint32_t>(start);
     into.push_back({read});
@@ -211,7 +211,7 @@ class Parser {
       return;
     }
     auto* scripts = std::get_if<Scripts>(&into.back().content);
-    if (scripts && (isSuper ? scripts->superscript : scripts->subscript)) {
+    if (scripts != nullptr && (isSuper ? scripts->superscript : scripts->subscript)) {
       unreadable(into, start, "second " + sign + " on the same base");
       return;
     }
@@ -220,10 +220,10 @@ class Parser {
       unreadable(into, start, sign + " has nothing after it");
       return;
     }
-    if (!scripts) {
+    if (scripts == nullptr) {
       List nucleus;
       nucleus.push_back(std::move(into.back()));
-      into.back() = {Scripts{.nucleus = std::move(nucleus)}};
+      into.back() = {Scripts{.nucleus = std::move(nucleus), .superscript = {}, .subscript = {}}};
       scripts = std::get_if<Scripts>(&into.back().content);
     }
     (isSuper ? scripts->superscript : scripts->subscript) = std::move(content);
@@ -233,7 +233,7 @@ class Parser {
     const Position start = position_;
     const std::string name = commandName();
     const Command* command = findCommand(name);
-    if (!command) {
+    if (command == nullptr) {
       unreadable(into, start, name.empty() ? "\\ without a command" : "unknown command \\" + name);
       return;
     }

@@ -20,6 +20,7 @@ Extent Compositor::radical(const Radical& radical, Style style) {
   move(radicandEnd, 0, ruleTop - sign.height);
   move(start, radicandEnd, sign.width, 0);
   addRule(sign.width, ruleTop - thickness, radicand.width, thickness);
+  join(radicandEnd);
   Extent box{.width = sign.width + radicand.width,
              .height = ruleTop + em(constants_.radicalExtraAscender, style),
              .depth = std::max(radicand.depth, -signBottom)};

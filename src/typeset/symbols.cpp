@@ -148,7 +148,7 @@ constexpr auto classRanges = std::to_array<ClassRange>({
 });
 
 AtomClass classOf(char32_t character) {
-  const auto range = std::ranges::lower_bound(classRanges, character, {}, &ClassRange::last);
+  const auto* const range = std::ranges::lower_bound(classRanges, character, {}, &ClassRange::last);
   return range != classRanges.end() && range->first <= character ? range->atomClass : ordinary;
 }
 
@@ -173,7 +173,7 @@ std::optional<std::uint8_t> hexDigit(char32_t character) {
 }  // namespace
 
 const Command* findCommand(std::string_view name) {
-  const auto command = std::ranges::lower_bound(commands, name, {}, &Command::name);
+  const auto* const command = std::ranges::lower_bound(commands, name, {}, &Command::name);
   return command != commands.end() && command->name == name ? &*command : nullptr;
 }
 

@@ -1,5 +1,6 @@
 #include "typeset/utf8.h"
 
+#include <array>
 #include <cstdint>
 
 namespace tavi::typeset {
@@ -21,7 +22,7 @@ Decoded decodeOne(std::string_view bytes) {
     if ((byte(index) & 0xC0) != 0x80) return {};
     character = (character << 6) | (byte(index) & 0x3FU);
   }
-  constexpr char32_t shortest[] = {0, 0, 0x80, 0x800, 0x10000};
+  constexpr std::array<char32_t, 5> shortest = {0, 0, 0x80, 0x800, 0x10000};
   const bool isSurrogate = character >= 0xD800 && character <= 0xDFFF;
   if (character < shortest[length] || character > 0x10FFFF || isSurrogate) return {};
   return {.character = character, .length = length};
