@@ -11,11 +11,14 @@ constexpr int rejected = 2;  ///< The input is wrong; its error key is told.
 constexpr int fatal = 3;     ///< The task would end the process.
 constexpr int tooLong = 4;   ///< The expansion of the power would be too long to write out.
 constexpr int wrongUsage = 64;
+constexpr int cannotWrite = 73;  ///< EX_CANTCREAT.
 
 using Arguments = std::span<const std::string_view>;
 
 int solveCommand(Arguments arguments);
 int displayLatexCommand(Arguments arguments);
+int typesetCommand(Arguments arguments);
+int renderCommand(Arguments arguments);
 
 /// Prints what is wrong and the usage to standard error; the result is the exit code.
 int usageError(std::string_view problem, std::string_view usage);

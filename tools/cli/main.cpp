@@ -19,6 +19,9 @@ struct Command {
 constexpr std::array commands{
     Command{"solve", "the working of a power or a root, step by step", solveCommand},
     Command{"display-latex", "filters stored lines of LaTeX into what is typeset", displayLatexCommand},
+    Command{"typeset", "sets lines of LaTeX as mathematics: glyphs and rules with their places",
+            typesetCommand},
+    Command{"render", "draws a whole working as a PNG, SVG or PDF picture", renderCommand},
 };
 
 void printUsage(std::ostream& out) {
