@@ -18,13 +18,18 @@ qt_add_qml_module(tavi_app
     appearance/shadow_item.cpp appearance/shadow_item.h
     appearance/theme.cpp appearance/theme.h
     appearance/view.cpp appearance/view.h
+    input/error_manager.cpp input/error_manager.h
     platform/localization.cpp platform/localization.h
     shell/alert_controller.cpp shell/alert_controller.h
     shell/app_delegate.cpp shell/app_delegate.h
+    shell/calculate_action.cpp
+    shell/calculate_view_controller.cpp shell/calculate_view_controller.h
     shell/controller_host.cpp shell/controller_host.h
+    shell/dt_text_field.cpp shell/dt_text_field.h
     shell/navigation_drawer_controller.cpp shell/navigation_drawer_controller.h
     shell/page_loader.cpp shell/page_loader.h
     shell/page_tab_bar_controller.cpp shell/page_tab_bar_controller.h
+    shell/radical_item.cpp shell/radical_item.h
     shell/tab_item.cpp shell/tab_item.h
     shell/toolbar.cpp shell/toolbar.h
     shell/toolbar_controller.cpp shell/toolbar_controller.h
@@ -41,8 +46,11 @@ qt_add_qml_module(tavi_app
     shell/AlertPage.qml
     shell/AppWindow.qml
     shell/CalculatePage.qml
+    shell/DTTextField.qml
     shell/DrawerPage.qml
+    shell/Keypad.qml
     shell/LeftPage.qml
+    shell/SegmentedControl.qml
     shell/SpinnerOverlay.qml
     shell/TabsPage.qml
     shell/ToastLayer.qml

@@ -241,7 +241,7 @@
     </message>
     <message id="naturalConstantInWrongPositionOfSubstring">
         <source>naturalConstantInWrongPositionOfSubstring</source>
-        <translation>Write π behind its number, as in 2π.</translation>
+        <translation>Write π or a letter behind its number, as in 2π or 3x.</translation>
     </message>
     <message id="toManyVariablesInSubstring">
         <source>toManyVariablesInSubstring</source>
@@ -254,6 +254,54 @@
     <message id="calculationOutOfRange">
         <source>calculationOutOfRange</source>
         <translation>These numbers are too large or too exact for me. Please use smaller or shorter ones.</translation>
+    </message>
+    <message id="Base">
+        <source>Base</source>
+        <translation>Base</translation>
+    </message>
+    <message id="Exponent">
+        <source>Exponent</source>
+        <translation>Exponent</translation>
+    </message>
+    <message id="Radicand">
+        <source>Radicand</source>
+        <translation>Radicand</translation>
+    </message>
+    <message id="Root index">
+        <source>Root index</source>
+        <translation>Root index</translation>
+    </message>
+    <message id="Power">
+        <source>Power</source>
+        <translation>Power</translation>
+    </message>
+    <message id="Root">
+        <source>Root</source>
+        <translation>Root</translation>
+    </message>
+    <message id="Delete">
+        <source>Delete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="Calculate">
+        <source>Calculate</source>
+        <translation>Calculate</translation>
+    </message>
+    <message id="Decimal point">
+        <source>Decimal point</source>
+        <translation>Decimal point</translation>
+    </message>
+    <message id="Fraction bar">
+        <source>Fraction bar</source>
+        <translation>Fraction bar</translation>
+    </message>
+    <message id="Minus sign">
+        <source>Minus sign</source>
+        <translation>Minus sign</translation>
+    </message>
+    <message id="Pi">
+        <source>Pi</source>
+        <translation>Pi</translation>
     </message>
     <message id="menuButton">
         <source>menuButton</source>

@@ -8,6 +8,7 @@ T.Button {
     id: control
 
     property string iconText
+    property color iconColor: View.tintColor
     property int radius: 8
 
     View.kind: View.Button
@@ -43,7 +44,7 @@ T.Button {
     contentItem: Text {
         text: control.iconText || control.text
         font: control.iconText ? Theme.icons(24) : control.font
-        color: control.iconText ? control.View.tintColor : control.View.titleColor
+        color: control.iconText ? control.iconColor : control.View.titleColor
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

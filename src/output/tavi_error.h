@@ -17,6 +17,10 @@ struct TaviError {
       "naturalConstantInWrongPositionOfSubstring";
   static constexpr std::string_view toManyVariablesInSubstring = "toManyVariablesInSubstring";
 
+  // A task that can be read but not worked out.
+  static constexpr std::string_view calculationTooLong = "calculationTooLong";
+  static constexpr std::string_view calculationOutOfRange = "calculationOutOfRange";
+
   static constexpr std::string_view oppositionError = "oppositionError";
 
   // These carry their limits behind them, separated by §.

@@ -61,7 +61,7 @@ void AppDelegate::presentFirstRun(const PreferenceStore& userDefaults) {
   std::ignore = needsOnboarding || needsConsent;
 }
 
-const std::shared_ptr<ViewController>& AppDelegate::calculateViewController() {
+const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewController() {
   if (!calculateViewController_) build(calculateViewController_, engine_, "shell/CalculatePage.qml");
   return calculateViewController_;
 }

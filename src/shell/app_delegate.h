@@ -8,6 +8,7 @@
 #include "platform/remote_config_service.h"
 #include "remote/remote_config_manager.h"
 #include "shell/calc_manager.h"
+#include "shell/calculate_view_controller.h"
 #include "shell/navigation_drawer_controller.h"
 #include "shell/page_tab_bar_controller.h"
 #include "shell/toolbar_controller.h"
@@ -44,7 +45,7 @@ class AppDelegate : public QObject {
   QQuickWindow* window() const { return window_.get(); }
   const std::shared_ptr<AppNavigationDrawerController>& drawer() const { return drawer_; }
 
-  const std::shared_ptr<ViewController>& calculateViewController();
+  const std::shared_ptr<CalculateViewController>& calculateViewController();
   const std::shared_ptr<ViewController>& leftViewController();
   const std::shared_ptr<SolutionViewController>& solutionViewController();
   const std::shared_ptr<AppPageTabBarController>& pageTabBarController();
@@ -55,7 +56,7 @@ class AppDelegate : public QObject {
   void presentFirstRun(const PreferenceStore& userDefaults);
 
   QQmlEngine& engine_;
-  std::shared_ptr<ViewController> calculateViewController_;
+  std::shared_ptr<CalculateViewController> calculateViewController_;
   std::shared_ptr<ViewController> leftViewController_;
   std::shared_ptr<SolutionViewController> solutionViewController_;
   std::shared_ptr<AppPageTabBarController> pageTabBarController_;

@@ -1,0 +1,105 @@
+#include "input/error_manager.h"
+
+#include <QDebug>
+#include <QGuiApplication>
+#include <QWindow>
+#include <algorithm>
+#include <array>
+
+#include "appearance/interface_colors.h"
+#include "output/localized_string.h"
+#include "output/tavi_error.h"
+#include "platform/analytics.h"
+#include "platform/localization.h"
+#include "remote/analytics_events.h"
+#include "shell/alert_controller.h"
+#include "shell/view_manager.h"
+
+namespace tavi {
+
+namespace {
+
+QString text(std::string_view latin) {
+  return QString::fromLatin1(latin.data(), static_cast<qsizetype>(latin.size()));
+}
+
+// The keys that carry numbers, and how many of them. Their words have a place %0, %1 for each.
+struct NumberedKey {
+  std::string_view key;
+  qsizetype numbers;
+};
+constexpr std::array numberedKeys{
+    NumberedKey{TaviError::mustBeBiggerThanXAndLessThanY, 2},
+    NumberedKey{TaviError::mustBeGreatherThanX, 1},
+    NumberedKey{TaviError::mustBeLessThanX, 1},
+};
+
+void presentAlertOverWindow(const QString& title, const QString& text) {
+  for (const QWindow* window : QGuiApplication::topLevelWindows()) {
+    auto* root = window->property("rootController").value<ViewController*>();
+    if (root) return root->presentAlert(title, text, {}, AlertStyle::alert);
+  }
+}
+
+}  // namespace
+
+MessagePresenter MessagePresenter::overWindow() {
+  return {ViewManager::showToast, presentAlertOverWindow};
+}
+
+ErrorManager& ErrorManager::shared() {
+  static ErrorManager manager(MessagePresenter::overWindow());
+  return manager;
+}
+
+ErrorManager::ErrorManager(MessagePresenter presenter) : presenter_(std::move(presenter)) {}
+
+void ErrorManager::refreshFields() {
+  if (requiredAmountOfFields < 1) return;
+  int filled = 0;
+  QList<DTTextField*> empty;
+  for (const auto& field : allFields) {
+    if (!field || !field->isInVisibleHolder()) continue;
+    field->setEnabled(true);
+    field->setBackgroundColor(InterfaceColor::fieldBackground());
+    if (field->text().isEmpty()) {
+      empty.append(field);
+    } else {
+      ++filled;
+    }
+  }
+  if (filled < requiredAmountOfFields) return;
+  for (DTTextField* field : empty) {
+    field->setEnabled(false);
+    field->setBackgroundColor(InterfaceColor::fieldFill());
+  }
+}
+
+void ErrorManager::reportInputError(const QString& key, const QList<DTTextField*>& fields) {
+  Analytics::logEvent(events::taviGotError, QVariantMap{{"error_case", key}});
+  const bool isMissing = key == text(TaviError::notEnoughInputValues);
+  qInfo().noquote() << (isMissing ? QString("INPUT: NOT ENOUGH INPUT VALUES") : "INPUT ERROR: " + key);
+  for (DTTextField* field : fields) {
+    field->setBorderColor(isMissing ? InterfaceColor::orange() : InterfaceColor::red());
+  }
+  showErrorMessage(key);
+}
+
+void ErrorManager::showErrorMessage(const QString& key) {
+  const QStringList pieces = key.split(u'§', Qt::SkipEmptyParts);
+  if (pieces.isEmpty()) return;
+  QString words = localized(qUtf8Printable(pieces.front()));
+  if (pieces.front() == text(TaviError::oppositionError)) {
+    presenter_.presentAlert(QString::fromStdString(LocalizedString::error.text()), words);
+    return;
+  }
+  const auto numbered = std::find_if(numberedKeys.begin(), numberedKeys.end(),
+                                     [&](const NumberedKey& row) { return text(row.key) == pieces.front(); });
+  if (numbered != numberedKeys.end()) {
+    if (pieces.size() != 1 + numbered->numbers) return;
+    for (qsizetype i = 0; i < numbered->numbers; ++i) words.replace(u'%' + QString::number(i), pieces[i + 1]);
+  }
+  presenter_.showToast(words);
+}
+
+}  // namespace tavi

@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QList>
+#include <QPointer>
+#include <QString>
+#include <functional>
+
+#include "shell/dt_text_field.h"
+
+namespace tavi {
+
+/// How words reach the user: in passing, or so that he has to answer.
+struct MessagePresenter {
+  std::function<void(const QString& text)> showToast;
+  std::function<void(const QString& title, const QString& text)> presentAlert;
+
+  /// Toasts and alerts over the application's window.
+  static MessagePresenter overWindow();
+};
+
+/// Between the keys of what is wrong with an input and the user: logs the key, marks the fields at fault and
+/// shows the words. Main thread only.
+class ErrorManager {
+ public:
+  using Fields = QList<QPointer<DTTextField>>;  ///< A field that is gone counts as none.
+
+  static ErrorManager& shared();
+
+  explicit ErrorManager(MessagePresenter presenter);
+
+  /// Switches the empty fields off once as many are filled as the task needs, and on again when that ends.
+  /// Fields of a hidden holder neither count nor change.
+  void refreshFields();
+
+  /// Logs the key, then marks the fields (orange for a missing value, red for a wrong one), then shows the
+  /// words.
+  void reportInputError(const QString& key, const QList<DTTextField*>& fields);
+
+  /// Shows the words of a key, which may carry numbers behind it: mustBeLessThanX§5. A key with the wrong
+  /// count of numbers shows nothing.
+  void showErrorMessage(const QString& key);
+
+  Fields allFields;                ///< All text fields of the screen.
+  int requiredAmountOfFields = 0;  ///< How many fields the task needs; 0 leaves all fields alone.
+
+ private:
+  MessagePresenter presenter_;
+};
+
+}  // namespace tavi

@@ -1,0 +1,71 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavi
+
+// Segments of equal width in a rounded frame, of which one is chosen. Each shows a picture.
+Rectangle {
+    id: control
+
+    property int selectedSegmentIndex: 0
+    property var segments: [] // of { name, picture }
+
+    signal valueChanged(int index)
+
+    View.kind: View.SegmentedControl
+
+    implicitWidth: 240
+    implicitHeight: Theme.touchTarget
+    radius: 8
+    color: Theme.background
+    Accessible.role: Accessible.Grouping
+
+    Row {
+        anchors.fill: parent
+
+        Repeater {
+            model: control.segments
+
+            T.AbstractButton {
+                id: segment
+
+                required property int index
+                required property var modelData
+                readonly property bool isChosen: index === control.selectedSegmentIndex
+
+                objectName: "segment" + index
+                width: control.width / control.segments.length
+                height: control.height
+                focusPolicy: Qt.TabFocus
+                hoverEnabled: true
+                text: modelData.name
+                Accessible.role: Accessible.RadioButton
+                Accessible.name: text
+                Accessible.checked: isChosen
+                onClicked: if (!isChosen) control.valueChanged(index)
+                background: Rectangle {
+                    radius: control.radius
+                    color: segment.isChosen ? Theme.strongYellow
+                                           : segment.down ? Theme.groupedBackground : "transparent"
+                }
+                contentItem: Loader {
+                    property color color: segment.isChosen ? Theme.darkTitle : Theme.label
+
+                    sourceComponent: segment.modelData.picture
+                }
+
+                FocusRing {
+                    control: segment
+                    radius: 8
+                }
+            }
+        }
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: parent.radius
+        color: "transparent"
+        border.width: 1
+        border.color: Theme.secondaryGray
+    }
+}

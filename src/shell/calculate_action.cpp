@@ -1,0 +1,117 @@
+// What the calculate button sets going: the one bridge from the screen to the engine.
+#include <algorithm>
+#include <variant>
+
+#include "appearance/interface_colors.h"
+#include "number/fatal_stop.h"
+#include "output/tavi_error.h"
+#include "platform/analytics.h"
+#include "remote/analytics_events.h"
+#include "shell/calculate_view_controller.h"
+#include "shell/is_calculating.h"
+#include "shell/page_tab_bar_controller.h"
+#include "solution/solution_view_controller.h"
+#include "solver/exponent_solver.h"
+#include "solver/rehearsal.h"
+
+namespace tavi {
+
+namespace {
+
+QString qString(std::string_view text) {
+  return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+}
+
+QVariantList stepRecords(const SolutionSteps& steps) {
+  QVariantList records;
+  for (const SolutionStep& step : steps) {
+    QVariantMap record;
+    if (step.title) record["title"] = qString(*step.title);
+    if (step.latexString) record["latexString"] = qString(*step.latexString);
+    if (step.messageString) record["messageString"] = qString(*step.messageString);
+    records.append(record);
+  }
+  return records;
+}
+
+}  // namespace
+
+bool CalculateViewController::performCalculation() {
+  isCalculating = true;
+  for (const auto& field : errorManager_.allFields) {
+    if (field) field->setBorderColor(InterfaceColor::fieldNeutral());
+  }
+
+  std::vector<std::string> texts;
+  for (const std::string& identifier : allIds) texts.push_back(visibleText(identifier));
+  const std::string& firstText = elementAt(texts, 0);
+  const std::string& secondText = elementAt(texts, 1);
+  const std::string& firstId = elementAt(allIds, 0);
+  const std::string& secondId = elementAt(allIds, 1);
+  const int mode = this->mode();
+  outputHelper_.reset();
+
+  const Rehearsal rehearsal = rehearse(firstText, firstId, secondText, secondId, mode, copyLimit);
+  if (std::holds_alternative<ExpansionTooLong>(rehearsal)) {
+    return rejectCalculation(TaviError::calculationTooLong, {firstId});
+  }
+  if (std::holds_alternative<FatalStop>(rehearsal)) {
+    return rejectCalculation(TaviError::calculationOutOfRange, {firstId, secondId});
+  }
+
+  const CalculationOutcome outcome = TaviExponentSolver(outputHelper_, basicOperationHelper_)
+                                         .calculate(firstText, firstId, secondText, secondId, mode);
+  if (outcome.errorKey) {
+    return rejectCalculation(*outcome.errorKey, required(outcome.errorFieldIds, "an error without fields"));
+  }
+
+  recordCalculation(texts, required(outcome.latexString, "a solution without its task"));
+  SolutionViewController::showSolution(ancestor<AppPageTabBarController>(), outputHelper_.solutionSteps,
+                                       "qrx_info", std::nullopt, 100.0);
+  const QVariantList records = stepRecords(outputHelper_.solutionSteps);
+  Analytics::logEvent(events::taviCalculate, QVariantMap{{"solutionSteps", records},
+                                                         {"solutionStepsCount", qlonglong{records.size()}}});
+  isCalculating = false;
+  basicOperationHelper_.withFraction = false;
+  outputHelper_.reset();
+  return true;
+}
+
+bool CalculateViewController::rejectCalculation(std::string_view key,
+                                                const std::vector<std::string>& fieldIds) {
+  QList<DTTextField*> fieldsAtFault;
+  for (DTTextField* field : allFields) {
+    if (std::ranges::find(fieldIds, field->accessibilityIdentifier.toStdString()) != fieldIds.end()) {
+      fieldsAtFault.append(field);
+    }
+  }
+  errorManager_.reportInputError(qString(key), fieldsAtFault);
+  isCalculating = false;
+  return false;
+}
+
+std::string CalculateViewController::visibleText(std::string_view identifier) const {
+  const auto field = std::ranges::find_if(allFields, [name = qString(identifier)](const DTTextField* each) {
+    return each->accessibilityIdentifier == name && !each->isHidden();
+  });
+  return field == allFields.end() ? "" : (*field)->text().toStdString();
+}
+
+int CalculateViewController::mode() const {
+  const QVariant index = segmentedControl ? segmentedControl->property("selectedSegmentIndex") : QVariant();
+  if (!index.isValid()) fatalStop("a page without its mode switch");
+  return index.toInt();
+}
+
+void CalculateViewController::recordCalculation(const std::vector<std::string>& texts,
+                                                const std::string& latex) {
+  Calculation calculation;
+  for (std::size_t i = 0; i < allIds.size(); ++i) {
+    calculation.inputParameters[qString(allIds[i])] = qString(elementAt(texts, i));
+  }
+  calculation.setupParameter = {{modeKey, qlonglong{mode()}}, {"appKey", "QRX"}};
+  calculation.latexString = qString(latex);
+  store_.addCalculation(calculation);
+}
+
+}  // namespace tavi

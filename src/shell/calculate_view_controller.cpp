@@ -1,0 +1,326 @@
+#include "shell/calculate_view_controller.h"
+
+#include <algorithm>
+#include <utility>
+
+#include "appearance/color_manager.h"
+#include "appearance/interface_colors.h"
+#include "appearance/interface_fonts.h"
+#include "number/fatal_stop.h"
+#include "output/localized_string.h"
+#include "platform/analytics.h"
+#include "platform/localization.h"
+#include "platform/notification_center.h"
+#include "remote/analytics_events.h"
+#include "shell/is_calculating.h"
+#include "shell/page_tab_bar_controller.h"
+#include "shell/toolbar_controller.h"
+#include "shell/view_manager.h"
+#include "solution/solution_view_controller.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr QChar minus = u'-';
+
+// What a hardware keyboard types for a key of the keypad: the title itself or one of these.
+struct TypedAlias {
+  QChar typed;
+  QChar title;
+};
+constexpr TypedAlias typedAliases[] = {{u',', u'.'}, {u'p', u'π'}, {u'P', u'π'},
+                                       {u'X', u'x'}, {u'Y', u'y'}, {u'Z', u'z'}};
+constexpr QStringView keypadTitles = u"0123456789./-πxyz";
+
+// The mode of a picked record; a value that is no integer is a fatal stop.
+int storedMode(const QVariant& value) {
+  const bool isInteger = value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Int;
+  if (!isInteger) fatalStop("a stored mode that is no integer");
+  const qlonglong mode = value.toLongLong();
+  return std::in_range<int>(mode) ? static_cast<int>(mode) : -1;
+}
+
+QString without(const QString& text, TextRange range) {
+  return QString(text).remove(range.start, range.end - range.start);
+}
+
+}  // namespace
+
+CalculateViewController::CalculateViewController(CalcManager& store, ErrorManager& errorManager,
+                                                 TaviStringOutput& outputHelper,
+                                                 TaviMathOperation& basicOperationHelper)
+    : store_(store),
+      errorManager_(errorManager),
+      outputHelper_(outputHelper),
+      basicOperationHelper_(basicOperationHelper) {}
+
+void CalculateViewController::viewDidLoad() {
+  AdHandlingViewController::viewDidLoad();
+  if (const auto& selected = store_.currentSelectedCalculation()) {
+    const auto stored = selected->setupParameter.constFind(modeKey);
+    if (stored != selected->setupParameter.constEnd()) selectMode(storedMode(*stored));
+  }
+  fillInText_ = QString::fromStdString(LocalizedString::fillInYourGivenNumbers.text());
+  configureFields();
+  setUpTabItem(localized("Input"), true);
+  errorManager_.allFields = ErrorManager::Fields(allFields.begin(), allFields.end());
+  errorManager_.requiredAmountOfFields = requiredAmountOfTextFields;
+  styleFields();
+  deleteIcon_ = "arrowBack";
+  calculateIcon_ = "check";
+  refillFields();
+  if (QQuickItem* root = view()) {
+    ColorManager::applyStyleToSubviews(*root);
+    ViewManager::prepareSegmentedControls(*root);
+  }
+  emit loaded();
+}
+
+void CalculateViewController::configureFields() {
+  if (const QQuickItem* root = view()) configureFieldsBelow(*root);
+  allIds = {"aTextField", "xTextField"};
+}
+
+void CalculateViewController::configureFieldsBelow(const QQuickItem& item) {
+  const std::pair<QLatin1StringView, const QList<DTTextField*>&> candidates[] = {
+      {QLatin1StringView("aTextField"), aTextField}, {QLatin1StringView("xTextField"), xTextField}};
+  for (QQuickItem* child : item.childItems()) {
+    auto* field = qobject_cast<DTTextField*>(child);
+    const View* attached = View::of(child);
+    if (field && attached && attached->kind() == View::Kind::TextField) {
+      connect(field, &DTTextField::shouldBeginEditing, this,
+              &CalculateViewController::textFieldShouldBeginEditing);
+      connect(field, &DTTextField::textChanged, this, &CalculateViewController::caretChanged);
+      connect(field, &DTTextField::selectionChanged, this, &CalculateViewController::caretChanged);
+      for (const auto& [identifier, fields] : candidates) {
+        if (!fields.contains(field)) continue;
+        field->accessibilityIdentifier = identifier;
+        break;
+      }
+      allFields.append(field);
+    }
+    configureFieldsBelow(*child);
+  }
+}
+
+void CalculateViewController::styleFields() {
+  const KeypadPalette& palette = KeypadPalette::shared();
+  // Each appearance has its own of the five that can be read on the background of a field.
+  const bool isDark = InterfaceColor::background().lightnessF() < 0.5;
+  const FieldStyle style{.labelColor = isDark ? palette.strongYellow : palette.darkMagenta,
+                         .caretColor = palette.pink,
+                         .labelOffset = -12,
+                         .labelFont = InterfaceFont::book(10),
+                         .isLabelFloating = true,
+                         .isBorderShown = true};
+  for (DTTextField* field : allFields) {
+    field->setStyle(style);
+    field->setBorderColor(InterfaceColor::fieldNeutral());
+  }
+}
+
+void CalculateViewController::refillFields() {
+  if (const auto selected = store_.currentSelectedCalculation()) {
+    store_.setCurrentSelectedCalculation(std::nullopt);
+    fillFrom(*selected);
+  } else if (const auto& current = store_.currentCalculation()) {
+    fillFrom(*current);
+  }
+}
+
+void CalculateViewController::fillFrom(const Calculation& calculation) {
+  for (DTTextField* field : allFields) {
+    field->setText(calculation.inputParameters.value(field->accessibilityIdentifier));
+  }
+}
+
+void CalculateViewController::viewWillAppear() {
+  AdHandlingViewController::viewWillAppear();
+  if (bannerView()) bannerView()->setVisible(false);
+  bottomBannerInset_ = bottomSafeAreaInset();
+  emit bottomBannerInsetChanged();
+  buildToolbar();
+  errorManager_.refreshFields();
+}
+
+void CalculateViewController::buildToolbar() {
+  auto* toolbarController = ancestor<BasicToolbarController>();
+  if (!toolbarController) return;
+  clearAllButton = std::make_shared<ToolbarButton>();
+  clearAllButton->title = localized("Clear");
+  clearAllButton->tintColor = InterfaceColor::darkTitle();
+  clearAllButton->accessibilityIdentifier = "toolbarRemoveButton";
+  clearAllButton->action = [page = QPointer(this)] {
+    if (page) page->clearAll();
+  };
+  toolbarController->toolbar()->setTitle(localized("Calculate Title"));
+  toolbarController->toolbar()->setRightViews({clearAllButton});
+}
+
+// A field that was typed into before the page went goes on with it.
+void CalculateViewController::viewDidAppear() {
+  AdHandlingViewController::viewDidAppear();
+  if (currentTextField && currentTextField->isFirstResponder()) currentTextField->forceActiveFocus();
+}
+
+// The snapshot from which the next instance of this page is filled.
+void CalculateViewController::viewWillDisappear() {
+  AdHandlingViewController::viewWillDisappear();
+  Calculation snapshot;
+  for (const DTTextField* field : allFields) {
+    if (field->text().isEmpty() || field->accessibilityIdentifier.isEmpty()) continue;
+    snapshot.inputParameters[field->accessibilityIdentifier] = field->text();
+  }
+  store_.setCurrentCalculation(snapshot);
+}
+
+void CalculateViewController::segmentedControlValueChanged(int index) {
+  selectMode(index);
+  moveEditingToVisibleTwin();
+}
+
+void CalculateViewController::selectMode(int index) {
+  if (!modeAView || !modeBView || !segmentedControl) fatalStop("a page without its mode views");
+  modeAView->setVisible(false);
+  modeBView->setVisible(false);
+  segmentedControl->setProperty("selectedSegmentIndex", index);
+  if (index == 1) modeBView->setVisible(true);
+  if (index == 0) modeAView->setVisible(true);
+}
+
+// A change of the mode takes the caret along, so that the user sees what he goes on typing into.
+void CalculateViewController::moveEditingToVisibleTwin() {
+  DTTextField* hidden = currentTextField;
+  if (!hidden || !hidden->isFirstResponder() || hidden->isInVisibleHolder()) return;
+  const auto twin = std::ranges::find_if(allFields, [hidden](const DTTextField* field) {
+    return field->isInVisibleHolder() && field->accessibilityIdentifier == hidden->accessibilityIdentifier;
+  });
+  if (twin == allFields.end()) return;
+  (*twin)->forceActiveFocus();
+  if (const auto& range = hidden->selectedTextRange()) (*twin)->setSelectedTextRange(*range);
+}
+
+bool CalculateViewController::textFieldShouldBeginEditing(DTTextField* field) {
+  currentTextField = field;
+  emit caretChanged();
+  return true;
+}
+
+void CalculateViewController::tappedKeypadButton(const QString& title) {
+  insertKeypadValue(title);
+}
+
+void CalculateViewController::tappedDeleteButton() {
+  deleteBackward();
+}
+
+void CalculateViewController::tappedCalculateButton() {
+  if (!isCalculating) performCalculation();
+}
+
+void CalculateViewController::tappedManualButton() {
+  showManual();
+}
+
+bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const QString& text) {
+  if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+  switch (key) {
+    case Qt::Key_Backspace:
+      tappedDeleteButton();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      tappedCalculateButton();
+      return true;
+    default:
+      break;
+  }
+  if (text.size() != 1) return false;
+  QChar title = text.front();
+  for (const TypedAlias& alias : typedAliases) {
+    if (alias.typed == title) title = alias.title;
+  }
+  if (!keypadTitles.contains(title)) return false;
+  if (title != minus || isMinusKeyEnabled()) tappedKeypadButton(title);
+  return true;
+}
+
+bool CalculateViewController::isMinusKeyEnabled() const {
+  if (!currentTextField || !currentTextField->selectedTextRange()) return true;
+  const TextRange selection = *currentTextField->selectedTextRange();
+  return selection.start > 0 || !without(currentTextField->text(), selection).contains(minus);
+}
+
+void CalculateViewController::insertKeypadValue(const QString& title) {
+  if (title.isEmpty()) fatalStop("a keypad key without a title");
+  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  const TextRange selection = *currentTextField->selectedTextRange();
+  const qsizetype caret = selection.start;
+  QString text = without(currentTextField->text(), selection);
+  currentTextField->setText(text);
+  currentTextField->setSelectedTextRange({caret, caret});
+  if (!currentTextField->isFirstResponder()) return errorManager_.refreshFields();
+
+  qsizetype delta = 1;
+  if (title != minus) {
+    text.insert(caret, title);
+  } else if (text.contains(minus)) {
+    text.remove(minus);
+    delta = -1;
+  } else {
+    text.prepend(minus);
+  }
+  setText(text);
+  currentTextField->setSelectedTextRange({caret + delta, caret + delta});
+  errorManager_.refreshFields();
+}
+
+void CalculateViewController::deleteBackward() {
+  if (isCalculating || !currentTextField || currentTextField->text().isEmpty()) return;
+  if (!currentTextField->selectedTextRange()) return;
+  TextRange selection = *currentTextField->selectedTextRange();
+  if (selection.end == 0) return;
+  if (selection.start == selection.end) --selection.start;
+  setText(without(currentTextField->text(), selection));
+  currentTextField->setSelectedTextRange({selection.start, selection.start});
+  errorManager_.refreshFields();
+}
+
+// The text of the current field and of its twin.
+void CalculateViewController::setText(const QString& text) {
+  currentTextField->setText(text);
+  for (DTTextField* field : allFields) {
+    if (field->accessibilityIdentifier == currentTextField->accessibilityIdentifier) field->setText(text);
+  }
+}
+
+void CalculateViewController::clearAll() {
+  Analytics::logEvent(events::tappedClear);
+  for (const auto& field : errorManager_.allFields) {
+    if (field) field->setBorderColor(InterfaceColor::fieldNeutral());
+  }
+  if (isCalculating) return;
+
+  auto* tabs = ancestor<AppPageTabBarController>();
+  auto* solution =
+      tabs ? qobject_cast<SolutionViewController*>(elementAt(tabs->viewControllers(), 1).get()) : nullptr;
+  if (solution) {
+    solution->handleClearAllButton();
+  } else {
+    NotificationCenter::shared().post(SolutionViewController::clearCurrentCalculation);
+  }
+  for (DTTextField* field : allFields) field->setText("");
+  basicOperationHelper_.withFraction = false;
+  outputHelper_.reset();
+  errorManager_.refreshFields();
+  store_.setCurrentCalculation(std::nullopt);
+  store_.setCurrentSelectedCalculation(std::nullopt);
+  if (tabs) tabs->select(0);
+}
+
+void CalculateViewController::showManual() {
+  emit manualRequested("qrx_info");
+}
+
+}  // namespace tavi
