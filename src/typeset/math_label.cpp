@@ -16,7 +16,8 @@
 namespace tavi::typeset {
 namespace {
 
-// The part drawn starts at a multiple of this, which is a whole number of device pixels at every usual scale.
+// Place and size of the part drawn are multiples of this, which is a whole number of device pixels at every
+// usual scale: else its picture is stretched and blurs.
 constexpr double sliceGrid = 20;
 
 MathFont& sharedFont() {
@@ -191,9 +192,11 @@ void MathLabel::showVisiblePart() {
   if (isCovered) return;
   const double reserve = (right - left) / 2;
   const auto toGrid = [](double value) { return std::floor(value / sliceGrid) * sliceGrid; };
+  const auto upToGrid = [](double value) { return std::ceil(value / sliceGrid) * sliceGrid; };
   const double start = toGrid(std::max(whole.left(), left - reserve));
   slice_->setPosition({start, toGrid(whole.top())});
-  slice_->setSize({std::min(whole.right(), right + reserve) - start, whole.bottom() - toGrid(whole.top())});
+  slice_->setSize({upToGrid(std::min(whole.right(), right + reserve) - start),
+                   upToGrid(whole.bottom() - toGrid(whole.top()))});
   slice_->update();
 }
 

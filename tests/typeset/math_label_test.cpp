@@ -160,7 +160,8 @@ TEST_F(MathLabelTest, ScrollingShowsTheSameLine) {
     QImage line(shown.size(), QImage::Format_ARGB32_Premultiplied);
     line.fill(Qt::transparent);
     QPainter linePainter(&line);
-    linePainter.scale(shown.devicePixelRatio(), shown.devicePixelRatio());
+    const double scale = flickable->window()->effectiveDevicePixelRatio();
+    linePainter.scale(scale, scale);
     picture.paint(linePainter, {-x, layout.height}, {});
     linePainter.end();
     QImage expected(shown.size(), QImage::Format_RGB32);
