@@ -35,14 +35,20 @@ qt_add_qml_module(tavi_app
     shell/toolbar_controller.cpp shell/toolbar_controller.h
     shell/view_controller.cpp shell/view_controller.h
     shell/view_manager.cpp shell/view_manager.h
+    solution/math_label_type.h
+    solution/solution_step_cell.cpp solution/solution_step_cell.h
+    solution/solution_table.h
     solution/solution_view_controller.cpp solution/solution_view_controller.h
+    solution/step_records.cpp solution/step_records.h
   QML_FILES
     appearance/ActionButton.qml
+    appearance/EdgeShadow.qml
     appearance/FloatingButton.qml
     appearance/FocusRing.qml
     appearance/Icon.qml
     appearance/IconButton.qml
     appearance/Icons.qml
+    appearance/ScrollThumb.qml
     shell/AlertPage.qml
     shell/AppWindow.qml
     shell/CalculatePage.qml
@@ -55,13 +61,14 @@ qt_add_qml_module(tavi_app
     shell/TabsPage.qml
     shell/ToastLayer.qml
     shell/ToolbarPage.qml
-    solution/SolutionPage.qml)
+    solution/SolutionPage.qml
+    solution/SolutionStepCell.qml)
 target_include_directories(tavi_app
   PUBLIC ${CMAKE_CURRENT_SOURCE_DIR}
   # The generated registration of QML types includes headers by their bare names.
-  PRIVATE appearance shell solution)
+  PRIVATE appearance shell solution typeset)
 target_link_libraries(tavi_app
-  PUBLIC tavi_engine tavi_services Qt6::Gui Qt6::Qml Qt6::Quick
+  PUBLIC tavi_engine tavi_services tavi_math_label Qt6::Gui Qt6::Qml Qt6::Quick
   PRIVATE Qt6::QuickControls2 tavi_options)
 
 
@@ -83,6 +90,10 @@ qt_add_translations(tavi_app
   RESOURCE_PREFIX /i18n
   LRELEASE_OPTIONS -idbased)
 
-add_executable(tavi main.cpp shell/application.cpp shell/application.h)
-set_target_properties(tavi PROPERTIES AUTOMOC ON)
-target_link_libraries(tavi PRIVATE tavi_app tavi_appplugin tavi_options)
+# The application object, for the executable and for tools that drive it.
+add_library(tavi_application STATIC shell/application.cpp shell/application.h)
+set_target_properties(tavi_application PROPERTIES AUTOMOC ON)
+target_link_libraries(tavi_application PUBLIC tavi_app tavi_appplugin PRIVATE tavi_options)
+
+add_executable(tavi main.cpp)
+target_link_libraries(tavi PRIVATE tavi_application tavi_options)

@@ -39,6 +39,7 @@ Item {
             color: Theme.page
         }
         contentItem: ControllerHost {
+            objectName: "sideMenu"
             controller: page.controller.leftController
         }
 

@@ -20,6 +20,7 @@ Item {
 
             required property string text
 
+            objectName: "toast"
             width: 0.9 * layer.width
             height: Math.max(40, label.implicitHeight + 12)
             x: (layer.width - width) / 2

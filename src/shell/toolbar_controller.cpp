@@ -34,6 +34,7 @@ void AppToolbarController::viewDidLoad() {
   BasicToolbarController::viewDidLoad();
   menuButton_ = std::make_shared<ToolbarButton>();
   menuButton_->title = localized("menuButton");
+  menuButton_->accessibilityIdentifier = QStringLiteral("menuButton");
   menuButton_->icon = QStringLiteral("menu");
   menuButton_->tintColor = InterfaceColor::darkTitle();
   menuButton_->action = [this] { handleMenuButton(); };

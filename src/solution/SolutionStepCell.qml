@@ -1,0 +1,135 @@
+import QtQuick
+import Tavi
+
+// A row of the solution: a title over a formula that scrolls sideways and is never shrunk. It is as high as the
+// controller says, and higher only where the formula would be cut.
+SolutionStepTableViewCell {
+    id: cell
+
+    required property int index
+    required property SolutionViewController controller
+    required property int rows
+    required property real fontSize
+    property real rowHeight
+
+    readonly property bool isFirst: index === 0
+    readonly property bool isLast: index === rows - 1
+    readonly property bool hasTitle: stepTitle !== ""
+    readonly property int corner: 12
+    readonly property real headHeight: hasTitle ? 12 + title.height + 8 : 8
+
+    width: ListView.view.width
+    height: Math.max(rowHeight, headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + 12)
+    Component.onCompleted: rowHeight = controller.configureCell(cell, index)
+
+    Rectangle {
+        id: card
+
+        // Rounded where the table begins and ends; elsewhere the round part lies under the neighbours.
+        anchors.fill: parent
+        anchors.topMargin: cell.isFirst ? 0 : -cell.corner
+        anchors.bottomMargin: cell.isLast ? 0 : -cell.corner
+        radius: cell.corner
+        color: Theme.background
+    }
+    Rectangle {
+        visible: cell.hasTitle && !cell.isFirst
+        x: 16
+        width: parent.width - 32
+        height: 1
+        color: Theme.hairline
+    }
+    Rectangle {
+        visible: cell.isResult
+        y: 12
+        width: 4
+        height: parent.height - 24
+        radius: 2
+        color: Theme.pink
+    }
+
+    Text {
+        id: title
+
+        x: 16
+        y: formula.visible || messageLabel.visible ? 12 : (parent.height - height) / 2
+        width: parent.width - 32
+        visible: cell.hasTitle
+        text: cell.stepTitle
+        textFormat: Text.PlainText
+        font: cell.titleFont
+        color: Theme.label
+        wrapMode: Text.Wrap
+        Accessible.role: Accessible.StaticText
+        Accessible.name: text
+    }
+
+    Text {
+        id: messageLabel
+
+        x: 28
+        y: cell.headHeight
+        width: parent.width - 44
+        height: parent.height - y - 12
+        visible: text
+        text: cell.message
+        textFormat: Text.PlainText
+        font.pixelSize: 16
+        color: Theme.label
+        wrapMode: Text.Wrap
+        verticalAlignment: Text.AlignVCenter
+    }
+
+    Flickable {
+        id: scrollView
+
+        readonly property bool isWide: contentWidth > width
+
+        objectName: "formulaScroll"
+        y: cell.headHeight
+        width: parent.width
+        height: parent.height - y - 8
+        visible: cell.latex
+        contentWidth: formula.implicitWidth + 32
+        contentHeight: height
+        flickableDirection: Flickable.HorizontalFlick
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: isWide
+        clip: isWide
+        activeFocusOnTab: isWide
+        Keys.onRightPressed: contentX = Math.min(contentWidth - width, contentX + 48)
+        Keys.onLeftPressed: contentX = Math.max(0, contentX - 48)
+
+        MathLabel {
+            id: formula
+
+            objectName: "formula"
+            x: 16
+            y: (parent.height - height) / 2
+            width: implicitWidth
+            height: implicitHeight
+            visible: scrollView.visible
+            latex: cell.latex
+            fontSize: cell.fontSize
+            textColor: Theme.label
+            backgroundColor: Theme.background
+        }
+    }
+
+    EdgeShadow {
+        anchors.fill: scrollView
+        flickable: scrollView
+    }
+    ScrollThumb {
+        flickable: scrollView
+        orientation: Qt.Horizontal
+        anchors.bottom: parent.bottom
+        anchors.bottomMargin: 3
+    }
+    FocusRing {
+        anchors.fill: scrollView
+        control: QtObject {
+            readonly property bool visualFocus: scrollView.activeFocus
+        }
+    }
+}
