@@ -1,0 +1,125 @@
+#include "tour/measure.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <algorithm>
+#include <cstdio>
+#include <map>
+#include <vector>
+
+#include <unistd.h>
+
+#include "shell/calc_manager.h"
+#include "tour/stage.h"
+
+namespace tavi::tour {
+
+namespace {
+
+constexpr int runs = 5;
+constexpr int manyRecords = 10'000;
+
+constexpr char firstFrame[] = "first frame, ms";
+constexpr char solution[] = "tap on calculate to frame with solution, ms";
+constexpr char memory[] = "resident with solution open, MB";
+constexpr char adding[] = "adding a record, ms";
+
+using Figures = std::map<QByteArray, std::vector<double>>;
+
+double milliseconds(const QElapsedTimer& timer) {
+  return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+void tell(const char* name, double figure) {
+  std::printf("%s=%.2f\n", name, figure);
+  std::fflush(stdout);
+}
+
+double residentMegabytes() {
+  QFile file(QStringLiteral("/proc/self/statm"));
+  if (!file.open(QIODevice::ReadOnly)) return 0;
+  const double pages = file.readAll().split(' ').value(1).toDouble();
+  return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+/// One process start; the first frame counts from before the process exists.
+bool runProbe(Figures& figures) {
+  QProcess process;
+  process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+  QElapsedTimer timer;
+  timer.start();
+  process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(probeArgument)});
+  while (process.state() != QProcess::NotRunning || process.canReadLine()) {
+    if (!process.canReadLine() && !process.waitForReadyRead(30'000)) break;
+    while (process.canReadLine()) {
+      const QByteArrayList line = process.readLine().trimmed().split('=');
+      const bool isFrame = line.front() == firstFrame;
+      figures[line.front()].push_back(isFrame ? milliseconds(timer) : line.value(1).toDouble());
+    }
+  }
+  process.waitForFinished();
+  return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
+}
+
+/// Some starts in a row, of which the first only warms the caches.
+bool runProbes(Figures& figures) {
+  Figures warming;
+  bool isPassed = runProbe(warming);
+  for (int run = 0; run < runs && isPassed; ++run) isPassed = runProbe(figures);
+  return isPassed;
+}
+
+double median(std::vector<double> values) {
+  std::ranges::sort(values);
+  return values.empty() ? 0 : values.at(values.size() / 2);
+}
+
+void fillStore() {
+  CalcManager store(PreferenceStore::standard());
+  const Calculation record({{"aTextField", "-2"}, {"xTextField", "3/2"}}, R"({\frac{3}{2}}^{-2})", {},
+                           {{"inputCalculationSelection", qlonglong{0}}, {"appKey", "QRX"}});
+  for (int i = 0; i < manyRecords; ++i) store.addCalculation(record);
+}
+
+}  // namespace
+
+bool measure() {
+  Figures empty;
+  Figures full;
+  if (!runProbes(empty)) return false;
+  fillStore();
+  if (!runProbes(full)) return false;
+  std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
+  for (const char* name : {firstFrame, solution, memory, adding})
+    std::printf("%-46s %10.1f %14.1f\n", name, median(empty[name]), median(full[name]));
+  return true;
+}
+
+int probe(int argumentCount, char** arguments) {
+  Application application(argumentCount, arguments);
+  Stage stage(application);
+  tell(firstFrame, 0);
+
+  stage.prepare(Mode::power, u"-2", u"3/2");
+  QElapsedTimer timer;
+  bool isShown = false;
+  QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+    if (isShown || stage.delegate().pageTabBarController()->selectedIndex() != 1) return;
+    isShown = true;
+    tell(solution, milliseconds(timer));
+  });
+  timer.start();
+  stage.tap(QStringLiteral("key Calculate"));
+  stage.waitUntil([&isShown] { return isShown; }, "a frame with the solution");
+  stage.picture();
+  tell(memory, residentMegabytes());
+
+  timer.restart();
+  CalcManager::shared().addCalculation(CalcManager::shared().calculation(0));
+  tell(adding, milliseconds(timer));
+  return 0;
+}
+
+}  // namespace tavi::tour

@@ -1,0 +1,114 @@
+#include "tour/stage.h"
+
+#include <QTest>
+
+namespace tavi::tour {
+
+namespace {
+
+constexpr std::chrono::milliseconds patience{5000};
+
+template <typename Predicate>
+QQuickItem* find(QQuickItem& root, const Predicate& isWanted) {
+  if (!root.isVisible()) return nullptr;
+  if (isWanted(root)) return &root;
+  for (QQuickItem* child : root.childItems())
+    if (QQuickItem* found = find(*child, isWanted)) return found;
+  return nullptr;
+}
+
+bool isWideFlickable(const QQuickItem& item) {
+  return item.inherits("QQuickFlickable") && item.property("contentWidth").toReal() > item.width() + 1;
+}
+
+QPoint middle(const QQuickItem& item) {
+  return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
+}
+
+}  // namespace
+
+Stage::Stage(Application& application) : application_(application), finger_(QTest::createTouchDevice()) {
+  application_.launch();
+  bool hasFrame = false;
+  const auto counting =
+      QObject::connect(&window(), &QQuickWindow::frameSwapped, &window(), [&hasFrame] { hasFrame = true; });
+  waitUntil([&hasFrame] { return hasFrame; }, "the first frame");
+  QObject::disconnect(counting);
+}
+
+void Stage::resize(QSize size) {
+  window().resize(size);
+  waitUntil([this, size] { return window().contentItem()->size() == size; }, "the window has its new size");
+}
+
+QQuickItem* Stage::visibleItem(const QString& name) const {
+  QQuickItem* root = application_.delegate().window()->contentItem();
+  return find(*root, [&name](const QQuickItem& each) { return each.objectName() == name; });
+}
+
+QQuickItem& Stage::item(const QString& name) const {
+  QQuickItem* found = visibleItem(name);
+  if (!found) throw Failure("nothing to be seen of " + name.toStdString());
+  return *found;
+}
+
+void Stage::tap(const QString& name) {
+  const QQuickItem& target = item(name);
+  if (!target.isEnabled()) throw Failure(name.toStdString() + " is off");
+  const QPoint place = middle(target);
+  QTest::touchEvent(&window(), finger_.get()).press(0, place);
+  QTest::touchEvent(&window(), finger_.get()).release(0, place);
+}
+
+void Stage::type(const QString& field, QStringView keys) {
+  tap(field);
+  for (const QChar key : keys) tap(QStringLiteral("key ") + key);
+  if (item(field).property("text").toString() != keys) throw Failure("typing into " + field.toStdString());
+}
+
+void Stage::prepare(Mode mode, QStringView first, QStringView second) {
+  tap(QStringLiteral("tab0"));
+  waitUntil([this] { return delegate().pageTabBarController()->selectedIndex() == 0; },
+            "the input page is open");
+  tap(QStringLiteral("toolbarRemoveButton"));
+  const bool isPower = mode == Mode::power;
+  tap(isPower ? QStringLiteral("segment0") : QStringLiteral("segment1"));
+  if (!first.isEmpty()) type(isPower ? QStringLiteral("exponentField") : QStringLiteral("indexField"), first);
+  if (!second.isEmpty())
+    type(isPower ? QStringLiteral("baseField") : QStringLiteral("radicandField"), second);
+}
+
+void Stage::solve(Mode mode, QStringView first, QStringView second) {
+  prepare(mode, first, second);
+  tap(QStringLiteral("key Calculate"));
+  waitUntil([this] { return delegate().pageTabBarController()->selectedIndex() == 1; },
+            "the solution page is open");
+}
+
+void Stage::scrollWideLine() {
+  QQuickItem* line = find(*window().contentItem(), isWideFlickable);
+  if (!line) throw Failure("no line is wider than the page");
+  const QPoint start = middle(*line);
+  QTest::touchEvent(&window(), finger_.get()).press(0, start);
+  for (int step = 1; step <= 10; ++step) {
+    QTest::qWait(10);
+    QTest::touchEvent(&window(), finger_.get()).move(0, start - QPoint(15 * step, 0));
+  }
+  QTest::touchEvent(&window(), finger_.get()).release(0, start - QPoint(150, 0));
+  waitUntil([line] { return !line->property("moving").toBool(); }, "the line comes to rest");
+  if (line->property("contentX").toReal() <= 0) throw Failure("the wide line does not scroll");
+}
+
+void Stage::waitUntil(const std::function<bool()>& isReached, const std::string& what) const {
+  if (!QTest::qWaitFor(isReached, static_cast<int>(patience.count()))) throw Failure("not reached: " + what);
+}
+
+QImage Stage::picture() {
+  constexpr int longestAnimation = 250;
+  QTest::qWait(longestAnimation + 100);
+  QImage image = window().grabWindow();
+  if (image.isNull()) throw Failure("the window gives no picture");
+  return image;
+}
+
+}  // namespace tavi::tour

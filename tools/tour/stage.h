@@ -1,0 +1,65 @@
+#pragma once
+
+#include <QImage>
+#include <QPointingDevice>
+#include <QQuickItem>
+#include <QString>
+#include <QStringView>
+#include <functional>
+#include <stdexcept>
+
+#include "shell/application.h"
+
+namespace tavi::tour {
+
+/// A step that did not come where it should, in words.
+class Failure : public std::runtime_error {
+ public:
+  using std::runtime_error::runtime_error;
+};
+
+enum class Mode { power = 0, root = 1 };
+
+/// The running application and a finger on its window. Whatever cannot be found or does not happen within
+/// a few seconds is a Failure.
+class Stage {
+ public:
+  /// Launches the application and waits for its first frame.
+  explicit Stage(Application& application);
+
+  void resize(QSize size);
+
+  AppDelegate& delegate() { return application_.delegate(); }
+  QQuickWindow& window() { return *delegate().window(); }
+
+  /// The visible item of that object name.
+  QQuickItem& item(const QString& name) const;
+  bool shows(const QString& name) const { return visibleItem(name); }
+
+  const SolutionSteps& solutionSteps() { return delegate().solutionViewController()->solutionSteps(); }
+
+  void tap(const QString& name);
+  void type(const QString& field, QStringView keys);
+
+  /// Clears the input page, chooses the mode and types both texts, exponent or index first.
+  void prepare(Mode mode, QStringView first, QStringView second);
+
+  /// Types the texts, taps calculate and waits for the working to be on the screen.
+  void solve(Mode mode, QStringView first, QStringView second);
+
+  /// Draws a finger to the left over the first formula that is wider than the page.
+  void scrollWideLine();
+
+  void waitUntil(const std::function<bool()>& isReached, const std::string& what) const;
+
+  /// What the window shows once everything has come to rest.
+  QImage picture();
+
+ private:
+  QQuickItem* visibleItem(const QString& name) const;
+
+  Application& application_;
+  std::unique_ptr<QPointingDevice> finger_;
+};
+
+}  // namespace tavi::tour
