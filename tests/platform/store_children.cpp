@@ -91,6 +91,8 @@ int fillDisk(const QString& folder) {
   ballast.flush();
   const qlonglong acknowledged = fillStoreAndDie(path);
   if (acknowledged < 10) return fail("the disk is full at once");
+  // A restart finds no shared memory file, and there is no room to make one.
+  QFile::remove(path + "-shm");
   while (rest.write(QByteArray(4096, 'x')) > 0 || rest.write("x") > 0) continue;
 
   PreferenceStore store(path);
