@@ -59,7 +59,7 @@ Rectangle {
         }
 
         FocusRing {
-            control: QtObject {
+            control: Item {
                 readonly property bool visualFocus: table.activeFocus
             }
         }

@@ -128,7 +128,7 @@ SolutionStepTableViewCell {
     }
     FocusRing {
         anchors.fill: scrollView
-        control: QtObject {
+        control: Item {
             readonly property bool visualFocus: scrollView.activeFocus
         }
     }
