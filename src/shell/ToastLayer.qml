@@ -3,12 +3,12 @@ import Tavi
 
 // Short messages near the foot of the window; later ones stand on top of earlier ones.
 Item {
-    id: layer
+    id: toasts
 
     Connections {
         target: ViewManager
         function onToastRequested(text) {
-            toast.createObject(layer, { text: text });
+            toast.createObject(toasts, { text: text });
         }
     }
 
@@ -21,10 +21,10 @@ Item {
             required property string text
 
             objectName: "toast"
-            width: 0.9 * layer.width
+            width: 0.9 * toasts.width
             height: Math.max(40, label.implicitHeight + 12)
-            x: (layer.width - width) / 2
-            y: layer.height - 120
+            x: (toasts.width - width) / 2
+            y: toasts.height - 120
             radius: 10
             color: Qt.alpha(Theme.label, 0.8)
             Accessible.role: Accessible.AlertMessage

@@ -14,8 +14,14 @@
 
 namespace tavi {
 
-BasicToolbarController::BasicToolbarController(std::shared_ptr<ViewController> root) : root_(std::move(root)) {
+BasicToolbarController::BasicToolbarController(std::shared_ptr<ViewController> root)
+    : root_(std::move(root)) {
   adopt(*root_);
+}
+
+// The page reads the toolbar, so it goes first.
+BasicToolbarController::~BasicToolbarController() {
+  setView(nullptr);
 }
 
 void BasicToolbarController::transition(std::shared_ptr<ViewController> to,

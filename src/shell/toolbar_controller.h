@@ -15,6 +15,7 @@ class BasicToolbarController : public ViewController {
 
  public:
   explicit BasicToolbarController(std::shared_ptr<ViewController> root);
+  ~BasicToolbarController() override;
 
   Toolbar* toolbar() { return &toolbar_; }
   ViewController* rootController() const { return root_.get(); }
