@@ -43,12 +43,17 @@ FocusScope {
         readonly property real column: Math.min(width - 2 * page.margin, page.columnWidth)
         readonly property real smallestHeight: fillInLabel.height + modeSwitch.height + fields.height + 72
 
-        // Where not all of it can be seen, the fields come first.
+        property Item current
+
+        // Where not all of it can be seen, the fields come first, and of them the one that is typed into.
         function showFields() {
             contentY = contentHeight - height
+            if (current)
+                show(current)
         }
 
         function show(field) {
+            current = field
             const top = field.mapToItem(contentItem, 0, 0).y
             contentY = Math.max(0, Math.min(Math.max(contentY, top + field.height + page.margin - height),
                                             top - page.margin))

@@ -6,7 +6,6 @@ DTTextFieldItem {
     id: field
 
     property string label
-    property alias textSize: input.font.pixelSize
     readonly property bool isLabelOut: style.isLabelFloating && (activeFocus || text !== "")
 
     View.kind: View.TextField
@@ -96,20 +95,25 @@ DTTextFieldItem {
             height: place.height
             visible: input.activeFocus
             color: field.style.caretColor
-            onPlaceChanged: blinking.restart()
-            onVisibleChanged: blinking.restart()
+            onPlaceChanged: show()
+            onVisibleChanged: show()
 
-            SequentialAnimation on opacity {
-                id: blinking
-
-                running: caret.visible
-                loops: Animation.Infinite
-
-                PropertyAction { value: 1 }
-                PauseAnimation { duration: 500 }
-                PropertyAction { value: 0 }
-                PauseAnimation { duration: 500 }
+            function show() {
+                opacity = 1
+                if (visible && blinking.interval > 0)
+                    blinking.restart()
+                else
+                    blinking.stop()
             }
+        }
+
+        // A timer and no animation, which would draw sixty times a second to change something twice.
+        Timer {
+            id: blinking
+
+            interval: Qt.styleHints.cursorFlashTime / 2
+            repeat: true
+            onTriggered: caret.opacity = 1 - caret.opacity
         }
     }
 

@@ -11,6 +11,7 @@
 #include "shell/is_calculating.h"
 #include "shell/page_tab_bar_controller.h"
 #include "solution/solution_view_controller.h"
+#include "solution/step_records.h"
 #include "solver/exponent_solver.h"
 #include "solver/rehearsal.h"
 
@@ -20,18 +21,6 @@ namespace {
 
 QString qString(std::string_view text) {
   return QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
-}
-
-QVariantList stepRecords(const SolutionSteps& steps) {
-  QVariantList records;
-  for (const SolutionStep& step : steps) {
-    QVariantMap record;
-    if (step.title) record["title"] = qString(*step.title);
-    if (step.latexString) record["latexString"] = qString(*step.latexString);
-    if (step.messageString) record["messageString"] = qString(*step.messageString);
-    records.append(record);
-  }
-  return records;
 }
 
 }  // namespace

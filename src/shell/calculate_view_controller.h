@@ -77,6 +77,7 @@ class CalculateViewController : public AdHandlingViewController {
   /// Deletes what is selected, or the character before the caret.
   void deleteBackward();
 
+  /// Empties fields and solution, forgets snapshot and picked record, and opens this page.
   void clearAll();
 
   /// Carries the task out: to the history and the solution page, or to words about what is wrong with it.
@@ -86,6 +87,7 @@ class CalculateViewController : public AdHandlingViewController {
   /// Adds a task to the history. Fewer texts than identifiers are a fatal stop.
   void recordCalculation(const std::vector<std::string>& texts, const std::string& latex);
 
+  /// Asks for the page that explains this one.
   void showManual();
 
   /// False where the minus key would be a fatal stop; the keypad then switches the key off.
