@@ -8,6 +8,7 @@ T.Button {
     id: control
 
     property string iconText
+    property color groundColor: View.backgroundColor
     property color iconColor: View.tintColor
     property int radius: 8
 
@@ -32,9 +33,8 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: control.radius
-            color: control.down ? Qt.darker(control.View.backgroundColor, 1.3)
-                                : control.hovered ? Qt.darker(control.View.backgroundColor, 1.06)
-                                                  : control.View.backgroundColor
+            color: control.down ? Qt.darker(control.groundColor, 1.3)
+                                : control.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
         }
         FocusRing {
             control: control
