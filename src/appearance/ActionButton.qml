@@ -20,8 +20,15 @@ T.Button {
     rightPadding: 12
     opacity: View.alpha * (enabled ? 1 : 0.4)
     font: Theme.medium(22)
-    hoverEnabled: true
+    hoverEnabled: false
     Accessible.name: text
+
+    // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
+    HoverHandler {
+        id: pointer
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+    }
 
     background: Item {
         Shadow {
@@ -34,7 +41,7 @@ T.Button {
             anchors.fill: parent
             radius: control.radius
             color: control.down ? Qt.darker(control.groundColor, 1.3)
-                                : control.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
+                                : pointer.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
         }
         FocusRing {
             control: control

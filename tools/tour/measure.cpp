@@ -47,6 +47,9 @@ double residentMegabytes() {
 /// One process start; the first frame counts from before the process exists.
 bool runProbe(Figures& figures) {
   QProcess process;
+  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+  environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.info=false"));
+  process.setProcessEnvironment(environment);
   process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
   QElapsedTimer timer;
   timer.start();
@@ -76,11 +79,13 @@ double median(std::vector<double> values) {
   return values.empty() ? 0 : values.at(values.size() / 2);
 }
 
+/// A full history, written at once.
 void fillStore() {
-  CalcManager store(PreferenceStore::standard());
-  const Calculation record({{"aTextField", "-2"}, {"xTextField", "3/2"}}, R"({\frac{3}{2}}^{-2})", {},
-                           {{"inputCalculationSelection", qlonglong{0}}, {"appKey", "QRX"}});
-  for (int i = 0; i < manyRecords; ++i) store.addCalculation(record);
+  PreferenceStore& store = PreferenceStore::standard();
+  CalcManager(store).runFirstStartStep();
+  const QVariant record = CalcManager(store).calculation(0).properties();
+  store.setValue(QStringLiteral("Calculations"), QVariantList(manyRecords, record));
+  if (CalcManager(store).calculations().size() != manyRecords) throw Failure("the history is not filled");
 }
 
 }  // namespace

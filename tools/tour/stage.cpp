@@ -6,7 +6,7 @@ namespace tavi::tour {
 
 namespace {
 
-constexpr std::chrono::milliseconds patience{5000};
+constexpr std::chrono::milliseconds patience{8000};
 
 template <typename Predicate>
 QQuickItem* find(QQuickItem& root, const Predicate& isWanted) {
@@ -67,6 +67,7 @@ void Stage::type(const QString& field, QStringView keys) {
 }
 
 void Stage::prepare(Mode mode, QStringView first, QStringView second) {
+  waitUntil([this] { return !shows(QStringLiteral("toast")); }, "the last toast is gone");
   tap(QStringLiteral("tab0"));
   waitUntil([this] { return delegate().pageTabBarController()->selectedIndex() == 0; },
             "the input page is open");
