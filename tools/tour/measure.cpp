@@ -21,10 +21,10 @@ namespace {
 constexpr int runs = 5;
 constexpr int manyRecords = 10'000;
 
-constexpr char firstFrame[] = "first frame, ms";
-constexpr char solution[] = "tap on calculate to frame with solution, ms";
-constexpr char memory[] = "resident with solution open, MB";
-constexpr char adding[] = "adding a record, ms";
+constexpr const char* firstFrame = "first frame, ms";
+constexpr const char* solution = "tap on calculate to frame with solution, ms";
+constexpr const char* memory = "resident with solution open, MB";
+constexpr const char* adding = "adding a record, ms";
 
 using Figures = std::map<QByteArray, std::vector<double>>;
 
@@ -117,7 +117,7 @@ int probe(int argumentCount, char** arguments) {
   });
   timer.start();
   stage.tap(QStringLiteral("key Calculate"));
-  stage.waitUntil([&isShown] { return isShown; }, "a frame with the solution");
+  waitUntil([&isShown] { return isShown; }, "a frame with the solution");
   stage.picture();
   tell(memory, residentMegabytes());
 
