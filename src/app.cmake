@@ -86,7 +86,7 @@ tavi_add_font(materialdesignicons-webfont.ttf /usr/share/fonts/truetype/material
 set(resources ${PROJECT_SOURCE_DIR}/resources)
 qt_add_resources(tavi_app controls_style PREFIX / BASE ${resources} FILES ${resources}/qtquickcontrols2.conf)
 qt_add_translations(tavi_app
-  TS_FILES ${resources}/translations/tavi_en.ts
+  TS_FILES ${resources}/translations/tavi_en.ts ${resources}/translations/tavi_de.ts
   RESOURCE_PREFIX /i18n
   LRELEASE_OPTIONS -idbased)
 

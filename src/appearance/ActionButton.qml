@@ -8,6 +8,7 @@ T.Button {
     id: control
 
     property string iconText
+    property color groundColor: View.backgroundColor
     property color iconColor: View.tintColor
     property int radius: 8
 
@@ -19,8 +20,15 @@ T.Button {
     rightPadding: 12
     opacity: View.alpha * (enabled ? 1 : 0.4)
     font: Theme.medium(22)
-    hoverEnabled: true
+    hoverEnabled: false
     Accessible.name: text
+
+    // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
+    HoverHandler {
+        id: pointer
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+    }
 
     background: Item {
         Shadow {
@@ -32,9 +40,8 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: control.radius
-            color: control.down ? Qt.darker(control.View.backgroundColor, 1.3)
-                                : control.hovered ? Qt.darker(control.View.backgroundColor, 1.06)
-                                                  : control.View.backgroundColor
+            color: control.down ? Qt.darker(control.groundColor, 1.3)
+                                : pointer.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
         }
         FocusRing {
             control: control

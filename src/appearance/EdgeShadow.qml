@@ -7,26 +7,22 @@ Item {
 
     required property Flickable flickable
 
-    component Edge: Rectangle {
-        property bool fromLeft: true
-        readonly property color dark: Theme.isDark ? Qt.rgba(1, 1, 1, 0.22) : Qt.rgba(0, 0, 0, 0.16)
-        readonly property color clear: Qt.rgba(dark.r, dark.g, dark.b, 0)
+    clip: true
 
-        width: 14
-        height: parent.height
-        gradient: Gradient {
-            orientation: Gradient.Horizontal
-            GradientStop { position: 0; color: fromLeft ? dark : clear }
-            GradientStop { position: 1; color: fromLeft ? clear : dark }
-        }
+    // Lies just beyond the edge, so that only its soft side is seen.
+    component Edge: Shadow {
+        height: edges.height
+        width: 2 * extent + 4
+        cornerRadius: 2
+        shadow: Theme.edgeShadow
     }
 
     Edge {
+        x: -extent - 4
         visible: edges.flickable.contentX > 0.5
     }
     Edge {
-        x: parent.width - width
-        fromLeft: false
+        x: edges.width - extent
         visible: edges.flickable.contentX < edges.flickable.contentWidth - edges.flickable.width - 0.5
     }
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Tavi
 
-// A round button over a page; outlined ones stand back.
+// A round button over a page; an outlined one stands back.
 ActionButton {
     id: control
 
@@ -14,11 +14,12 @@ ActionButton {
     leftPadding: 0
     rightPadding: 0
     radius: width / 2
+    groundColor: outlined ? Theme.background : View.backgroundColor
+    iconColor: outlined ? Theme.label : View.tintColor
 
     Rectangle {
         anchors.fill: parent
         visible: control.outlined
-        z: -1
         radius: control.radius
         color: "transparent"
         border.width: 1

@@ -3,11 +3,11 @@ import Tavi
 
 // The ring around the control that the keyboard acts on.
 Rectangle {
-    required property Item control
+    property Item control
 
     anchors.fill: parent
     anchors.margins: 1
-    visible: control.visualFocus
+    visible: control && control.visualFocus
     color: "transparent"
     border.width: 2
     border.color: Theme.focus

@@ -15,15 +15,22 @@ T.AbstractButton {
     implicitHeight: Theme.touchTarget
     leftPadding: 12
     rightPadding: 12
-    hoverEnabled: true
+    hoverEnabled: false
     font: Theme.medium(14)
     Accessible.role: Accessible.Button
     Accessible.name: text
 
+    // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
+    HoverHandler {
+        id: pointer
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+    }
+
     background: Rectangle {
         radius: height / 2
         color: control.tintColor
-        opacity: control.down ? 0.2 : control.hovered ? 0.08 : 0
+        opacity: control.down ? 0.2 : pointer.hovered ? 0.08 : 0
     }
     contentItem: Text {
         text: control.iconText || control.text

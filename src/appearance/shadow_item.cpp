@@ -42,7 +42,6 @@ ShadowItem::ShadowItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
 void ShadowItem::setShadow(const LayerShadow& shadow) {
   if (shadow_ == shadow) return;
   shadow_ = shadow;
-  setVisible(shadow_.opacity > 0);
   emit changed();
 }
 
@@ -64,7 +63,7 @@ void ShadowItem::paint(QPainter* painter) {
       QRectF(0, 0, width(), height()).adjusted(inset, inset, -inset, -inset).translated(shadow_.offset);
 
   QImage mask((size() * ratio).toSize(), QImage::Format_Alpha8);
-  if (mask.isNull() || shape.isEmpty()) return;
+  if (shadow_.opacity <= 0 || mask.isNull() || shape.isEmpty()) return;
   mask.fill(0);
   {
     QPainter maskPainter(&mask);

@@ -48,6 +48,10 @@ QColor Theme::accentText() const {
   return isDark() ? QColor::fromRgb(0xff80ab) : QColor::fromRgb(0xc2185b);
 }
 
+LayerShadow Theme::edgeShadow() const {
+  return {.color = InterfaceColor::label(), .opacity = 0.5, .offset = {}, .radius = 4};
+}
+
 QColor Theme::darkTitle() const {
   return InterfaceColor::darkTitle();
 }

@@ -58,14 +58,17 @@ Rectangle {
         }
 
         Rectangle {
+            // In tabs, so that a change of the width takes the line along at once.
+            property real position: page.controller.selectedIndex
+
             objectName: "tabLine"
             y: parent.height - height
-            x: page.controller.selectedIndex * width
+            x: position * width
             width: parent.width / tabs.count
             height: 2
             color: Theme.pink
 
-            Behavior on x {
+            Behavior on position {
                 NumberAnimation { duration: 200; easing.type: Easing.OutCubic }
             }
         }

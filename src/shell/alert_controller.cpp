@@ -3,13 +3,14 @@
 #include <utility>
 
 #include "number/fatal_stop.h"
+#include "platform/localization.h"
 
 namespace tavi {
 
 AlertController::AlertController(std::optional<QString> title, std::optional<QString> message,
                                  std::vector<AlertAction> actions, AlertStyle style)
     : title_(std::move(title)), message_(std::move(message)), actions_(std::move(actions)), style_(style) {
-  if (actions_.empty()) actions_.push_back({QStringLiteral("OK")});
+  if (actions_.empty()) actions_.push_back({localized("OK")});
 }
 
 QStringList AlertController::actionTitles() const {

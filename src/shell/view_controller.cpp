@@ -103,7 +103,7 @@ void ViewController::runWhenOnline(std::function<void()> action, std::function<v
                                   failureAction = std::move(failureAction)](bool isOnline) {
     if (isOnline) return action();
     std::vector<AlertAction> actions;
-    if (failureAction) actions.push_back({QStringLiteral("OK"), failureAction});
+    if (failureAction) actions.push_back({localized("OK"), failureAction});
     presentAlert(localized("noInternet"), std::nullopt, std::move(actions), AlertStyle::alert);
   });
 }

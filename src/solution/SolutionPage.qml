@@ -57,14 +57,12 @@ Rectangle {
                 table.positionViewAtBeginning();
             }
         }
-
-        FocusRing {
-            control: Item {
-                readonly property bool visualFocus: table.activeFocus
-            }
-        }
     }
 
+    FocusRing {
+        anchors.fill: table
+        visible: table.activeFocus
+    }
     ScrollThumb {
         flickable: table
         orientation: Qt.Vertical

@@ -22,14 +22,16 @@ SolutionStepTableViewCell {
     height: Math.max(rowHeight, headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + 12)
     Component.onCompleted: rowHeight = controller.configureCell(cell, index)
 
+    // The card of the whole table is rounded where it begins and ends.
     Rectangle {
-        id: card
-
-        // Rounded where the table begins and ends; elsewhere the round part lies under the neighbours.
         anchors.fill: parent
-        anchors.topMargin: cell.isFirst ? 0 : -cell.corner
-        anchors.bottomMargin: cell.isLast ? 0 : -cell.corner
-        radius: cell.corner
+        radius: cell.isFirst || cell.isLast ? cell.corner : 0
+        color: Theme.background
+    }
+    Rectangle {
+        y: cell.isFirst ? cell.corner : 0
+        width: parent.width
+        height: parent.height - y - (cell.isLast ? cell.corner : 0)
         color: Theme.background
     }
     Rectangle {
@@ -128,8 +130,6 @@ SolutionStepTableViewCell {
     }
     FocusRing {
         anchors.fill: scrollView
-        control: Item {
-            readonly property bool visualFocus: scrollView.activeFocus
-        }
+        visible: scrollView.activeFocus
     }
 }

@@ -134,5 +134,10 @@ int go(int argumentCount, char** arguments) {
 }  // namespace tavi::tour
 
 int main(int argumentCount, char** arguments) {
-  return tavi::tour::go(argumentCount, arguments);
+  try {
+    return tavi::tour::go(argumentCount, arguments);
+  } catch (const tavi::tour::Failure& failure) {
+    std::fprintf(stderr, "%s\n", failure.what());
+    return 1;
+  }
 }

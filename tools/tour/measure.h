@@ -10,6 +10,6 @@ bool measure();
 int probe(int argumentCount, char** arguments);
 
 /// The argument that makes a process a probe; the environment says where its store lies.
-inline constexpr char probeArgument[] = "--probe";
+inline constexpr const char* probeArgument = "--probe";
 
 }  // namespace tavi::tour

@@ -6,7 +6,7 @@ namespace tavi::tour {
 
 namespace {
 
-constexpr std::chrono::milliseconds patience{5000};
+constexpr std::chrono::milliseconds patience{8000};
 
 template <typename Predicate>
 QQuickItem* find(QQuickItem& root, const Predicate& isWanted) {
@@ -48,7 +48,7 @@ QQuickItem* Stage::visibleItem(const QString& name) const {
 
 QQuickItem& Stage::item(const QString& name) const {
   QQuickItem* found = visibleItem(name);
-  if (!found) throw Failure("nothing to be seen of " + name.toStdString());
+  if (found == nullptr) throw Failure("nothing to be seen of " + name.toStdString());
   return *found;
 }
 
@@ -67,6 +67,7 @@ void Stage::type(const QString& field, QStringView keys) {
 }
 
 void Stage::prepare(Mode mode, QStringView first, QStringView second) {
+  waitForToastsToGo();
   tap(QStringLiteral("tab0"));
   waitUntil([this] { return delegate().pageTabBarController()->selectedIndex() == 0; },
             "the input page is open");
@@ -87,7 +88,7 @@ void Stage::solve(Mode mode, QStringView first, QStringView second) {
 
 void Stage::scrollWideLine() {
   QQuickItem* line = find(*window().contentItem(), isWideFlickable);
-  if (!line) throw Failure("no line is wider than the page");
+  if (line == nullptr) throw Failure("no line is wider than the page");
   const QPoint start = middle(*line);
   QTest::touchEvent(&window(), finger_.get()).press(0, start);
   for (int step = 1; step <= 10; ++step) {
@@ -99,8 +100,12 @@ void Stage::scrollWideLine() {
   if (line->property("contentX").toReal() <= 0) throw Failure("the wide line does not scroll");
 }
 
-void Stage::waitUntil(const std::function<bool()>& isReached, const std::string& what) const {
+void waitUntil(const std::function<bool()>& isReached, const std::string& what) {
   if (!QTest::qWaitFor(isReached, static_cast<int>(patience.count()))) throw Failure("not reached: " + what);
+}
+
+void Stage::waitForToastsToGo() const {
+  waitUntil([this] { return !shows(QStringLiteral("toast")); }, "the last toast is gone");
 }
 
 QImage Stage::picture() {

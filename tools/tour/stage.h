@@ -20,6 +20,9 @@ class Failure : public std::runtime_error {
 
 enum class Mode { power = 0, root = 1 };
 
+/// Lets the application run until the state is reached.
+void waitUntil(const std::function<bool()>& isReached, const std::string& what);
+
 /// The running application and a finger on its window. Whatever cannot be found or does not happen within
 /// a few seconds is a Failure.
 class Stage {
@@ -34,7 +37,7 @@ class Stage {
 
   /// The visible item of that object name.
   QQuickItem& item(const QString& name) const;
-  bool shows(const QString& name) const { return visibleItem(name); }
+  bool shows(const QString& name) const { return visibleItem(name) != nullptr; }
 
   const SolutionSteps& solutionSteps() { return delegate().solutionViewController()->solutionSteps(); }
 
@@ -50,7 +53,7 @@ class Stage {
   /// Draws a finger to the left over the first formula that is wider than the page.
   void scrollWideLine();
 
-  void waitUntil(const std::function<bool()>& isReached, const std::string& what) const;
+  void waitForToastsToGo() const;
 
   /// What the window shows once everything has come to rest.
   QImage picture();

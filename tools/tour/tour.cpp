@@ -1,5 +1,7 @@
 #include "tour/tour.h"
 
+#include <array>
+
 #include "appearance/interface_colors.h"
 #include "platform/localization.h"
 #include "shell/dt_text_field.h"
@@ -37,7 +39,7 @@ void manySteps(Stage& stage) {
 void missingValue(Stage& stage) {
   stage.prepare(Mode::power, u"", u"12");
   stage.tap(QStringLiteral("key Calculate"));
-  stage.waitUntil([&stage] { return stage.shows(QStringLiteral("toast")); }, "a toast is shown");
+  waitUntil([&stage] { return stage.shows(QStringLiteral("toast")); }, "a toast is shown");
   const auto& field = dynamic_cast<DTTextField&>(stage.item(QStringLiteral("exponentField")));
   if (field.borderColor() != InterfaceColor::orange()) throw Failure("the missing field is not coloured");
 }
@@ -53,8 +55,9 @@ void wideLine(Stage& stage) {
 }
 
 void openDrawer(Stage& stage) {
+  stage.waitForToastsToGo();
   stage.tap(QStringLiteral("menuButton"));
-  stage.waitUntil([&stage] { return stage.shows(QStringLiteral("sideMenu")); }, "the drawer is open");
+  waitUntil([&stage] { return stage.shows(QStringLiteral("sideMenu")); }, "the drawer is open");
 }
 
 void typing(Stage& stage) {
@@ -65,23 +68,23 @@ void typing(Stage& stage) {
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 
-constexpr Step phoneSteps[] = {{"01-first-start", firstStart},
-                               {"02-power", power},
-                               {"03-root", root},
-                               {"04-many-steps", manySteps},
-                               {"05-missing-value", missingValue},
-                               {"06-no-solution", noSolution},
-                               {"07-wide-line", wideLine},
-                               {"08-open-drawer", openDrawer}};
-constexpr Step darkSteps[] = {{"09-dark-input", typing},
-                              {"10-dark-solution", power},
-                              {"11-dark-missing-value", missingValue},
-                              {"12-dark-drawer", openDrawer}};
-constexpr Step tabletSteps[] = {
-    {"13-tablet-input", typing}, {"14-tablet-solution", manySteps}, {"15-tablet-drawer", openDrawer}};
-constexpr Visit visits[] = {{"phone", phone, false, phoneSteps},
-                            {"dark", phone, true, darkSteps},
-                            {"tablet", tablet, false, tabletSteps}};
+constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
+                                                 {"02-power", power},
+                                                 {"03-root", root},
+                                                 {"04-many-steps", manySteps},
+                                                 {"05-missing-value", missingValue},
+                                                 {"06-no-solution", noSolution},
+                                                 {"07-wide-line", wideLine},
+                                                 {"08-open-drawer", openDrawer}});
+constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
+                                                {"10-dark-solution", power},
+                                                {"11-dark-missing-value", missingValue},
+                                                {"12-dark-drawer", openDrawer}});
+constexpr auto tabletSteps = std::to_array<Step>(
+    {{"13-tablet-input", typing}, {"14-tablet-solution", manySteps}, {"15-tablet-drawer", openDrawer}});
+constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
+                                              {"dark", phone, true, darkSteps},
+                                              {"tablet", tablet, false, tabletSteps}});
 
 }  // namespace
 

@@ -1,0 +1,471 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name></name>
+    <message id="Fill in your given numbers:">
+        <source>Fill in your given numbers:</source>
+        <translation>Gib die Zahlen deiner Aufgabe ein:</translation>
+    </message>
+    <message id="Your Input">
+        <source>Your Input</source>
+        <translation>Deine Eingabe</translation>
+    </message>
+    <message id="Expand">
+        <source>Expand</source>
+        <translation>Erweitern</translation>
+    </message>
+    <message id="Modified Input">
+        <source>Modified Input</source>
+        <translation>Umgeformte Eingabe</translation>
+    </message>
+    <message id="Step">
+        <source>Step</source>
+        <translation>Schritt</translation>
+    </message>
+    <message id="Result">
+        <source>Result</source>
+        <translation>Ergebnis</translation>
+    </message>
+    <message id="noSolution">
+        <source>noSolution</source>
+        <translation>Keine Lösung in den reellen Zahlen</translation>
+    </message>
+    <message id="recommendedVideoIfUnclear">
+        <source>recommendedVideoIfUnclear</source>
+        <translation>Noch unklar? Sieh dir ein Video an</translation>
+    </message>
+    <message id="touchTounlock">
+        <source>touchTounlock</source>
+        <translation>Zum Freischalten tippen</translation>
+    </message>
+    <message id="Cancel">
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message id="Convert">
+        <source>Convert</source>
+        <translation>Umformen</translation>
+    </message>
+    <message id="Rate">
+        <source>Rate</source>
+        <translation>Bewerten</translation>
+    </message>
+    <message id="Send">
+        <source>Send</source>
+        <translation>Senden</translation>
+    </message>
+    <message id="Close">
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message id="Thanks">
+        <source>Thanks</source>
+        <translation>Danke</translation>
+    </message>
+    <message id="error">
+        <source>error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message id="Cancel (math)">
+        <source>Cancel (math)</source>
+        <translation>Bruch kürzen</translation>
+    </message>
+    <message id="Extract a root">
+        <source>Extract a root</source>
+        <translation>Wurzel ziehen</translation>
+    </message>
+    <message id="Calculate power">
+        <source>Calculate power</source>
+        <translation>Potenz berechnen</translation>
+    </message>
+    <message id="Reciprocal">
+        <source>Reciprocal</source>
+        <translation>Kehrwert</translation>
+    </message>
+    <message id="Tavi Solver">
+        <source>Tavi Solver</source>
+        <translation>Tavi Solver</translation>
+    </message>
+    <message id="Input">
+        <source>Input</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message id="Clear">
+        <source>Clear</source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="Calculate Title">
+        <source>Calculate Title</source>
+        <translation>Potenzen und Wurzeln</translation>
+    </message>
+    <message id="sharingImageQualityTitle">
+        <source>sharingImageQualityTitle</source>
+        <translation>Dein Bild entsteht</translation>
+    </message>
+    <message id="sharingImageQualityText">
+        <source>sharingImageQualityText</source>
+        <translation>Der ganze Lösungsweg wird ein langes Bild. Am schärfsten bleibt es, wenn du es als Datei verschickst.</translation>
+    </message>
+    <message id="History">
+        <source>History</source>
+        <translation>Verlauf</translation>
+    </message>
+    <message id="Clear History">
+        <source>Clear History</source>
+        <translation>Verlauf löschen</translation>
+    </message>
+    <message id="Are you sure to delete your whole history?">
+        <source>Are you sure to delete your whole history?</source>
+        <translation>Möchtest du wirklich den ganzen Verlauf löschen?</translation>
+    </message>
+    <message id="Assistance">
+        <source>Assistance</source>
+        <translation>Hilfe</translation>
+    </message>
+    <message id="noInternet">
+        <source>noInternet</source>
+        <translation>Keine Internetverbindung</translation>
+    </message>
+    <message id="dsgvoAccept">
+        <source>dsgvoAccept</source>
+        <translation>Zustimmen</translation>
+    </message>
+    <message id="dsgvoDecline">
+        <source>dsgvoDecline</source>
+        <translation>Ablehnen</translation>
+    </message>
+    <message id="dsgvoYoutubeTitle">
+        <source>dsgvoYoutubeTitle</source>
+        <translation>Datenschutz bei Videos</translation>
+    </message>
+    <message id="dsgvoYoutubeText">
+        <source>dsgvoYoutubeText</source>
+        <translation>Die Videos kommen von YouTube. Wenn du eines ansiehst, erfährt YouTube deine Internetadresse und kann Daten auf deinem Gerät speichern. Möchtest du Videos hier sehen?</translation>
+    </message>
+    <message id="dsgvoTitlePro">
+        <source>dsgvoTitlePro</source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message id="dsgvoTextPro">
+        <source>dsgvoTextPro</source>
+        <translation>Alles, was du rechnest, bleibt auf diesem Gerät. Die App merkt sich ohne deinen Namen, welche Funktionen benutzt werden, damit sie besser werden kann. Bist du einverstanden?</translation>
+    </message>
+    <message id="onboardingA">
+        <source>onboardingA</source>
+        <translation>Willkommen! Hier lernst du Schritt für Schritt, wie man Potenzen und Wurzeln berechnet.</translation>
+    </message>
+    <message id="onboardingB">
+        <source>onboardingB</source>
+        <translation>Wähle oben zwischen Potenz und Wurzel.</translation>
+    </message>
+    <message id="onboardingC">
+        <source>onboardingC</source>
+        <translation>Tippe auf ein Feld und gib deine Zahlen ein. Auch Brüche, Dezimalzahlen, π und x, y, z sind willkommen.</translation>
+    </message>
+    <message id="onboardingD">
+        <source>onboardingD</source>
+        <translation>Tippe auf den Haken, dann siehst du jeden Schritt der Lösung.</translation>
+    </message>
+    <message id="onboardingE">
+        <source>onboardingE</source>
+        <translation>Deine Aufgaben bleiben im Verlauf, und eine Lösung kannst du als Bild teilen.</translation>
+    </message>
+    <message id="onboardingYoutube1">
+        <source>onboardingYoutube1</source>
+        <translation>Manche Schritte versteht man leichter mit einem Video.</translation>
+    </message>
+    <message id="onboardingYoutube2">
+        <source>onboardingYoutube2</source>
+        <translation>Die Videos unter einer Lösung passen zu deiner Aufgabe.</translation>
+    </message>
+    <message id="onboardingYoutube3">
+        <source>onboardingYoutube3</source>
+        <translation>Sie kommen von YouTube, das Daten auf deinem Gerät speichern kann.</translation>
+    </message>
+    <message id="onboardingYoutube4">
+        <source>onboardingYoutube4</source>
+        <translation>Ohne deine Zustimmung wird nichts geladen.</translation>
+    </message>
+    <message id="onboardingYoutube5">
+        <source>onboardingYoutube5</source>
+        <translation>Im Menü kannst du dich jederzeit anders entscheiden.</translation>
+    </message>
+    <message id="introduction">
+        <source>introduction</source>
+        <translation>Einführung</translation>
+    </message>
+    <message id="privacyPolicy">
+        <source>privacyPolicy</source>
+        <translation>Datenschutz</translation>
+    </message>
+    <message id="Rate this App">
+        <source>Rate this App</source>
+        <translation>Diese App bewerten</translation>
+    </message>
+    <message id="oppositionError">
+        <source>oppositionError</source>
+        <translation>Diese Zahlen widersprechen sich. Bitte prüfe deine Eingabe.</translation>
+    </message>
+    <message id="mustBeBiggerThanXAndLessThanY">
+        <source>mustBeBiggerThanXAndLessThanY</source>
+        <translation>Der Wert muss größer als %0 und kleiner als %1 sein.</translation>
+    </message>
+    <message id="mustBeGreatherThanX">
+        <source>mustBeGreatherThanX</source>
+        <translation>Der Wert muss größer als %0 sein.</translation>
+    </message>
+    <message id="mustBeLessThanX">
+        <source>mustBeLessThanX</source>
+        <translation>Der Wert muss kleiner als %0 sein.</translation>
+    </message>
+    <message id="notEnoughInputValues">
+        <source>notEnoughInputValues</source>
+        <translation>Es fehlt ein Wert. Bitte fülle das markierte Feld aus.</translation>
+    </message>
+    <message id="inputParameterError">
+        <source>inputParameterError</source>
+        <translation>Das kann ich nicht als Zahl lesen. Bitte prüfe das markierte Feld.</translation>
+    </message>
+    <message id="fractionIncomplete">
+        <source>fractionIncomplete</source>
+        <translation>Der Bruch ist unvollständig. Er braucht einen Zähler und einen Nenner.</translation>
+    </message>
+    <message id="inputZeroInDenominator">
+        <source>inputZeroInDenominator</source>
+        <translation>Durch null kann man nicht teilen. Bitte ändere den Nenner.</translation>
+    </message>
+    <message id="toManyNaturalConstantsInSubstring">
+        <source>toManyNaturalConstantsInSubstring</source>
+        <translation>Schreibe π in jedem Teil einer Zahl nur einmal.</translation>
+    </message>
+    <message id="naturalConstantInWrongPositionOfSubstring">
+        <source>naturalConstantInWrongPositionOfSubstring</source>
+        <translation>Schreibe π oder einen Buchstaben hinter die Zahl, wie in 2π oder 3x.</translation>
+    </message>
+    <message id="toManyVariablesInSubstring">
+        <source>toManyVariablesInSubstring</source>
+        <translation>Schreibe in jedem Teil einer Zahl nur eine Variable.</translation>
+    </message>
+    <message id="calculationTooLong">
+        <source>calculationTooLong</source>
+        <translation>Das wären mehr Schritte, als man lesen kann. Bitte nimm hier eine kleinere Zahl.</translation>
+    </message>
+    <message id="calculationOutOfRange">
+        <source>calculationOutOfRange</source>
+        <translation>Diese Zahlen sind mir zu groß oder zu genau. Bitte nimm kleinere oder kürzere.</translation>
+    </message>
+    <message id="Base">
+        <source>Base</source>
+        <translation>Basis</translation>
+    </message>
+    <message id="Exponent">
+        <source>Exponent</source>
+        <translation>Exponent</translation>
+    </message>
+    <message id="Radicand">
+        <source>Radicand</source>
+        <translation>Radikand</translation>
+    </message>
+    <message id="Root index">
+        <source>Root index</source>
+        <translation>Wurzelexponent</translation>
+    </message>
+    <message id="Power">
+        <source>Power</source>
+        <translation>Potenz</translation>
+    </message>
+    <message id="Root">
+        <source>Root</source>
+        <translation>Wurzel</translation>
+    </message>
+    <message id="Delete">
+        <source>Delete</source>
+        <translation>Zeichen löschen</translation>
+    </message>
+    <message id="Calculate">
+        <source>Calculate</source>
+        <translation>Berechnen</translation>
+    </message>
+    <message id="Decimal point">
+        <source>Decimal point</source>
+        <translation>Dezimalpunkt</translation>
+    </message>
+    <message id="Fraction bar">
+        <source>Fraction bar</source>
+        <translation>Bruchstrich</translation>
+    </message>
+    <message id="Minus sign">
+        <source>Minus sign</source>
+        <translation>Minuszeichen</translation>
+    </message>
+    <message id="Pi">
+        <source>Pi</source>
+        <translation>Pi</translation>
+    </message>
+    <message id="menuButton">
+        <source>menuButton</source>
+        <translation>Menü</translation>
+    </message>
+    <message id="shareButton">
+        <source>shareButton</source>
+        <translation>Lösung teilen</translation>
+    </message>
+    <message id="manualButton">
+        <source>manualButton</source>
+        <translation>So geht es</translation>
+    </message>
+    <message id="OK">
+        <source>OK</source>
+        <translation>OK</translation>
+    </message>
+    <message id="mathPlus">
+        <source>mathPlus</source>
+        <translation>plus</translation>
+    </message>
+    <message id="mathMinus">
+        <source>mathMinus</source>
+        <translation>minus</translation>
+    </message>
+    <message id="mathPlusMinus">
+        <source>mathPlusMinus</source>
+        <translation>plus oder minus</translation>
+    </message>
+    <message id="mathTimes">
+        <source>mathTimes</source>
+        <translation>mal</translation>
+    </message>
+    <message id="mathDividedBy">
+        <source>mathDividedBy</source>
+        <translation>geteilt durch</translation>
+    </message>
+    <message id="mathEquals">
+        <source>mathEquals</source>
+        <translation>gleich</translation>
+    </message>
+    <message id="mathNotEqual">
+        <source>mathNotEqual</source>
+        <translation>ist ungleich</translation>
+    </message>
+    <message id="mathApproximately">
+        <source>mathApproximately</source>
+        <translation>ist ungefähr</translation>
+    </message>
+    <message id="mathLess">
+        <source>mathLess</source>
+        <translation>ist kleiner als</translation>
+    </message>
+    <message id="mathGreater">
+        <source>mathGreater</source>
+        <translation>ist größer als</translation>
+    </message>
+    <message id="mathLessOrEqual">
+        <source>mathLessOrEqual</source>
+        <translation>ist kleiner oder gleich</translation>
+    </message>
+    <message id="mathGreaterOrEqual">
+        <source>mathGreaterOrEqual</source>
+        <translation>ist größer oder gleich</translation>
+    </message>
+    <message id="mathInfinity">
+        <source>mathInfinity</source>
+        <translation>unendlich</translation>
+    </message>
+    <message id="mathDegrees">
+        <source>mathDegrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message id="mathPercent">
+        <source>mathPercent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message id="mathFactorial">
+        <source>mathFactorial</source>
+        <translation>Fakultät</translation>
+    </message>
+    <message id="mathFraction">
+        <source>mathFraction</source>
+        <translation>%1 durch %2</translation>
+    </message>
+    <message id="mathLongFraction">
+        <source>mathLongFraction</source>
+        <translation>Bruch %1 durch %2 Ende Bruch</translation>
+    </message>
+    <message id="mathSquareRoot">
+        <source>mathSquareRoot</source>
+        <translation>Quadratwurzel aus %1</translation>
+    </message>
+    <message id="mathLongSquareRoot">
+        <source>mathLongSquareRoot</source>
+        <translation>Quadratwurzel aus %1 Ende Wurzel</translation>
+    </message>
+    <message id="mathCubeRoot">
+        <source>mathCubeRoot</source>
+        <translation>dritte Wurzel aus %1</translation>
+    </message>
+    <message id="mathLongCubeRoot">
+        <source>mathLongCubeRoot</source>
+        <translation>dritte Wurzel aus %1 Ende Wurzel</translation>
+    </message>
+    <message id="mathRoot">
+        <source>mathRoot</source>
+        <translation>Wurzel mit Wurzelexponent %1 aus %2</translation>
+    </message>
+    <message id="mathLongRoot">
+        <source>mathLongRoot</source>
+        <translation>Wurzel mit Wurzelexponent %1 aus %2 Ende Wurzel</translation>
+    </message>
+    <message id="mathPower">
+        <source>mathPower</source>
+        <translation>%1 hoch %2</translation>
+    </message>
+    <message id="mathLongPower">
+        <source>mathLongPower</source>
+        <translation>%1 hoch %2 Ende Exponent</translation>
+    </message>
+    <message id="mathIndex">
+        <source>mathIndex</source>
+        <translation>%1 Index %2</translation>
+    </message>
+    <message id="mathParentheses">
+        <source>mathParentheses</source>
+        <translation>Klammer auf %1 Klammer zu</translation>
+    </message>
+    <message id="mathBrackets">
+        <source>mathBrackets</source>
+        <translation>eckige Klammer auf %1 eckige Klammer zu</translation>
+    </message>
+    <message id="mathBraces">
+        <source>mathBraces</source>
+        <translation>geschweifte Klammer auf %1 geschweifte Klammer zu</translation>
+    </message>
+    <message id="mathAbsoluteValue">
+        <source>mathAbsoluteValue</source>
+        <translation>Betrag von %1 Ende Betrag</translation>
+    </message>
+    <message id="mathSine">
+        <source>mathSine</source>
+        <translation>Sinus</translation>
+    </message>
+    <message id="mathCosine">
+        <source>mathCosine</source>
+        <translation>Kosinus</translation>
+    </message>
+    <message id="mathTangent">
+        <source>mathTangent</source>
+        <translation>Tangens</translation>
+    </message>
+    <message id="mathLogarithm">
+        <source>mathLogarithm</source>
+        <translation>Logarithmus</translation>
+    </message>
+    <message id="mathNaturalLogarithm">
+        <source>mathNaturalLogarithm</source>
+        <translation>natürlicher Logarithmus</translation>
+    </message>
+    <message id="mathPi">
+        <source>mathPi</source>
+        <translation>Pi</translation>
+    </message>
+</context>
+</TS>
