@@ -85,7 +85,7 @@ void ErrorManager::reportInputError(const QString& key, const QList<DTTextField*
   showErrorMessage(key);
 }
 
-void ErrorManager::showErrorMessage(const QString& key) {
+void ErrorManager::showErrorMessage(const QString& key) const {
   const QStringList pieces = key.split(u'§', Qt::SkipEmptyParts);
   if (pieces.isEmpty()) return;
   QString words = localized(qUtf8Printable(pieces.front()));
@@ -93,8 +93,9 @@ void ErrorManager::showErrorMessage(const QString& key) {
     presenter_.presentAlert(QString::fromStdString(LocalizedString::error.text()), words);
     return;
   }
-  const auto numbered = std::find_if(numberedKeys.begin(), numberedKeys.end(),
-                                     [&](const NumberedKey& row) { return text(row.key) == pieces.front(); });
+  const auto* const numbered =
+      std::find_if(numberedKeys.begin(), numberedKeys.end(),
+                   [&](const NumberedKey& row) { return text(row.key) == pieces.front(); });
   if (numbered != numberedKeys.end()) {
     if (pieces.size() != 1 + numbered->numbers) return;
     for (qsizetype i = 0; i < numbered->numbers; ++i) words.replace(u'%' + QString::number(i), pieces[i + 1]);

@@ -38,7 +38,7 @@ class ErrorManager {
 
   /// Shows the words of a key, which may carry numbers behind it: mustBeLessThanX§5. A key with the wrong
   /// count of numbers shows nothing.
-  void showErrorMessage(const QString& key);
+  void showErrorMessage(const QString& key) const;
 
   Fields allFields;                ///< All text fields of the screen.
   int requiredAmountOfFields = 0;  ///< How many fields the task needs; 0 leaves all fields alone.

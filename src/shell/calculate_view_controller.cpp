@@ -1,6 +1,7 @@
 #include "shell/calculate_view_controller.h"
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 #include "appearance/color_manager.h"
@@ -29,8 +30,8 @@ struct TypedAlias {
   QChar typed;
   QChar title;
 };
-constexpr TypedAlias typedAliases[] = {{u',', u'.'}, {u'p', u'π'}, {u'P', u'π'},
-                                       {u'X', u'x'}, {u'Y', u'y'}, {u'Z', u'z'}};
+constexpr std::array<TypedAlias, 6> typedAliases{
+    {{u',', u'.'}, {u'p', u'π'}, {u'P', u'π'}, {u'X', u'x'}, {u'Y', u'y'}, {u'Z', u'z'}}};
 constexpr QStringView keypadTitles = u"0123456789./-πxyz";
 
 // The mode of a picked record; a value that is no integer is a fatal stop.
@@ -83,8 +84,8 @@ void CalculateViewController::configureFields() {
 }
 
 void CalculateViewController::configureFieldsBelow(const QQuickItem& item) {
-  const std::pair<QLatin1StringView, const QList<DTTextField*>&> candidates[] = {
-      {QLatin1StringView("aTextField"), aTextField}, {QLatin1StringView("xTextField"), xTextField}};
+  const std::array candidates{std::pair(QLatin1StringView("aTextField"), &aTextField),
+                              std::pair(QLatin1StringView("xTextField"), &xTextField)};
   for (QQuickItem* child : item.childItems()) {
     auto* field = qobject_cast<DTTextField*>(child);
     const View* attached = View::of(child);
@@ -94,7 +95,7 @@ void CalculateViewController::configureFieldsBelow(const QQuickItem& item) {
       connect(field, &DTTextField::textChanged, this, &CalculateViewController::caretChanged);
       connect(field, &DTTextField::selectionChanged, this, &CalculateViewController::caretChanged);
       for (const auto& [identifier, fields] : candidates) {
-        if (!fields.contains(field)) continue;
+        if (!fields->contains(field)) continue;
         field->accessibilityIdentifier = identifier;
         break;
       }
@@ -224,7 +225,7 @@ void CalculateViewController::tappedManualButton() {
 }
 
 bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const QString& text) {
-  if (modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) return false;
+  if ((modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
   switch (key) {
     case Qt::Key_Backspace:
       tappedDeleteButton();
@@ -277,8 +278,8 @@ void CalculateViewController::insertKeypadValue(const QString& title) {
 }
 
 void CalculateViewController::deleteBackward() {
-  if (isCalculating || !currentTextField || currentTextField->text().isEmpty()) return;
-  if (!currentTextField->selectedTextRange()) return;
+  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  if (currentTextField->text().isEmpty()) return;
   TextRange selection = *currentTextField->selectedTextRange();
   if (selection.end == 0) return;
   if (selection.start == selection.end) --selection.start;

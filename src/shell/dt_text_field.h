@@ -77,7 +77,7 @@ class DTTextField : public QQuickItem {
   void setHidden(bool isHidden);
 
   /// Whether the field stands in something, and that is not hidden.
-  bool isInVisibleHolder() const { return parentItem() && parentItem()->isVisible(); }
+  bool isInVisibleHolder() const { return parentItem() != nullptr && parentItem()->isVisible(); }
 
   QColor borderColor() const { return borderColor_; }
   void setBorderColor(const QColor& color);

@@ -1,5 +1,7 @@
 #include "shell/radical_item.h"
 
+#include <QPolygonF>
+
 namespace tavi {
 
 RadicalItem::RadicalItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
@@ -17,10 +19,8 @@ void RadicalItem::paint(QPainter* painter) {
 
   QPen pen(color_, lineWidth_, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin);
   painter->setPen(pen);
-  const QPointF thin[] = {tick, shoulder};
-  painter->drawPolyline(thin, 2);
-  const QPointF rise[] = {foot, corner, {width(), top}};
-  painter->drawPolyline(rise, 3);
+  painter->drawLine(tick, shoulder);
+  painter->drawPolyline(QPolygonF{foot, corner, {width(), top}});
   pen.setWidthF(2 * lineWidth_);
   pen.setJoinStyle(Qt::RoundJoin);
   pen.setCapStyle(Qt::RoundCap);
