@@ -11,11 +11,11 @@ namespace tavi {
 
 /// The five warm colours of the keypad, which the toolbars, the side menu and accents share.
 struct KeypadPalette {
-  QColor darkGold;       ///< Tag 101.
-  QColor brightYellow;   ///< Tag 102.
-  QColor strongYellow;   ///< Tag 103.
-  QColor pink;           ///< Tag 104.
-  QColor darkMagenta;    ///< Tag 105.
+  QColor darkGold;      ///< Tag 101.
+  QColor brightYellow;  ///< Tag 102.
+  QColor strongYellow;  ///< Tag 103.
+  QColor pink;          ///< Tag 104.
+  QColor darkMagenta;   ///< Tag 105.
 
   /// The colours for the appearance in force.
   static KeypadPalette make();

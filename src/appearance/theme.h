@@ -42,9 +42,9 @@ class Theme : public QObject {
   QColor background() const;
   QColor groupedBackground() const;
   QColor page() const;
-  QColor hairline() const;    ///< Thin separating lines.
-  QColor focus() const;       ///< The ring around what the keyboard acts on.
-  QColor accentText() const;  ///< Pink as it can be read as text on the background.
+  QColor hairline() const;         ///< Thin separating lines.
+  QColor focus() const;            ///< The ring around what the keyboard acts on.
+  QColor accentText() const;       ///< Pink as it can be read as text on the background.
   LayerShadow edgeShadow() const;  ///< Where a view that scrolls sideways goes on.
   QColor darkTitle() const;
   QColor darkGold() const { return KeypadPalette::shared().darkGold; }

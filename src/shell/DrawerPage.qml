@@ -35,8 +35,14 @@ Item {
         T.Overlay.modal: Rectangle {
             color: Qt.rgba(0, 0, 0, 0.5)
         }
-        background: Rectangle {
-            color: Theme.page
+        background: Item {
+            Shadow {
+                x: parent.width - extent - cornerRadius
+                width: 2 * extent + cornerRadius
+                height: parent.height
+                cornerRadius: 2
+                shadow: Theme.edgeShadow
+            }
         }
         contentItem: ControllerHost {
             objectName: "sideMenu"

@@ -18,31 +18,32 @@ void build(std::shared_ptr<Controller>& field, QQmlEngine& engine, const char* p
 
 }  // namespace
 
-AppDelegate::AppDelegate(QQmlEngine& engine) : engine_(engine) {}
+AppDelegate::AppDelegate(QQmlEngine& engine, const AppServices& services)
+    : engine_(engine), services_(services) {}
 
 AppDelegate::~AppDelegate() = default;
 
-void AppDelegate::didFinishLaunching(const Services& services) {
-  services.remoteConfigManager.reload();
-  services.calcManager.runFirstStartStep();
+void AppDelegate::didFinishLaunching() {
+  services_.remoteConfigManager.reload();
+  services_.calcManager.runFirstStartStep();
 
   std::shared_ptr<MenuToolbarController> menu;
   build(menu, engine_, "shell/ToolbarPage.qml", leftViewController());
   build(drawer_, engine_, "shell/DrawerPage.qml", appToolbarController(), menu);
   openWindow();
-  presentFirstRun(services.userDefaults);
+  presentFirstRun();
 
-  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [services](Qt::ApplicationState state) {
-    if (state == Qt::ApplicationActive) didBecomeActive(services);
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    if (state == Qt::ApplicationActive) didBecomeActive();
   });
 }
 
-void AppDelegate::didBecomeActive(const Services& services) {
+void AppDelegate::didBecomeActive() {
   constexpr std::chrono::seconds expiry{21600};
-  services.remoteConfig.fetch(
-      expiry, [&manager = services.remoteConfigManager](FetchStatus status, const std::optional<QString>& error) {
-        manager.handleFetchResult(status, error);
-      });
+  services_.remoteConfig.fetch(expiry, [&manager = services_.remoteConfigManager](
+                                           FetchStatus status, const std::optional<QString>& error) {
+    manager.handleFetchResult(status, error);
+  });
 }
 
 void AppDelegate::openWindow() {
@@ -55,14 +56,16 @@ void AppDelegate::openWindow() {
 }
 
 /// Introduction and consent have no pages yet: what would call for them is read, and nothing is shown.
-void AppDelegate::presentFirstRun(const PreferenceStore& userDefaults) {
-  const bool needsOnboarding = !userDefaults.value<bool>(QStringLiteral("isOnboardingFinished"), false);
-  const bool needsConsent = !userDefaults.value<bool>(QStringLiteral("isDsgvoAccepted"), false);
+void AppDelegate::presentFirstRun() {
+  const bool needsOnboarding =
+      !services_.userDefaults.value<bool>(QStringLiteral("isOnboardingFinished"), false);
+  const bool needsConsent = !services_.userDefaults.value<bool>(QStringLiteral("isDsgvoAccepted"), false);
   std::ignore = needsOnboarding || needsConsent;
 }
 
 const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewController() {
-  if (!calculateViewController_) build(calculateViewController_, engine_, "shell/CalculatePage.qml");
+  if (!calculateViewController_)
+    build(calculateViewController_, engine_, "shell/CalculatePage.qml", services_.calcManager);
   return calculateViewController_;
 }
 
@@ -72,7 +75,8 @@ const std::shared_ptr<ViewController>& AppDelegate::leftViewController() {
 }
 
 const std::shared_ptr<SolutionViewController>& AppDelegate::solutionViewController() {
-  if (!solutionViewController_) build(solutionViewController_, engine_, "solution/SolutionPage.qml");
+  if (!solutionViewController_)
+    build(solutionViewController_, engine_, "solution/SolutionPage.qml", services_.remoteConfigManager);
   return solutionViewController_;
 }
 

@@ -16,6 +16,14 @@
 
 namespace tavi {
 
+/// What the application works with.
+struct AppServices {
+  RemoteConfigService& remoteConfig = RemoteConfigService::shared();
+  RemoteConfigManager& remoteConfigManager = RemoteConfigManager::shared();
+  CalcManager& calcManager = CalcManager::shared();
+  PreferenceStore& userDefaults = PreferenceStore::standard();
+};
+
 /// Starts the application and builds its controllers, each when it is first asked for.
 ///
 /// A second one, never launched, is the way back to fresh pages: its `appToolbarController` goes to the
@@ -24,23 +32,15 @@ class AppDelegate : public QObject {
   Q_OBJECT
 
  public:
-  /// What a launch works with.
-  struct Services {
-    RemoteConfigService& remoteConfig = RemoteConfigService::shared();
-    RemoteConfigManager& remoteConfigManager = RemoteConfigManager::shared();
-    CalcManager& calcManager = CalcManager::shared();
-    PreferenceStore& userDefaults = PreferenceStore::standard();
-  };
-
-  /// The engine loads the pages and must live longer than every controller.
-  explicit AppDelegate(QQmlEngine& engine);
+  /// The engine loads the pages; it and the services must live longer than every controller.
+  explicit AppDelegate(QQmlEngine& engine, const AppServices& services = {});
   ~AppDelegate() override;
 
   /// The launch: remote records, first-start step, screen tree, window. To be called once.
-  void didFinishLaunching(const Services& services);
+  void didFinishLaunching();
 
   /// Asks for new remote values if the last ones are older than six hours.
-  static void didBecomeActive(const Services& services);
+  void didBecomeActive();
 
   QQuickWindow* window() const { return window_.get(); }
   const std::shared_ptr<AppNavigationDrawerController>& drawer() const { return drawer_; }
@@ -53,9 +53,10 @@ class AppDelegate : public QObject {
 
  private:
   void openWindow();
-  void presentFirstRun(const PreferenceStore& userDefaults);
+  void presentFirstRun();
 
   QQmlEngine& engine_;
+  AppServices services_;
   std::shared_ptr<CalculateViewController> calculateViewController_;
   std::shared_ptr<ViewController> leftViewController_;
   std::shared_ptr<SolutionViewController> solutionViewController_;

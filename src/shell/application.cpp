@@ -10,8 +10,7 @@ Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
 namespace tavi {
 
-Application::Application(int& argumentCount, char** arguments)
-    : QGuiApplication(argumentCount, arguments), delegate_(engine_) {
+Application::Application(int& argumentCount, char** arguments) : QGuiApplication(argumentCount, arguments) {
   nameApplication();
   loadTranslations();
   Appearance::shared().followSystem();
@@ -20,7 +19,8 @@ Application::Application(int& argumentCount, char** arguments)
 Application::~Application() = default;
 
 void Application::launch() {
-  delegate_.didFinishLaunching({});
+  delegate_.emplace(engine_);
+  delegate_->didFinishLaunching();
 }
 
 }  // namespace tavi

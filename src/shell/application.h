@@ -2,7 +2,7 @@
 
 #include <QGuiApplication>
 #include <QQmlEngine>
-#include <memory>
+#include <optional>
 
 #include "shell/app_delegate.h"
 
@@ -19,12 +19,13 @@ class Application : public QGuiApplication {
   /// Opens the window.
   void launch();
 
-  AppDelegate& delegate() { return delegate_; }
+  /// What runs the screens; there once the window was opened.
+  AppDelegate& delegate() { return *delegate_; }
   QQmlEngine& engine() { return engine_; }
 
  private:
   QQmlEngine engine_;
-  AppDelegate delegate_;
+  std::optional<AppDelegate> delegate_;
 };
 
 }  // namespace tavi

@@ -6,7 +6,8 @@
 
 namespace tavi {
 
-std::unique_ptr<QObject> loadPageObject(QQmlEngine& engine, const QString& page, const QVariantMap& properties) {
+std::unique_ptr<QObject> loadPageObject(QQmlEngine& engine, const QString& page,
+                                        const QVariantMap& properties) {
   QQmlComponent component(&engine, QUrl(QStringLiteral("qrc:/qt-project.org/imports/Tavi/") + page));
   std::unique_ptr<QObject> object;
   if (component.isReady()) object.reset(component.createWithInitialProperties(properties));

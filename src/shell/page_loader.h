@@ -9,7 +9,8 @@ namespace tavi {
 
 /// Makes the root object of a QML file of the module, such as "shell/AppWindow.qml", with its required
 /// properties. A file that does not load is a fatal stop.
-std::unique_ptr<QObject> loadPageObject(QQmlEngine& engine, const QString& page, const QVariantMap& properties);
+std::unique_ptr<QObject> loadPageObject(QQmlEngine& engine, const QString& page,
+                                        const QVariantMap& properties);
 
 /// The same for a root of a known class; another class is a fatal stop.
 template <typename Root>

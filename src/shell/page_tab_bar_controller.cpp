@@ -13,6 +13,11 @@ AppPageTabBarController::AppPageTabBarController(std::vector<std::shared_ptr<Vie
   for (const auto& page : viewControllers_) adopt(*page);
 }
 
+// The page reads the tabs, so it goes first.
+AppPageTabBarController::~AppPageTabBarController() {
+  setView(nullptr);
+}
+
 QList<TabItem*> AppPageTabBarController::tabItems() const {
   QList<TabItem*> items;
   for (const auto& page : viewControllers_) items.append(page->tabItem());

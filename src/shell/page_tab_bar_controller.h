@@ -16,6 +16,7 @@ class AppPageTabBarController : public ViewController {
  public:
   explicit AppPageTabBarController(std::vector<std::shared_ptr<ViewController>> viewControllers,
                                    int selectedIndex = 0);
+  ~AppPageTabBarController() override;
 
   const std::vector<std::shared_ptr<ViewController>>& viewControllers() const { return viewControllers_; }
   QList<TabItem*> tabItems() const;

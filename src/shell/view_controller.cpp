@@ -8,7 +8,6 @@
 
 #include "appearance/interface_fonts.h"
 #include "platform/localization.h"
-#include "platform/online_test.h"
 #include "shell/alert_controller.h"
 #include "shell/page_loader.h"
 
@@ -98,9 +97,9 @@ void ViewController::setUpTabItem(const QString& title, bool isEnabled) {
   tabItem_.setEnabled(isEnabled);
 }
 
-void ViewController::runWhenOnline(std::function<void()> action, std::function<void()> failureAction) {
-  OnlineTest::shared().run(this, [this, action = std::move(action),
-                                  failureAction = std::move(failureAction)](bool isOnline) {
+void ViewController::runWhenOnline(std::function<void()> action, std::function<void()> failureAction,
+                                   const OnlineTest& test) {
+  test.run(this, [this, action = std::move(action), failureAction = std::move(failureAction)](bool isOnline) {
     if (isOnline) return action();
     std::vector<AlertAction> actions;
     if (failureAction) actions.push_back({localized("OK"), failureAction});

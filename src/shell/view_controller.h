@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "platform/online_test.h"
 #include "shell/tab_item.h"
 
 namespace tavi {
@@ -82,7 +83,8 @@ class ViewController : public QObject {
 
   /// Asks the network; runs the action later when it answers at all. Otherwise says that there is no network
   /// and runs the failure action, if any, once the user has read it.
-  void runWhenOnline(std::function<void()> action, std::function<void()> failureAction = {});
+  void runWhenOnline(std::function<void()> action, std::function<void()> failureAction = {},
+                     const OnlineTest& test = OnlineTest::shared());
 
  signals:
   void presentedControllerChanged();
@@ -96,12 +98,13 @@ class ViewController : public QObject {
   /// The children that come and go together with this container.
   virtual std::vector<ViewController*> visibleChildren() const { return {}; }
 
-  /// Makes the controller a child of this one, and undoes it. Containers do both where they take and give up a
-  /// child.
+  /// Makes the controller a child of this one, and undoes it. Containers do both where they take and give up
+  /// a child.
   void adopt(ViewController& child) { child.parentController_ = this; }
   static void release(ViewController& child) { child.parentController_ = nullptr; }
 
-  /// Puts the next child in the place of the one in the slot; `show` is called when the new view may be shown.
+  /// Puts the next child in the place of the one in the slot; `show` is called when the new view may be
+  /// shown.
   void replaceChild(std::shared_ptr<ViewController>& slot, std::shared_ptr<ViewController> next,
                     const std::function<void()>& show);
 

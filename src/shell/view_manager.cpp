@@ -37,7 +37,8 @@ void ViewManager::prepareSegmentedControls(const QQuickItem& item) {
     for (const QQuickItem* segment : View::subviews(*subview)) {
       for (QQuickItem* picture : View::subviews(*segment)) {
         constexpr int preserveAspectFit = 1;  // QML: Image.PreserveAspectFit
-        if (View::of(picture)->kind() == View::Kind::Image) picture->setProperty("fillMode", preserveAspectFit);
+        if (View::of(picture)->kind() == View::Kind::Image)
+          picture->setProperty("fillMode", preserveAspectFit);
       }
     }
   }

@@ -25,8 +25,8 @@ class SolutionStepTableViewCell : public QQuickItem {
   /// A title that ends in "#bold" is shown without it and in the heavy font.
   void setStepTitle(const QString& title);
 
-  /// Shows the step's message or, without one, its formula as it is to be read; what the cell showed before is
-  /// gone.
+  /// Shows the step's message or, without one, its formula as it is to be read; what the cell showed before
+  /// is gone.
   void setStepContent(const SolutionStep& step);
 
   QString stepTitle() const { return title_; }

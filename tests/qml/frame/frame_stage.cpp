@@ -1,0 +1,87 @@
+#include "frame_stage.h"
+
+#include <QQmlContext>
+
+#include <QtQml/qqmlextensionplugin.h>
+#include <QtQuickTest/quicktest.h>
+
+#include "shell/alert_controller.h"
+#include "shell/controller_host.h"
+#include "shell/view_manager.h"
+
+Q_IMPORT_QML_PLUGIN(TaviPlugin)
+
+namespace tavi {
+
+namespace {
+
+template <typename Controller, typename... Arguments>
+std::shared_ptr<Controller> made(QQmlEngine& engine, const char* page, Arguments&&... arguments) {
+  auto controller = std::make_shared<Controller>(std::forward<Arguments>(arguments)...);
+  controller->setPage(engine, QString::fromLatin1(page));
+  return controller;
+}
+
+}  // namespace
+
+void FrameStage::open(QQuickItem* holder) {
+  chosen_.clear();
+  std::vector<std::shared_ptr<ViewController>> pages;
+  for (const char* title : {"Input", "Result"}) {
+    pages.push_back(made<ViewController>(*engine_, "shell/LeftPage.qml"));
+    pages.back()->setUpTabItem(QString::fromLatin1(title), true);
+  }
+  tabs_ = made<AppPageTabBarController>(*engine_, "shell/TabsPage.qml", std::move(pages));
+  drawer_ = made<AppNavigationDrawerController>(
+      *engine_, "shell/DrawerPage.qml", made<AppToolbarController>(*engine_, "shell/ToolbarPage.qml", tabs_),
+      made<MenuToolbarController>(*engine_, "shell/ToolbarPage.qml",
+                                  made<ViewController>(*engine_, "shell/LeftPage.qml")));
+  drawer_->beginAppearance();
+  auto host = std::make_unique<ControllerHost>(holder);
+  host->setSize(holder->size());
+  connect(holder, &QQuickItem::widthChanged, host.get(),
+          [host = host.get(), holder] { host->setSize(holder->size()); });
+  host->setController(drawer_.get());
+  host_ = std::move(host);
+  drawer_->endAppearance();
+}
+
+void FrameStage::close() {
+  host_.reset();
+  drawer_.reset();
+  tabs_.reset();
+}
+
+void FrameStage::enableTab(int index, bool isEnabled) {
+  tabs_->viewControllers()[static_cast<std::size_t>(index)]->tabItem()->setEnabled(isEnabled);
+}
+
+void FrameStage::toast(const QString& text) {
+  ViewManager::showToast(text);
+}
+
+void FrameStage::spin(bool isSpinning) {
+  if (isSpinning)
+    ViewManager::showSpinner();
+  else
+    ViewManager::hideSpinner();
+}
+
+void FrameStage::ask() {
+  tabs_->presentAlert("Sure?", "Think again.",
+                      {{"No", [this] { chosen_ = "No"; }}, {"Yes", [this] { chosen_ = "Yes"; }}},
+                      AlertStyle::alert);
+}
+
+void FrameStage::qmlEngineAvailable(QQmlEngine* engine) {
+  engine_ = engine;
+  engine->rootContext()->setContextProperty("stage", this);
+}
+
+}  // namespace tavi
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::FrameStage stage;
+  return quick_test_main_with_setup(argc, argv, "frame", TAVI_QML_TESTS, &stage);
+}

@@ -1,0 +1,156 @@
+import QtQuick
+import QtTest
+import Tavi
+
+// What a finger and a keyboard do to the frame of the application.
+Item {
+    id: root
+
+    width: 412
+    height: 800
+
+    Item {
+        id: holder
+
+        anchors.fill: parent
+    }
+    ToastLayer {
+        id: toasts
+
+        anchors.fill: parent
+    }
+    SpinnerOverlay {
+        id: spinner
+
+        anchors.fill: parent
+    }
+
+    TestCase {
+        name: "Frame"
+        when: windowShown
+
+        function init() {
+            root.width = 412;
+            stage.open(holder);
+        }
+
+        function cleanup() {
+            stage.close();
+        }
+
+        function item(name) {
+            const found = findChild(root.Window.contentItem, name);
+            verify(found, name);
+            return found;
+        }
+
+        function shown() {
+            return Array.from(toasts.children).filter(each => each.objectName === "toast");
+        }
+
+        function test_a_tab_opens_its_page_if_it_is_enabled() {
+            stage.enableTab(1, false);
+            mouseClick(item("tab1"));
+            compare(stage.selectedIndex, 0);
+            stage.enableTab(1, true);
+            mouseClick(item("tab1"));
+            compare(stage.selectedIndex, 1);
+            tryCompare(item("tabLine"), "x", 206);
+        }
+
+        function test_the_keyboard_opens_a_tab_and_shows_where_it_is() {
+            const tab = item("tab1");
+            for (let i = 0; i < 10 && !tab.activeFocus; ++i)
+                keyClick(Qt.Key_Tab);
+            verify(tab.activeFocus);
+            verify(tab.visualFocus);
+            keyClick(Qt.Key_Space);
+            compare(stage.selectedIndex, 1);
+        }
+
+        function test_touch_targets_are_large_enough() {
+            for (const name of ["menuButton", "tab0", "tab1"]) {
+                verify(item(name).width >= 48, name);
+                verify(item(name).height >= 48, name);
+            }
+        }
+
+        function test_the_menu_slides_in_and_a_tap_beside_it_closes_it() {
+            mouseClick(item("menuButton"));
+            verify(stage.isDrawerOpen);
+            const menu = item("sideMenu");
+            tryVerify(() => menu.mapToItem(root, 0, 0).x === 0);
+            compare(menu.width, 304);
+            mouseClick(root, 390, 400);
+            verify(!stage.isDrawerOpen);
+            tryVerify(() => !menu.visible);
+        }
+
+        function test_escape_closes_the_menu() {
+            mouseClick(item("menuButton"));
+            wait(300);
+            keyClick(Qt.Key_Escape);
+            verify(!stage.isDrawerOpen);
+        }
+
+        function test_in_a_wide_window_the_menu_stays_beside_the_pages() {
+            root.width = 1000;
+            mouseClick(item("menuButton"));
+            tryVerify(() => item("tab0").mapToItem(root, 0, 0).x === 304);
+            mouseClick(item("tab1"));
+            compare(stage.selectedIndex, 1);
+            verify(stage.isDrawerOpen);
+            mouseClick(item("menuButton"));
+            tryVerify(() => item("tab0").mapToItem(root, 0, 0).x === 0);
+        }
+
+        function test_an_alert_holds_the_pages_off_until_it_is_answered() {
+            stage.ask();
+            wait(50);
+            mouseClick(item("tab1"));
+            compare(stage.selectedIndex, 0);
+            keyClick(Qt.Key_Escape);
+            mouseClick(item("alertAction1"));
+            compare(stage.chosen, "Yes");
+            wait(50);
+            mouseClick(item("tab1"));
+            compare(stage.selectedIndex, 1);
+        }
+
+        function test_an_alert_can_be_answered_by_keyboard() {
+            stage.ask();
+            wait(50);
+            keyClick(Qt.Key_Space);
+            compare(stage.chosen, "No");
+        }
+
+        function test_toasts_stand_on_top_of_each_other_fade_and_go() {
+            stage.toast("First");
+            stage.toast("Second");
+            compare(shown().map(each => each.text), ["First", "Second"]);
+            compare(shown()[1].width, 0.9 * toasts.width);
+            compare(shown()[1].y, toasts.height - 120);
+            wait(2500);
+            compare(shown()[0].opacity, 1);
+            tryVerify(() => shown()[0].opacity < 1, 1500);
+            tryVerify(() => shown().length === 0, 4000);
+        }
+
+        function test_a_long_toast_is_cut_after_two_lines() {
+            stage.toast("word ".repeat(60));
+            const toast = shown()[0];
+            verify(toast.height > 40);
+            verify(toast.height < 60);
+            toast.destroy();
+        }
+
+        function test_the_spinner_holds_all_input_off() {
+            stage.spin(true);
+            verify(spinner.visible);
+            mouseClick(root, 300, 100);
+            compare(stage.selectedIndex, 0);
+            stage.spin(false);
+            verify(!spinner.visible);
+        }
+    }
+}

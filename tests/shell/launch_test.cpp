@@ -1,0 +1,79 @@
+#include <QQmlEngine>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include "shell/app_delegate.h"
+
+namespace tavi {
+namespace {
+
+/// A launch over a store of its own, with nobody to ask for remote values.
+class LaunchTest : public testing::Test {
+ protected:
+  void launch() {
+    delegate = std::make_unique<AppDelegate>(engine, services);
+    delegate->didFinishLaunching();
+  }
+
+  CalculateViewController& openCalculatePage() {
+    auto* toolbarController = qobject_cast<AppToolbarController*>(delegate->drawer()->rootController());
+    auto* tabs = qobject_cast<AppPageTabBarController*>(toolbarController->rootController());
+    return *qobject_cast<CalculateViewController*>(tabs->selectedController());
+  }
+
+  QTemporaryDir folder;
+  PreferenceStore preferences{folder.filePath("preferences.sqlite")};
+  CalcManager calcManager{preferences};
+  RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};
+  RemoteConfigManager remoteConfigManager{remoteConfig};
+  QQmlEngine engine;
+  const AppServices services{remoteConfig, remoteConfigManager, calcManager, preferences};
+  std::unique_ptr<AppDelegate> delegate;
+};
+
+TEST_F(LaunchTest, OpensTheInputPageWithTheSampleTaskInTheHistory) {
+  launch();
+  ASSERT_TRUE(delegate->window());
+  EXPECT_TRUE(delegate->window()->isVisible());
+  EXPECT_EQ(delegate->pageTabBarController()->selectedIndex(), 0);
+  EXPECT_FALSE(delegate->solutionViewController()->tabItem()->isEnabled());
+  EXPECT_EQ(calcManager.calculations().size(), 1);
+  EXPECT_EQ(delegate->appToolbarController()->toolbar()->rightViews().size(), 1);
+}
+
+TEST_F(LaunchTest, ShowsNothingOverThePagesWhateverTheFirstRunFlagsSay) {
+  for (const bool isDone : {false, true}) {
+    preferences.setValue("isOnboardingFinished", isDone);
+    preferences.setValue("isDsgvoAccepted", isDone);
+    launch();
+    EXPECT_EQ(delegate->drawer()->presentedController(), nullptr);
+    delegate.reset();
+  }
+}
+
+TEST_F(LaunchTest, BuildsEachControllerOnce) {
+  launch();
+  EXPECT_EQ(delegate->calculateViewController(), delegate->calculateViewController());
+  EXPECT_EQ(delegate->pageTabBarController()->viewControllers()[0], delegate->calculateViewController());
+  EXPECT_EQ(delegate->drawer()->rootController(), delegate->appToolbarController().get());
+}
+
+TEST_F(LaunchTest, HandsWhatWasTypedToAFreshPage) {
+  launch();
+  const std::weak_ptr<ViewController> before = delegate->calculateViewController();
+  for (DTTextField* field : openCalculatePage().allFields) field->setText(field->accessibilityIdentifier);
+  delegate->drawer()->setLeftViewOpened(true);
+
+  AppDelegate second(engine, services);
+  delegate->drawer()->transition(second.appToolbarController(),
+                                 [this] { delegate->drawer()->closeLeftView(); });
+  EXPECT_FALSE(delegate->drawer()->isLeftViewOpened());
+  EXPECT_NE(&openCalculatePage(), before.lock().get());
+  for (const DTTextField* field : openCalculatePage().allFields)
+    EXPECT_EQ(field->text(), field->accessibilityIdentifier);
+}
+
+}  // namespace
+}  // namespace tavi
