@@ -61,6 +61,8 @@ std::vector<Task> workedExamples() {
   while (!file.atEnd()) {
     const QStringList parts = QString::fromUtf8(file.readLine()).split(u'`');
     if (parts.size() != 5 || !parts.front().startsWith(u"## ")) continue;
+    const bool isTypable = parts[1].lastIndexOf(u'-') < 1 && parts[3].lastIndexOf(u'-') < 1;
+    if (!isTypable) continue;  // The keypad keeps the sign in front.
     tasks.push_back({parts.front() == u"## root " ? Mode::root : Mode::power, parts[1], parts[3]});
   }
   return tasks;

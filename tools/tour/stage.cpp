@@ -63,7 +63,9 @@ void Stage::tap(const QString& name) {
 void Stage::type(const QString& field, QStringView keys) {
   tap(field);
   for (const QChar key : keys) tap(QStringLiteral("key ") + key);
-  if (item(field).property("text").toString() != keys) throw Failure("typing into " + field.toStdString());
+  const QString text = item(field).property("text").toString();
+  if (text != keys)
+    throw Failure(QStringLiteral("typed %1 into %2, which shows %3").arg(keys, field, text).toStdString());
 }
 
 void Stage::prepare(Mode mode, QStringView first, QStringView second) {
