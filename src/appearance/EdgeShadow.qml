@@ -6,6 +6,7 @@ Item {
     id: edges
 
     required property Flickable flickable
+    property real endX: flickable.contentWidth - flickable.width // Where what it is about has come to its end.
 
     clip: true
 
@@ -23,6 +24,6 @@ Item {
     }
     Edge {
         x: edges.width - extent
-        visible: edges.flickable.contentX < edges.flickable.contentWidth - edges.flickable.width - 0.5
+        visible: edges.flickable.contentX < edges.endX - 0.5
     }
 }

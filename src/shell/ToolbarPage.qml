@@ -78,6 +78,7 @@ Item {
             text: modelData.title
             iconText: modelData.icon ? Icons[modelData.icon] : ""
             tintColor: modelData.tintColor
+            isOn: modelData.isOn
             onClicked: modelData.tap()
         }
     }

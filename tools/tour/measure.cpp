@@ -7,11 +7,13 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <utility>
 #include <vector>
 
 #include <unistd.h>
 
 #include "shell/calc_manager.h"
+#include "shell/history_table_view_cell.h"
 #include "tour/stage.h"
 
 namespace tavi::tour {
@@ -24,6 +26,8 @@ constexpr int manyRecords = 10'000;
 constexpr const char* firstFrame = "first frame, ms";
 constexpr const char* solution = "tap on calculate to frame with solution, ms";
 constexpr const char* memory = "resident with solution open, MB";
+constexpr const char* history = "opening the history to its first frame, ms";
+constexpr const char* historyRows = "rows of the history that are typeset";
 constexpr const char* adding = "adding a record, ms";
 
 using Figures = std::map<QByteArray, std::vector<double>>;
@@ -79,6 +83,24 @@ double median(std::vector<double> values) {
   return values.empty() ? 0 : values.at(values.size() / 2);
 }
 
+/// Opens the history and tells when it is on the screen.
+void measureHistory(Stage& stage) {
+  QElapsedTimer timer;
+  bool isShown = false;
+  timer.start();
+  stage.openHistory();
+  QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+    if (!std::exchange(isShown, true)) tell(history, milliseconds(timer));
+  });
+  waitUntil([&isShown] { return isShown; }, "a frame with the history");
+  const auto* content =
+      stage.item(QStringLiteral("historyTable")).property("contentItem").value<QQuickItem*>();
+  const auto rows = std::ranges::count_if(content->childItems(), [](const QQuickItem* each) {
+    return qobject_cast<const HistoryTableViewCell*>(each) != nullptr;
+  });
+  tell(historyRows, static_cast<double>(rows));
+}
+
 /// A full history, written at once.
 void fillStore() {
   PreferenceStore& store = PreferenceStore::standard();
@@ -97,7 +119,7 @@ bool measure() {
   fillStore();
   if (!runProbes(full)) return false;
   std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
-  for (const char* name : {firstFrame, solution, memory, adding})
+  for (const char* name : {firstFrame, solution, memory, history, historyRows, adding})
     std::printf("%-46s %10.1f %14.1f\n", name, median(empty[name]), median(full[name]));
   return true;
 }
@@ -120,6 +142,8 @@ int probe(int argumentCount, char** arguments) {
   waitUntil([&isShown] { return isShown; }, "a frame with the solution");
   stage.picture();
   tell(memory, residentMegabytes());
+
+  measureHistory(stage);
 
   timer.restart();
   CalcManager::shared().addCalculation(CalcManager::shared().calculation(0));
