@@ -12,6 +12,5 @@ QtObject {
     readonly property string clear: "\uf5e9"
     readonly property string trash: "\uf1c0"
     readonly property string remove: "\uf376"
-    readonly property string drag: "\uf1dc"
     readonly property string history: "\uf2da"
 }

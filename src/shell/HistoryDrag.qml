@@ -139,7 +139,7 @@ Item {
             x: parent.width - width
             anchors.verticalCenter: parent.verticalCenter
             width: Theme.touchTarget + 4
-            text: Icons.drag
+            text: Icons.menu
         }
     }
 }

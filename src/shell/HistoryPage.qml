@@ -22,16 +22,31 @@ Rectangle {
                 openRow.close();
         }
 
-        function remove(row) {
-            if (row >= 0 && page.controller.canEditRow(row))
-                page.controller.commitEditingStyle(HistoryTableViewController.Delete, row);
+        // The list takes changes in at the next frame; the next key may come before that.
+        function removeRow(row) {
+            if (row < 0 || !page.controller.canEditRow(row))
+                return;
+            page.controller.commitEditingStyle(HistoryTableViewController.Delete, row);
+            forceLayout();
         }
 
         function moveCurrent(way) {
             const to = currentIndex + way;
-            if (page.controller.isEditing && currentIndex >= 0 && to >= 0 && to < count
-                    && page.controller.canMoveRow(currentIndex))
-                page.controller.moveRow(currentIndex, to);
+            if (!page.controller.isEditing || currentIndex < 0 || to < 0 || to >= count
+                    || !page.controller.canMoveRow(currentIndex))
+                return;
+            page.controller.moveRow(currentIndex, to);
+            forceLayout();
+        }
+
+        function select() {
+            if (!page.controller.isEditing && currentIndex >= 0)
+                page.controller.didSelectRow(currentIndex);
+        }
+
+        function scrollCurrent(way) {
+            if (currentItem)
+                currentItem.scrollBy(way);
         }
 
         objectName: "historyTable"
@@ -47,6 +62,7 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("History")
         onMovementStarted: closeOpenRow()
+        onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
 
         delegate: HistoryRow {
             controller: page.controller
@@ -77,7 +93,7 @@ Rectangle {
         Keys.onReturnPressed: select()
         Keys.onEnterPressed: select()
         Keys.onSpacePressed: select()
-        Keys.onDeletePressed: remove(currentIndex)
+        Keys.onDeletePressed: removeRow(currentIndex)
         Keys.onPressed: event => {
             const page = Math.max(1, Math.floor(height / 72) - 1);
             const isMoving = event.modifiers & Qt.AltModifier;
@@ -96,16 +112,6 @@ Rectangle {
         }
         Keys.onLeftPressed: scrollCurrent(-48)
         Keys.onRightPressed: scrollCurrent(48)
-
-        function select() {
-            if (!page.controller.isEditing && currentIndex >= 0)
-                page.controller.didSelectRow(currentIndex);
-        }
-
-        function scrollCurrent(way) {
-            if (currentItem)
-                currentItem.scrollBy(way);
-        }
     }
 
     ScrollThumb {

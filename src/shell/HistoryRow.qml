@@ -50,7 +50,7 @@ HistoryTableViewCell {
 
     mathLabel: formula
     width: ListView.view.width
-    height: Math.max(72, formula.implicitHeight + 16)
+    height: Math.max(72, formula.implicitHeight + 12)
     opacity: isLifted ? 0 : 1
     Component.onCompleted: fill()
     Component.onDestruction: if (table.openRow === cell) table.openRow = null
@@ -99,6 +99,9 @@ HistoryTableViewCell {
         readonly property real editX: Theme.touchTarget + 4
         readonly property real formulaEndX: row.width - width
         readonly property real endX: contentWidth - width
+        // A formula that leaves room for the delete button does not make way for it.
+        readonly property real stay: Math.max(0, Math.min(contentX - formulaEndX,
+                                                          row.width - formula.width - 32))
 
         objectName: "historyContent"
         x: cell.isEditing ? editX : 0
@@ -160,7 +163,7 @@ HistoryTableViewCell {
                 id: formula
 
                 objectName: "formula"
-                x: 16
+                x: 16 + content.stay
                 y: (parent.height - height) / 2
                 width: implicitWidth
                 height: implicitHeight
@@ -184,7 +187,7 @@ HistoryTableViewCell {
             Accessible.role: Accessible.Button
             Accessible.name: text
             Accessible.ignored: !enabled
-            onClicked: cell.table.remove(cell.index)
+            onClicked: cell.table.removeRow(cell.index)
             background: Rectangle {
                 radius: 8
                 color: deleteButton.down ? Qt.darker(Theme.red, 1.3) : Theme.red
@@ -202,6 +205,7 @@ HistoryTableViewCell {
         objectName: "edgeShadow"
         anchors.fill: content
         flickable: content
+        startX: content.stay
         endX: content.formulaEndX
     }
 
@@ -211,7 +215,7 @@ HistoryTableViewCell {
         width: content.x
         visible: width > 0
         opacity: content.x / content.editX
-        text: Icons.drag
+        text: Icons.menu
         color: Theme.secondaryGray
     }
 

@@ -3,6 +3,7 @@
 #include <QPointer>
 #include <utility>
 
+#include "appearance/color_manager.h"
 #include "appearance/interface_colors.h"
 #include "platform/analytics.h"
 #include "platform/localization.h"
@@ -21,6 +22,7 @@ void HistoryTableViewController::viewDidLoad() {
   table_.reload(numberOfRowsInSection(0));
   editButton = makeButton("Edit", "edit", &HistoryTableViewController::handleEditButton);
   clearAllButton = makeButton("Clear History", "clear", &HistoryTableViewController::handleClearAllButton);
+  if (const QQuickItem* root = view()) ColorManager::applyStyleToSubviews(*root);
 }
 
 std::shared_ptr<ToolbarButton> HistoryTableViewController::makeButton(const char* title, const char* icon,

@@ -104,6 +104,7 @@ void Stage::openHistory() {
   const auto& drawer = delegate().drawer();
   auto* pages = qobject_cast<AppToolbarController*>(drawer->rootController());
   if (pages == nullptr) throw Failure("no pages under the drawer");
+  drawer->dismissPresented();
   pages->transition(delegate().makeHistoryTableViewController(), [&drawer] { drawer->closeLeftView(); });
 }
 

@@ -97,6 +97,7 @@ void clearHistory(Stage& stage) {
 
 void emptyHistory(Stage& stage) {
   clearHistory(stage);
+  stage.picture();  // the question has its place once it was drawn
   stage.tap(QStringLiteral("alertAction0"));
   waitUntil([&stage] { return stage.shows(QStringLiteral("historyCalculate")); }, "the history is empty");
 }
