@@ -70,7 +70,7 @@ Rectangle {
             fontSize: page.isWide ? 24 : 20
             shift: drag.shiftOf(index)
             isShiftAnimated: drag.isActive
-            isLifted: index === drag.from
+            isLifted: drag.isActive && index === drag.from
         }
 
         Rectangle {

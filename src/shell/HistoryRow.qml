@@ -147,6 +147,8 @@ HistoryTableViewCell {
             text: formula.spokenText || qsTrId("historyUntitled")
             Accessible.role: Accessible.ListItem
             Accessible.name: text
+            Accessible.focusable: true
+            Accessible.focused: ring.visible
             onClicked: {
                 if (cell.table.openRow)
                     cell.table.closeOpenRow();
@@ -220,6 +222,8 @@ HistoryTableViewCell {
     }
 
     FocusRing {
+        id: ring
+
         anchors.margins: 3
         radius: 8
         visible: cell.table.activeFocus && cell.ListView.isCurrentItem

@@ -53,11 +53,11 @@ void HistoryTableViewController::cellForRow(HistoryTableViewCell* cell, int row)
   cell->mathLabel->setLatex(store_.calculation(row).latexString);
 }
 
-bool HistoryTableViewController::canEditRow(int) const {
+bool HistoryTableViewController::canEditRow(int) {
   return true;
 }
 
-bool HistoryTableViewController::canMoveRow(int) const {
+bool HistoryTableViewController::canMoveRow(int) {
   return true;
 }
 

@@ -36,13 +36,13 @@ class HistoryTableViewController : public ViewController {
   bool isEditing() const { return isEditing_; }
 
   // What the table asks and tells. A row outside the history is a fatal stop.
-  int numberOfSectionsInTableView() const { return 1; }
+  static int numberOfSectionsInTableView() { return 1; }
   int numberOfRowsInSection(int section) const;
 
   /// Fills a cell that comes into view.
   Q_INVOKABLE void cellForRow(tavi::HistoryTableViewCell* cell, int row) const;
-  Q_INVOKABLE bool canEditRow(int row) const;
-  Q_INVOKABLE bool canMoveRow(int row) const;
+  Q_INVOKABLE static bool canEditRow(int row);
+  Q_INVOKABLE static bool canMoveRow(int row);
 
   /// Exchanges the records of the two rows; the table shows the row moved.
   Q_INVOKABLE void moveRow(int from, int to);

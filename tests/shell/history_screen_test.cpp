@@ -191,6 +191,11 @@ TEST_F(HistoryScreenTest, GoesByTheStoresOrderAfterAMove) {
 /// The history within the launched application.
 class HistoryVisitTest : public LaunchTest {
  protected:
+  void TearDown() override {
+    history.reset();
+    LaunchTest::TearDown();
+  }
+
   void visit() {
     history = delegate->makeHistoryTableViewController();
     qobject_cast<AppToolbarController*>(delegate->drawer()->rootController())->transition(history);

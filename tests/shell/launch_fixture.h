@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QCoreApplication>
 #include <QQmlEngine>
 #include <QTemporaryDir>
 #include <memory>
@@ -13,6 +14,12 @@ namespace tavi {
 /// A launch over a store of its own, with nobody to ask for remote values.
 class LaunchTest : public testing::Test {
  protected:
+  /// What a transition has replaced is released by the event loop, and must not outlive the engine.
+  void TearDown() override {
+    delegate.reset();
+    QCoreApplication::processEvents();
+  }
+
   void launch() {
     delegate = std::make_unique<AppDelegate>(engine, services);
     delegate->didFinishLaunching();
