@@ -94,4 +94,13 @@ const std::shared_ptr<AppToolbarController>& AppDelegate::appToolbarController()
   return appToolbarController_;
 }
 
+std::shared_ptr<HistoryTableViewController> AppDelegate::makeHistoryTableViewController() {
+  std::shared_ptr<HistoryTableViewController> history;
+  build(history, engine_, "shell/HistoryPage.qml", services_.calcManager,
+        [&engine = engine_, services = services_] {
+          return AppDelegate(engine, services).appToolbarController();
+        });
+  return history;
+}
+
 }  // namespace tavi

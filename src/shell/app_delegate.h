@@ -9,6 +9,7 @@
 #include "remote/remote_config_manager.h"
 #include "shell/calc_manager.h"
 #include "shell/calculate_view_controller.h"
+#include "shell/history_table_view_controller.h"
 #include "shell/navigation_drawer_controller.h"
 #include "shell/page_tab_bar_controller.h"
 #include "shell/toolbar_controller.h"
@@ -50,6 +51,9 @@ class AppDelegate : public QObject {
   const std::shared_ptr<SolutionViewController>& solutionViewController();
   const std::shared_ptr<AppPageTabBarController>& pageTabBarController();
   const std::shared_ptr<AppToolbarController>& appToolbarController();
+
+  /// A history screen for one visit.
+  std::shared_ptr<HistoryTableViewController> makeHistoryTableViewController();
 
  private:
   void openWindow();

@@ -102,6 +102,14 @@ void Stage::scrollWideLine() {
   if (line->property("contentX").toReal() <= 0) throw Failure("the wide line does not scroll");
 }
 
+void Stage::openHistory() {
+  const auto& drawer = delegate().drawer();
+  auto* pages = qobject_cast<AppToolbarController*>(drawer->rootController());
+  if (pages == nullptr) throw Failure("no pages under the drawer");
+  drawer->dismissPresented();
+  pages->transition(delegate().makeHistoryTableViewController(), [&drawer] { drawer->closeLeftView(); });
+}
+
 void waitUntil(const std::function<bool()>& isReached, const std::string& what) {
   if (!QTest::qWaitFor(isReached, static_cast<int>(patience.count()))) throw Failure("not reached: " + what);
 }
