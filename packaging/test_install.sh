@@ -15,12 +15,16 @@ if [[ ${1:-} == --inside ]]; then
   }
   as_pupil() {
     unshare --net chroot --userspec=1000:1000 "$root" \
-      env -i PATH=/usr/bin HOME=/home/pupil LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen "$@"
+      env -i PATH=/usr/bin HOME=/home/pupil XDG_RUNTIME_DIR=/home/pupil LC_ALL=C.UTF-8 \
+      QT_QPA_PLATFORM=offscreen QT_LOGGING_RULES='*.info=false' "$@"
   }
-  install_packages() { as_root apt-get install -y -qq --no-install-recommends -o Dpkg::Use-Pty=0 "$@" >/dev/null; }
+  # Nothing here outlives the test, so dpkg need not wait for the disk.
+  install_packages() {
+    as_root apt-get install -y -qq --no-install-recommends -o Dpkg::Options::=--force-unsafe-io "$@" >/dev/null
+  }
 
   cp "$kept"/*.deb "$root/var/cache/apt/archives" 2>/dev/null || true
-  install -d -o 1000 -g 1000 "$root/home/pupil"
+  install -d -m 700 -o 1000 -g 1000 "$root/home/pupil"
   cp "$kept"/../tavi_*.deb "$root/home/tavi.deb"
   install_packages /home/tavi.deb
 
@@ -57,9 +61,9 @@ if [[ ! $(find "$bare" -mtime -7 2>/dev/null) ]]; then
   rm -rf "$kept" && mkdir -p "$kept"
   # shellcheck disable=SC2016  # apt's own placeholders
   apt-get indextargets --format 'deb $(REPO_URI) $(RELEASE) $(COMPONENT)' 'Created-By: Packages' 'Origin: Debian' |
-    mmdebstrap --quiet --variant=apt --skip=cleanup bookworm "$bare" - ||
+    mmdebstrap --quiet --variant=apt --skip=cleanup --dpkgopt=force-unsafe-io bookworm "$bare" - ||
     { echo "Skipped: no bare system without rights or mirrors" && exit 77; }
 fi
 mmdebstrap --quiet --variant=custom --skip=update,cleanup --format=null \
   --setup-hook="mmtarfilter '--path-exclude=/dev/*' <'$bare' | tar -x -C \"\$1\"" \
-  --customize-hook="'$script' --inside '$build' '$kept'" '' /dev/null
+  --customize-hook="'$script' --inside '$build' '$kept' \"\$1\"" '' /dev/null
