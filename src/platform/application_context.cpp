@@ -1,21 +1,29 @@
 #include "platform/application_context.h"
 
-#include <QCoreApplication>
+#include <QGuiApplication>
 #include <QLocale>
 
 namespace tavi {
+
+namespace {
+
+// Also the name of the desktop file and of the icon that packaging/ installs.
+constexpr QLatin1StringView ownIdentifier("org.example.tavi.powers");
+
+}  // namespace
 
 ApplicationContext ApplicationContext::current() {
   // The languages the user asked for, as the translations see them; the locale's name only tells the
   // region's.
   const QString language = QLocale().uiLanguages().value(0).section('-', 0, 0);
-  return {.identifier = QStringLiteral("org.example.tavi.powers"),
+  return {.identifier = QString(ownIdentifier),
           .languageCode = language == u"C" || language.isEmpty() ? std::nullopt : std::optional(language)};
 }
 
 void nameApplication() {
   QCoreApplication::setOrganizationDomain(QStringLiteral("tavi.example.org"));
   QCoreApplication::setApplicationName(QStringLiteral("tavi"));
+  QGuiApplication::setDesktopFileName(ownIdentifier);
 }
 
 }  // namespace tavi

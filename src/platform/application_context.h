@@ -14,8 +14,8 @@ struct ApplicationContext {
   static ApplicationContext current();
 };
 
-/// Gives Qt the names from which it derives the user's data directory. To be called before anything is
-/// stored.
+/// Gives Qt the names from which it derives the user's data directory and by which a desktop finds the
+/// application's entry and icon. To be called before anything is stored or shown.
 void nameApplication();
 
 }  // namespace tavi

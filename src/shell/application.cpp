@@ -1,5 +1,7 @@
 #include "shell/application.h"
 
+#include <QIcon>
+
 #include <QtQml/qqmlextensionplugin.h>
 
 #include "appearance/appearance.h"
@@ -12,6 +14,7 @@ namespace tavi {
 
 Application::Application(int& argumentCount, char** arguments) : QGuiApplication(argumentCount, arguments) {
   nameApplication();
+  setWindowIcon(QIcon::fromTheme(desktopFileName()));
   loadTranslations();
   Appearance::shared().followSystem();
 }
