@@ -22,14 +22,18 @@ qt_add_qml_module(tavi_app
     platform/localization.cpp platform/localization.h
     shell/alert_controller.cpp shell/alert_controller.h
     shell/app_delegate.cpp shell/app_delegate.h
+    shell/app_services.h
     shell/calculate_action.cpp
     shell/calculate_view_controller.cpp shell/calculate_view_controller.h
     shell/controller_host.cpp shell/controller_host.h
     shell/dt_text_field.cpp shell/dt_text_field.h
+    shell/left_view_controller.cpp shell/left_view_controller.h
+    shell/menu_table.cpp shell/menu_table.h
     shell/navigation_drawer_controller.cpp shell/navigation_drawer_controller.h
     shell/page_loader.cpp shell/page_loader.h
     shell/page_tab_bar_controller.cpp shell/page_tab_bar_controller.h
     shell/radical_item.cpp shell/radical_item.h
+    shell/sheet_controller.h
     shell/tab_item.cpp shell/tab_item.h
     shell/toolbar.cpp shell/toolbar.h
     shell/toolbar_controller.cpp shell/toolbar_controller.h
@@ -57,6 +61,7 @@ qt_add_qml_module(tavi_app
     shell/Keypad.qml
     shell/LeftPage.qml
     shell/SegmentedControl.qml
+    shell/SheetPage.qml
     shell/SpinnerOverlay.qml
     shell/TabsPage.qml
     shell/ToastLayer.qml

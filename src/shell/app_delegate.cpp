@@ -44,6 +44,7 @@ void AppDelegate::didBecomeActive() {
                                            FetchStatus status, const std::optional<QString>& error) {
     manager.handleFetchResult(status, error);
   });
+  services_.notifications.post(applicationDidBecomeActive);
 }
 
 void AppDelegate::openWindow() {
@@ -69,8 +70,13 @@ const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewContro
   return calculateViewController_;
 }
 
-const std::shared_ptr<ViewController>& AppDelegate::leftViewController() {
-  if (!leftViewController_) build(leftViewController_, engine_, "shell/LeftPage.qml");
+const std::shared_ptr<LeftViewController>& AppDelegate::leftViewController() {
+  if (!leftViewController_) {
+    LeftViewController::Screens screens{
+        .makeRoot = [this] { return AppDelegate(engine_, services_).appToolbarController(); },
+        .makeHistory = [] { return std::make_shared<ViewController>(); }};
+    build(leftViewController_, engine_, "shell/LeftPage.qml", std::move(screens), services_);
+  }
   return leftViewController_;
 }
 

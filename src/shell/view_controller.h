@@ -69,6 +69,9 @@ class ViewController : public QObject {
   /// Takes away what this controller has presented, if anything.
   void dismissPresented();
 
+  /// Takes this controller away again if something has presented it.
+  Q_INVOKABLE void dismiss();
+
   /// What is shown over this controller, or none.
   ViewController* presentedController() const { return presented_.get(); }
 
@@ -123,8 +126,6 @@ class ViewController : public QObject {
   ViewController* presenter_ = nullptr;
   std::shared_ptr<ViewController> presented_;
   TabItem tabItem_;
-
-  friend class AlertController;
 };
 
 /// A page with a strip for a banner at its foot. Nothing fills the strip yet.

@@ -56,8 +56,17 @@ void wideLine(Stage& stage) {
 
 void openDrawer(Stage& stage) {
   stage.waitForToastsToGo();
+  if (stage.delegate().drawer()->isLeftViewOpened()) return;
   stage.tap(QStringLiteral("menuButton"));
   waitUntil([&stage] { return stage.shows(QStringLiteral("sideMenu")); }, "the drawer is open");
+  stage.item(QStringLiteral("menuRow 3 0"));
+}
+
+void introduction(Stage& stage) {
+  openDrawer(stage);
+  stage.picture();
+  stage.tap(QStringLiteral("menuRow 0 2"));
+  waitUntil([&stage] { return stage.shows(QStringLiteral("sheet")); }, "the introduction is open");
 }
 
 void typing(Stage& stage) {
@@ -75,13 +84,17 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"05-missing-value", missingValue},
                                                  {"06-no-solution", noSolution},
                                                  {"07-wide-line", wideLine},
-                                                 {"08-open-drawer", openDrawer}});
+                                                 {"08-open-drawer", openDrawer},
+                                                 {"16-introduction", introduction}});
 constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"10-dark-solution", power},
                                                 {"11-dark-missing-value", missingValue},
-                                                {"12-dark-drawer", openDrawer}});
-constexpr auto tabletSteps = std::to_array<Step>(
-    {{"13-tablet-input", typing}, {"14-tablet-solution", manySteps}, {"15-tablet-drawer", openDrawer}});
+                                                {"12-dark-drawer", openDrawer},
+                                                {"17-dark-introduction", introduction}});
+constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
+                                                  {"14-tablet-solution", manySteps},
+                                                  {"15-tablet-drawer", openDrawer},
+                                                  {"18-tablet-introduction", introduction}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps}});
