@@ -13,6 +13,7 @@ qt_add_qml_module(tavi_app
   SOURCES
     appearance/appearance.cpp appearance/appearance.h
     appearance/color_manager.cpp appearance/color_manager.h
+    appearance/contrast.cpp appearance/contrast.h
     appearance/interface_colors.cpp appearance/interface_colors.h
     appearance/interface_fonts.cpp appearance/interface_fonts.h
     appearance/shadow_item.cpp appearance/shadow_item.h

@@ -3,6 +3,7 @@ add_executable(tavi_app_tests
   lsan_suppressions.cpp
   calculate_main.cpp
   appearance/color_manager_test.cpp
+  appearance/contrast_test.cpp
   platform/localization_test.cpp
   platform/test_support.cpp
   shell/launch_test.cpp

@@ -51,7 +51,7 @@ T.Button {
     contentItem: Text {
         text: control.iconText || control.text
         font: control.iconText ? Theme.icons(24) : control.font
-        color: control.iconText ? control.iconColor : control.View.titleColor
+        color: Theme.legible(control.iconText ? control.iconColor : control.View.titleColor, control.groundColor)
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight

@@ -1,6 +1,7 @@
 #include "appearance/theme.h"
 
 #include "appearance/appearance.h"
+#include "appearance/contrast.h"
 #include "appearance/interface_colors.h"
 #include "appearance/interface_fonts.h"
 
@@ -54,6 +55,10 @@ LayerShadow Theme::edgeShadow() const {
 
 QColor Theme::darkTitle() const {
   return InterfaceColor::darkTitle();
+}
+
+QColor Theme::legible(const QColor& text, const QColor& ground) const {
+  return tavi::legible(text, ground);
 }
 
 QFont Theme::book(int size) const {

@@ -58,6 +58,9 @@ class Theme : public QObject {
   /// Smallest side of what a finger taps.
   int touchTarget() const { return 48; }
 
+  /// The text's colour, changed as little as it takes to be read on the ground.
+  Q_INVOKABLE QColor legible(const QColor& text, const QColor& ground) const;
+
   Q_INVOKABLE QFont book(int size) const;
   Q_INVOKABLE QFont medium(int size) const;
   Q_INVOKABLE QFont heavy(int size) const;

@@ -64,8 +64,6 @@ Item {
             height: keypad.keyHeight
             text: modelData.glyph ?? modelData.title ?? modelData.name
             iconText: Icons[keypad.controller[modelData.icon]] ?? ""
-            // Dark on pink is too weak once the pink is dimmed.
-            iconColor: Theme.isDark && modelData.tag === keypad.calculateTag ? Theme.label : View.tintColor
             enabled: modelData.title !== "-" || keypad.controller.isMinusKeyEnabled
             focusPolicy: Qt.NoFocus
             autoRepeat: modelData.repeats ?? false

@@ -43,7 +43,7 @@ Rectangle {
                     contentItem: Text {
                         text: tab.modelData.title
                         font: tab.modelData.font
-                        color: tab.modelData.titleColor
+                        color: Theme.legible(tab.modelData.titleColor, bar.color)
                         horizontalAlignment: Text.AlignHCenter
                         verticalAlignment: Text.AlignVCenter
                         elide: Text.ElideRight

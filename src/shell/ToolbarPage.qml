@@ -47,7 +47,7 @@ Item {
                 anchors.verticalCenter: parent.verticalCenter
                 text: page.toolbar.title
                 font: page.toolbar.titleFont
-                color: page.toolbar.titleColor
+                color: Theme.legible(page.toolbar.titleColor, bar.color)
                 elide: Text.ElideRight
                 fontSizeMode: page.toolbar.shrinksTitle ? Text.HorizontalFit : Text.FixedSize
                 minimumPixelSize: 12
@@ -77,7 +77,7 @@ Item {
             objectName: modelData.accessibilityIdentifier
             text: modelData.title
             iconText: modelData.icon ? Icons[modelData.icon] : ""
-            tintColor: modelData.tintColor
+            tintColor: Theme.legible(modelData.tintColor, bar.color)
             onClicked: modelData.tap()
         }
     }

@@ -63,7 +63,6 @@ void MenuToolbarController::viewDidLoad() {
   Toolbar::Style style = toolbar()->style();
   style.topInset = 57;
   style.backgroundColor = KeypadPalette::shared().darkGold;
-  style.titleColor = InterfaceColor::label();  // the dimmed gold is too dark for a dark title
   style.shrinksTitle = true;
   style.height = 90;
   toolbar()->setStyle(style);

@@ -124,7 +124,8 @@ void ViewController::replaceChild(std::shared_ptr<ViewController>& slot, std::sh
 }
 
 void ViewController::releaseLater(std::shared_ptr<ViewController> controller) {
-  QTimer::singleShot(0, qGuiApp, [kept = std::move(controller)] {});
+  leaving_.push_back(std::move(controller));
+  QTimer::singleShot(0, this, [this] { std::exchange(leaving_, {}).clear(); });
 }
 
 double bottomSafeAreaInset() {

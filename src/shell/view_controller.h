@@ -112,7 +112,7 @@ class ViewController : public QObject {
                     const std::function<void()>& show);
 
   /// Gives the controller up once what runs now is done: its own items may be in the middle of a tap.
-  static void releaseLater(std::shared_ptr<ViewController> controller);
+  void releaseLater(std::shared_ptr<ViewController> controller);
 
  private:
   void load();
@@ -125,6 +125,7 @@ class ViewController : public QObject {
   ViewController* parentController_ = nullptr;
   ViewController* presenter_ = nullptr;
   std::shared_ptr<ViewController> presented_;
+  std::vector<std::shared_ptr<ViewController>> leaving_;
   TabItem tabItem_;
 };
 

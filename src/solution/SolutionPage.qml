@@ -81,7 +81,6 @@ Rectangle {
         visible: !page.controller.isShareButtonHidden
         text: qsTrId("shareButton")
         iconText: Icons.share
-        iconColor: Theme.isDark ? Theme.label : View.tintColor // Dark on the dimmed pink is too weak.
         onClicked: page.controller.tappedShareButton()
     }
     FloatingButton {

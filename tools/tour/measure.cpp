@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cstdio>
 #include <map>
+#include <optional>
 #include <vector>
 
 #include <unistd.h>
@@ -22,7 +23,9 @@ constexpr int runs = 5;
 constexpr int manyRecords = 10'000;
 
 constexpr const char* firstFrame = "first frame, ms";
-constexpr const char* solution = "tap on calculate to frame with solution, ms";
+constexpr const char* solution = "tap to frame with solution, ms";
+constexpr const char* slowestSolution = "the same, slowest worked example, ms";
+constexpr const char* longSolution = "the same, 1,000 copies, ms";
 constexpr const char* memory = "resident with solution open, MB";
 constexpr const char* adding = "adding a record, ms";
 
@@ -42,6 +45,40 @@ double residentMegabytes() {
   if (!file.open(QIODevice::ReadOnly)) return 0;
   const double pages = file.readAll().split(' ').value(1).toDouble();
   return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+}
+
+struct Task {
+  Mode mode;
+  QString first;   ///< Exponent or index.
+  QString second;  ///< Base or radicand.
+};
+
+/// The tasks of the worked examples, which stand in headings such as "## power `2/3` `8`".
+std::vector<Task> workedExamples() {
+  QFile file(QStringLiteral(TAVI_WORKED_EXAMPLES));
+  if (!file.open(QIODevice::ReadOnly)) throw Failure("cannot read " TAVI_WORKED_EXAMPLES);
+  std::vector<Task> tasks;
+  while (!file.atEnd()) {
+    const QStringList parts = QString::fromUtf8(file.readLine()).split(u'`');
+    if (parts.size() != 5 || !parts.front().startsWith(u"## ")) continue;
+    tasks.push_back({parts.front() == u"## root " ? Mode::root : Mode::power, parts[1], parts[3]});
+  }
+  return tasks;
+}
+
+/// Milliseconds from the tap on calculate to the first frame with the solution.
+double timeToSolution(Stage& stage, const Task& task) {
+  stage.prepare(task.mode, task.first, task.second);
+  QElapsedTimer timer;
+  std::optional<double> time;
+  const auto connection = QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+    if (!time && stage.delegate().pageTabBarController()->selectedIndex() == 1) time = milliseconds(timer);
+  });
+  timer.start();
+  stage.tap(QStringLiteral("key Calculate"));
+  waitUntil([&time] { return time.has_value(); }, "a frame with the solution");
+  QObject::disconnect(connection);
+  return *time;
 }
 
 /// One process start; the first frame counts from before the process exists.
@@ -97,7 +134,7 @@ bool measure() {
   fillStore();
   if (!runProbes(full)) return false;
   std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
-  for (const char* name : {firstFrame, solution, memory, adding})
+  for (const char* name : {firstFrame, solution, slowestSolution, longSolution, memory, adding})
     std::printf("%-46s %10.1f %14.1f\n", name, median(empty[name]), median(full[name]));
   return true;
 }
@@ -107,21 +144,17 @@ int probe(int argumentCount, char** arguments) {
   Stage stage(application);
   tell(firstFrame, 0);
 
-  stage.prepare(Mode::power, u"-2", u"3/2");
-  QElapsedTimer timer;
-  bool isShown = false;
-  QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
-    if (isShown || stage.delegate().pageTabBarController()->selectedIndex() != 1) return;
-    isShown = true;
-    tell(solution, milliseconds(timer));
-  });
-  timer.start();
-  stage.tap(QStringLiteral("key Calculate"));
-  waitUntil([&isShown] { return isShown; }, "a frame with the solution");
+  tell(solution, timeToSolution(stage, {Mode::power, "-2", "3/2"}));
   stage.picture();
   tell(memory, residentMegabytes());
 
-  timer.restart();
+  double slowest = 0;
+  for (const Task& task : workedExamples()) slowest = std::max(slowest, timeToSolution(stage, task));
+  tell(slowestSolution, slowest);
+  tell(longSolution, timeToSolution(stage, {Mode::power, "1000", "2"}));
+
+  QElapsedTimer timer;
+  timer.start();
   CalcManager::shared().addCalculation(CalcManager::shared().calculation(0));
   tell(adding, milliseconds(timer));
   return 0;
