@@ -28,6 +28,8 @@ qt_add_qml_module(tavi_app
     shell/calculate_view_controller.cpp shell/calculate_view_controller.h
     shell/controller_host.cpp shell/controller_host.h
     shell/dt_text_field.cpp shell/dt_text_field.h
+    shell/history_table_view_cell.cpp shell/history_table_view_cell.h
+    shell/history_table_view_controller.cpp shell/history_table_view_controller.h
     shell/left_view_controller.cpp shell/left_view_controller.h
     shell/menu_table.cpp shell/menu_table.h
     shell/navigation_drawer_controller.cpp shell/navigation_drawer_controller.h
@@ -36,13 +38,13 @@ qt_add_qml_module(tavi_app
     shell/radical_item.cpp shell/radical_item.h
     shell/sheet_controller.h
     shell/tab_item.cpp shell/tab_item.h
+    shell/table_rows.cpp shell/table_rows.h
     shell/toolbar.cpp shell/toolbar.h
     shell/toolbar_controller.cpp shell/toolbar_controller.h
     shell/view_controller.cpp shell/view_controller.h
     shell/view_manager.cpp shell/view_manager.h
     solution/math_label_type.h
     solution/solution_step_cell.cpp solution/solution_step_cell.h
-    solution/solution_table.h
     solution/solution_view_controller.cpp solution/solution_view_controller.h
     solution/step_records.cpp solution/step_records.h
   QML_FILES
@@ -59,6 +61,9 @@ qt_add_qml_module(tavi_app
     shell/CalculatePage.qml
     shell/DTTextField.qml
     shell/DrawerPage.qml
+    shell/HistoryDrag.qml
+    shell/HistoryPage.qml
+    shell/HistoryRow.qml
     shell/Keypad.qml
     shell/LeftPage.qml
     shell/SegmentedControl.qml

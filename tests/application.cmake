@@ -6,6 +6,7 @@ add_executable(tavi_app_tests
   appearance/contrast_test.cpp
   platform/localization_test.cpp
   platform/test_support.cpp
+  shell/history_screen_test.cpp
   shell/launch_test.cpp
   shell/navigation_test.cpp
   shell/side_menu_test.cpp
@@ -24,3 +25,13 @@ target_compile_definitions(tavi_frame_qml_tests PRIVATE TAVI_QML_TESTS="${CMAKE_
 target_link_libraries(tavi_frame_qml_tests PRIVATE tavi_options tavi_app tavi_appplugin Qt6::QuickTest)
 add_test(NAME tavi_frame_qml_tests COMMAND tavi_frame_qml_tests)
 set_tests_properties(tavi_frame_qml_tests PROPERTIES TIMEOUT 120)
+
+add_executable(tavi_history_qml_tests
+  lsan_suppressions.cpp
+  qml/history/history_stage.cpp qml/history/history_stage.h)
+set_target_properties(tavi_history_qml_tests PROPERTIES AUTOMOC ON)
+target_compile_definitions(tavi_history_qml_tests PRIVATE
+  TAVI_QML_TESTS="${CMAKE_CURRENT_SOURCE_DIR}/qml/history")
+target_link_libraries(tavi_history_qml_tests PRIVATE tavi_options tavi_app tavi_appplugin Qt6::QuickTest)
+add_test(NAME tavi_history_qml_tests COMMAND tavi_history_qml_tests)
+set_tests_properties(tavi_history_qml_tests PROPERTIES TIMEOUT 120)

@@ -119,6 +119,30 @@
         <source>Are you sure to delete your whole history?</source>
         <translation>Möchtest du wirklich den ganzen Verlauf löschen?</translation>
     </message>
+    <message id="Edit">
+        <source>Edit</source>
+        <translation>Bearbeiten</translation>
+    </message>
+    <message id="historyDelete">
+        <source>historyDelete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message id="historyMove">
+        <source>historyMove</source>
+        <translation>Verschieben</translation>
+    </message>
+    <message id="historyEmpty">
+        <source>historyEmpty</source>
+        <translation>Noch nichts da. Alles, was du rechnest, steht später hier, und du kannst es wieder öffnen.</translation>
+    </message>
+    <message id="historyCalculate">
+        <source>historyCalculate</source>
+        <translation>Etwas berechnen</translation>
+    </message>
+    <message id="historyUntitled">
+        <source>historyUntitled</source>
+        <translation>Aufgabe ohne Formel</translation>
+    </message>
     <message id="Assistance">
         <source>Assistance</source>
         <translation>Hilfe</translation>

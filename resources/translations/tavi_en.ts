@@ -119,6 +119,30 @@
         <source>Are you sure to delete your whole history?</source>
         <translation>Are you sure you want to delete your whole history?</translation>
     </message>
+    <message id="Edit">
+        <source>Edit</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="historyDelete">
+        <source>historyDelete</source>
+        <translation>Delete</translation>
+    </message>
+    <message id="historyMove">
+        <source>historyMove</source>
+        <translation>Move</translation>
+    </message>
+    <message id="historyEmpty">
+        <source>historyEmpty</source>
+        <translation>Nothing here yet. Everything you calculate is kept here, so that you can come back to it.</translation>
+    </message>
+    <message id="historyCalculate">
+        <source>historyCalculate</source>
+        <translation>Calculate something</translation>
+    </message>
+    <message id="historyUntitled">
+        <source>historyUntitled</source>
+        <translation>Calculation without a formula</translation>
+    </message>
     <message id="Assistance">
         <source>Assistance</source>
         <translation>Help</translation>

@@ -6,6 +6,8 @@ Item {
     id: edges
 
     required property Flickable flickable
+    property real startX: 0 // Where what it is about begins.
+    property real endX: flickable.contentWidth - flickable.width // Where what it is about has come to its end.
 
     clip: true
 
@@ -19,10 +21,10 @@ Item {
 
     Edge {
         x: -extent - 4
-        visible: edges.flickable.contentX > 0.5
+        visible: edges.flickable.contentX > edges.startX + 0.5
     }
     Edge {
         x: edges.width - extent
-        visible: edges.flickable.contentX < edges.flickable.contentWidth - edges.flickable.width - 0.5
+        visible: edges.flickable.contentX < edges.endX - 0.5
     }
 }

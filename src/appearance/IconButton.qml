@@ -8,6 +8,7 @@ T.AbstractButton {
 
     property string iconText
     property color tintColor: View.tintColor
+    property bool isOn: false
 
     View.kind: View.IconButton
 
@@ -19,6 +20,8 @@ T.AbstractButton {
     font: Theme.medium(14)
     Accessible.role: Accessible.Button
     Accessible.name: text
+    Accessible.checkable: isOn
+    Accessible.checked: isOn
 
     // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
     HoverHandler {
@@ -30,7 +33,7 @@ T.AbstractButton {
     background: Rectangle {
         radius: height / 2
         color: control.tintColor
-        opacity: control.down ? 0.2 : pointer.hovered ? 0.08 : 0
+        opacity: control.down ? 0.2 : control.isOn ? 0.14 : pointer.hovered ? 0.08 : 0
     }
     contentItem: Text {
         text: control.iconText || control.text

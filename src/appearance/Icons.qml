@@ -8,4 +8,9 @@ QtObject {
     readonly property string arrowBack: "\uf06e"
     readonly property string share: "\uf497"
     readonly property string manual: "\uf625"
+    readonly property string edit: "\uf3eb"
+    readonly property string clear: "\uf5e9"
+    readonly property string trash: "\uf1c0"
+    readonly property string remove: "\uf376"
+    readonly property string history: "\uf2da"
 }

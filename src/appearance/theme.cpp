@@ -45,6 +45,10 @@ QColor Theme::focus() const {
   return isDark() ? QColor::fromRgb(0x64b5f6) : QColor::fromRgb(0x1565c0);
 }
 
+QColor Theme::red() const {
+  return InterfaceColor::red();
+}
+
 QColor Theme::accentText() const {
   return isDark() ? QColor::fromRgb(0xff80ab) : QColor::fromRgb(0xc2185b);
 }

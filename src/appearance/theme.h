@@ -22,6 +22,7 @@ class Theme : public QObject {
   Q_PROPERTY(QColor page READ page NOTIFY appearanceChanged)
   Q_PROPERTY(QColor hairline READ hairline NOTIFY appearanceChanged)
   Q_PROPERTY(QColor focus READ focus NOTIFY appearanceChanged)
+  Q_PROPERTY(QColor red READ red NOTIFY appearanceChanged)
   Q_PROPERTY(QColor accentText READ accentText NOTIFY appearanceChanged)
   Q_PROPERTY(tavi::LayerShadow edgeShadow READ edgeShadow NOTIFY appearanceChanged)
   Q_PROPERTY(QColor darkTitle READ darkTitle CONSTANT)
@@ -44,6 +45,7 @@ class Theme : public QObject {
   QColor page() const;
   QColor hairline() const;         ///< Thin separating lines.
   QColor focus() const;            ///< The ring around what the keyboard acts on.
+  QColor red() const;              ///< What deletes.
   QColor accentText() const;       ///< Pink as it can be read as text on the background.
   LayerShadow edgeShadow() const;  ///< Where a view that scrolls sideways goes on.
   QColor darkTitle() const;

@@ -36,6 +36,7 @@ Item {
             spacing: 12
             Accessible.role: Accessible.Dialog
             Accessible.name: page.controller.title
+            Keys.onEscapePressed: page.controller.cancel()
 
             Text {
                 width: parent.width

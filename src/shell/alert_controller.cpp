@@ -1,5 +1,6 @@
 #include "shell/alert_controller.h"
 
+#include <algorithm>
 #include <utility>
 
 #include "number/fatal_stop.h"
@@ -24,6 +25,11 @@ void AlertController::choose(int index) {
   const auto handler = actions_[static_cast<std::size_t>(index)].handler;
   dismiss();
   if (handler) handler();
+}
+
+void AlertController::cancel() {
+  const auto found = std::ranges::find(actions_, AlertActionStyle::cancel, &AlertAction::style);
+  if (found != actions_.end()) choose(static_cast<int>(found - actions_.begin()));
 }
 
 }  // namespace tavi

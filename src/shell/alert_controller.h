@@ -12,9 +12,13 @@ namespace tavi {
 
 enum class AlertStyle { actionSheet = 0, alert = 1 };
 
+/// Escape answers with the action of style cancel, if there is one.
+enum class AlertActionStyle { normal = 0, cancel = 1 };
+
 struct AlertAction {
   QString title;
   std::function<void()> handler = {};
+  AlertActionStyle style = AlertActionStyle::normal;
 };
 
 /// A short question or message over a screen, with a button per action. A tap on one ends the alert and then
@@ -39,6 +43,9 @@ class AlertController : public ViewController {
 
   /// The tap on the button of the action; an index outside the actions is a fatal stop.
   Q_INVOKABLE void choose(int index);
+
+  /// The answer that changes nothing; without a cancelling action the alert stays.
+  Q_INVOKABLE void cancel();
 
  private:
   std::optional<QString> title_;

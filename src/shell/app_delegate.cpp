@@ -72,9 +72,8 @@ const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewContro
 
 const std::shared_ptr<LeftViewController>& AppDelegate::leftViewController() {
   if (!leftViewController_) {
-    LeftViewController::Screens screens{
-        .makeRoot = [this] { return AppDelegate(engine_, services_).appToolbarController(); },
-        .makeHistory = [] { return std::make_shared<ViewController>(); }};
+    LeftViewController::Screens screens{.makeRoot = rootFactory(),
+                                        .makeHistory = [this] { return makeHistoryTableViewController(); }};
     build(leftViewController_, engine_, "shell/LeftPage.qml", std::move(screens), services_);
   }
   return leftViewController_;
@@ -98,6 +97,18 @@ const std::shared_ptr<AppToolbarController>& AppDelegate::appToolbarController()
   if (!appToolbarController_)
     build(appToolbarController_, engine_, "shell/ToolbarPage.qml", pageTabBarController());
   return appToolbarController_;
+}
+
+std::shared_ptr<HistoryTableViewController> AppDelegate::makeHistoryTableViewController() {
+  std::shared_ptr<HistoryTableViewController> history;
+  build(history, engine_, "shell/HistoryPage.qml", services_.calcManager, rootFactory());
+  return history;
+}
+
+std::function<std::shared_ptr<ViewController>()> AppDelegate::rootFactory() const {
+  return [&engine = engine_, services = services_] {
+    return AppDelegate(engine, services).appToolbarController();
+  };
 }
 
 }  // namespace tavi

@@ -2,10 +2,12 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <functional>
 #include <memory>
 
 #include "shell/app_services.h"
 #include "shell/calculate_view_controller.h"
+#include "shell/history_table_view_controller.h"
 #include "shell/left_view_controller.h"
 #include "shell/navigation_drawer_controller.h"
 #include "shell/page_tab_bar_controller.h"
@@ -44,7 +46,12 @@ class AppDelegate : public QObject {
   const std::shared_ptr<AppPageTabBarController>& pageTabBarController();
   const std::shared_ptr<AppToolbarController>& appToolbarController();
 
+  /// A history screen for one visit.
+  std::shared_ptr<HistoryTableViewController> makeHistoryTableViewController();
+
  private:
+  /// What makes fresh pages under their toolbar.
+  std::function<std::shared_ptr<ViewController>()> rootFactory() const;
   void openWindow();
   void presentFirstRun();
 

@@ -6,6 +6,10 @@
 
 namespace tavi {
 
+void ToolbarButton::setOn(bool isOn) {
+  if (std::exchange(isOn_, isOn) != isOn) emit isOnChanged();
+}
+
 void Toolbar::setTitle(const QString& title) {
   if (title_ == title) return;
   title_ = title;

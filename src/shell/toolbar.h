@@ -22,6 +22,7 @@ class ToolbarButton : public QObject {
   Q_PROPERTY(QString accessibleName READ accessibleName CONSTANT)
   Q_PROPERTY(QString accessibilityIdentifier MEMBER accessibilityIdentifier CONSTANT)
   Q_PROPERTY(QColor tintColor MEMBER tintColor CONSTANT)
+  Q_PROPERTY(bool isOn READ isOn NOTIFY isOnChanged)
 
  public:
   QString title;                    ///< Shown when there is no icon, and read out otherwise.
@@ -31,9 +32,20 @@ class ToolbarButton : public QObject {
   std::function<void()> action;
 
   QString accessibleName() const { return title; }
+
+  /// Whether what the button switches is on.
+  bool isOn() const { return isOn_; }
+  void setOn(bool isOn);
+
   Q_INVOKABLE void tap() {
     if (action) action();
   }
+
+ signals:
+  void isOnChanged();
+
+ private:
+  bool isOn_ = false;
 };
 
 /// What the bar over a screen shows.

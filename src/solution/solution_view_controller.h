@@ -7,9 +7,9 @@
 #include "output/string_output.h"
 #include "platform/notification_center.h"
 #include "remote/remote_config_manager.h"
+#include "shell/table_rows.h"
 #include "shell/view_controller.h"
 #include "solution/solution_step_cell.h"
-#include "solution/solution_table.h"
 
 namespace tavi {
 
@@ -49,7 +49,7 @@ class SolutionViewController : public AdHandlingViewController {
   const SolutionSteps& solutionSteps() const { return solutionSteps_; }
   const QStringList& videoUrlStrings() const { return videoUrlStrings_; }
 
-  SolutionTable* table() { return &table_; }
+  TableRows* table() { return &table_; }
   double heightForRow(int row) const;
   bool isShareButtonHidden() const { return isShareButtonHidden_; }
   bool isManualButtonHidden() const { return isManualButtonHidden_; }
@@ -85,7 +85,7 @@ class SolutionViewController : public AdHandlingViewController {
   std::optional<RowHeights> configuredRowHeight_;
   double rowHeight_ = 0;
 
-  SolutionTable table_;
+  TableRows table_;
   bool isShareButtonHidden_ = true;
   bool isManualButtonHidden_ = true;
   bool hasFooter_ = false;

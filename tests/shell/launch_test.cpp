@@ -1,43 +1,7 @@
-#include <QQmlEngine>
-#include <QTemporaryDir>
-#include <QTest>
-
-#include <gtest/gtest.h>
-
-#include "shell/app_delegate.h"
+#include "shell/launch_fixture.h"
 
 namespace tavi {
 namespace {
-
-/// A launch over a store of its own, with nobody to ask for remote values.
-class LaunchTest : public testing::Test {
- protected:
-  // Replaced pages are let go of a turn later, and the engine must still be there then.
-  void TearDown() override {
-    delegate.reset();
-    QCoreApplication::processEvents();
-  }
-
-  void launch() {
-    delegate = std::make_unique<AppDelegate>(engine, services);
-    delegate->didFinishLaunching();
-  }
-
-  CalculateViewController& openCalculatePage() {
-    auto* toolbarController = qobject_cast<AppToolbarController*>(delegate->drawer()->rootController());
-    auto* tabs = qobject_cast<AppPageTabBarController*>(toolbarController->rootController());
-    return *qobject_cast<CalculateViewController*>(tabs->selectedController());
-  }
-
-  QTemporaryDir folder;
-  PreferenceStore preferences{folder.filePath("preferences.sqlite")};
-  CalcManager calcManager{preferences};
-  RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};
-  RemoteConfigManager remoteConfigManager{remoteConfig};
-  QQmlEngine engine;
-  const AppServices services{remoteConfig, remoteConfigManager, calcManager, preferences};
-  std::unique_ptr<AppDelegate> delegate;
-};
 
 TEST_F(LaunchTest, OpensTheInputPageWithTheSampleTaskInTheHistory) {
   launch();

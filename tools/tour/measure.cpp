@@ -8,11 +8,13 @@
 #include <cstdio>
 #include <map>
 #include <optional>
+#include <utility>
 #include <vector>
 
 #include <unistd.h>
 
 #include "shell/calc_manager.h"
+#include "shell/history_table_view_cell.h"
 #include "tour/stage.h"
 
 namespace tavi::tour {
@@ -27,6 +29,8 @@ constexpr const char* solution = "tap to frame with solution, ms";
 constexpr const char* slowestSolution = "the same, slowest worked example, ms";
 constexpr const char* longSolution = "the same, 1,000 copies, ms";
 constexpr const char* memory = "resident with solution open, MB";
+constexpr const char* history = "opening the history to its first frame, ms";
+constexpr const char* historyRows = "rows of the history that are typeset";
 constexpr const char* adding = "adding a record, ms";
 
 using Figures = std::map<QByteArray, std::vector<double>>;
@@ -71,9 +75,11 @@ double timeToSolution(Stage& stage, const Task& task) {
   stage.prepare(task.mode, task.first, task.second);
   QElapsedTimer timer;
   std::optional<double> time;
-  const auto connection = QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
-    if (!time && stage.delegate().pageTabBarController()->selectedIndex() == 1) time = milliseconds(timer);
-  });
+  const auto connection =
+      QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+        if (!time && stage.delegate().pageTabBarController()->selectedIndex() == 1)
+          time = milliseconds(timer);
+      });
   timer.start();
   stage.tap(QStringLiteral("key Calculate"));
   waitUntil([&time] { return time.has_value(); }, "a frame with the solution");
@@ -116,6 +122,24 @@ double median(std::vector<double> values) {
   return values.empty() ? 0 : values.at(values.size() / 2);
 }
 
+/// Opens the history and tells when it is on the screen.
+void measureHistory(Stage& stage) {
+  QElapsedTimer timer;
+  bool isShown = false;
+  timer.start();
+  stage.openHistory();
+  QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+    if (!std::exchange(isShown, true)) tell(history, milliseconds(timer));
+  });
+  waitUntil([&isShown] { return isShown; }, "a frame with the history");
+  const auto* content =
+      stage.item(QStringLiteral("historyTable")).property("contentItem").value<QQuickItem*>();
+  const auto rows = std::ranges::count_if(content->childItems(), [](const QQuickItem* each) {
+    return qobject_cast<const HistoryTableViewCell*>(each) != nullptr;
+  });
+  tell(historyRows, static_cast<double>(rows));
+}
+
 /// A full history, written at once.
 void fillStore() {
   PreferenceStore& store = PreferenceStore::standard();
@@ -134,7 +158,8 @@ bool measure() {
   fillStore();
   if (!runProbes(full)) return false;
   std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
-  for (const char* name : {firstFrame, solution, slowestSolution, longSolution, memory, adding})
+  for (const char* name :
+       {firstFrame, solution, slowestSolution, longSolution, memory, history, historyRows, adding})
     std::printf("%-46s %10.1f %14.1f\n", name, median(empty[name]), median(full[name]));
   return true;
 }
@@ -152,6 +177,8 @@ int probe(int argumentCount, char** arguments) {
   for (const Task& task : workedExamples()) slowest = std::max(slowest, timeToSolution(stage, task));
   tell(slowestSolution, slowest);
   tell(longSolution, timeToSolution(stage, {Mode::power, "1000", "2"}));
+
+  measureHistory(stage);
 
   QElapsedTimer timer;
   timer.start();

@@ -100,6 +100,11 @@ void Stage::scrollWideLine() {
   if (line->property("contentX").toReal() <= 0) throw Failure("the wide line does not scroll");
 }
 
+void Stage::openHistory() {
+  delegate().drawer()->dismissPresented();
+  delegate().leftViewController()->didSelectRow(LeftViewController::mainSection, 1);
+}
+
 void waitUntil(const std::function<bool()>& isReached, const std::string& what) {
   if (!QTest::qWaitFor(isReached, static_cast<int>(patience.count()))) throw Failure("not reached: " + what);
 }

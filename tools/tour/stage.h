@@ -53,6 +53,9 @@ class Stage {
   /// Draws a finger to the left over the first formula that is wider than the page.
   void scrollWideLine();
 
+  /// Puts the history in the place of the pages.
+  void openHistory();
+
   void waitForToastsToGo() const;
 
   /// What the window shows once everything has come to rest.

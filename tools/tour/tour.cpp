@@ -58,8 +58,7 @@ void openDrawer(Stage& stage) {
   stage.waitForToastsToGo();
   if (stage.delegate().drawer()->isLeftViewOpened()) return;
   stage.tap(QStringLiteral("menuButton"));
-  waitUntil([&stage] { return stage.shows(QStringLiteral("sideMenu")); }, "the drawer is open");
-  stage.item(QStringLiteral("menuRow 3 0"));
+  waitUntil([&stage] { return stage.shows(QStringLiteral("menuRow 3 0")); }, "all of the menu is open");
 }
 
 void introduction(Stage& stage) {
@@ -67,6 +66,48 @@ void introduction(Stage& stage) {
   stage.picture();
   stage.tap(QStringLiteral("menuRow 0 2"));
   waitUntil([&stage] { return stage.shows(QStringLiteral("sheet")); }, "the introduction is open");
+}
+
+void fillHistory() {
+  constexpr auto tasks = std::to_array<std::pair<int, const char*>>(
+      {{0, "\\frac{3}{2}^{-2}"},
+       {1, "\\sqrt[3]{\\frac{27}{8}}"},
+       {0, "0.5^{2.5}"},
+       {1, "\\sqrt[12]{4096x}"},
+       {0, "123456789.123456789123456789^{\\frac{31415926535}{27182818284}}"},
+       {0, "2^{30}"},
+       {0, "\\frac{2\\pi}{3}^{\\frac{1}{2}}"},
+       {1, "\\sqrt[2]{144}"}});
+  CalcManager& store = CalcManager::shared();
+  store.clearCalculations();
+  for (const auto& [mode, latex] : tasks)
+    store.addCalculation({{}, QString::fromUtf8(latex), {}, {{CalculateViewController::modeKey, mode}}});
+}
+
+void history(Stage& stage) {
+  fillHistory();
+  stage.openHistory();
+  waitUntil([&stage] { return stage.shows(QStringLiteral("historyRow7")); }, "the history is open");
+}
+
+void editHistory(Stage& stage) {
+  history(stage);
+  stage.tap(QStringLiteral("historyedit"));
+  stage.picture();
+  stage.tap(QStringLiteral("deleteControl"));
+}
+
+void clearHistory(Stage& stage) {
+  history(stage);
+  stage.tap(QStringLiteral("historyclear"));
+  waitUntil([&stage] { return stage.shows(QStringLiteral("alertAction0")); }, "the question is asked");
+}
+
+void emptyHistory(Stage& stage) {
+  clearHistory(stage);
+  stage.picture();  // the question has its place once it was drawn
+  stage.tap(QStringLiteral("alertAction0"));
+  waitUntil([&stage] { return stage.shows(QStringLiteral("historyCalculate")); }, "the history is empty");
 }
 
 void typing(Stage& stage) {
@@ -85,16 +126,25 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"06-no-solution", noSolution},
                                                  {"07-wide-line", wideLine},
                                                  {"08-open-drawer", openDrawer},
-                                                 {"16-introduction", introduction}});
+                                                 {"16-history", history},
+                                                 {"17-edit-history", editHistory},
+                                                 {"18-clear-history", clearHistory},
+                                                 {"19-empty-history", emptyHistory},
+                                                 {"25-introduction", introduction}});
 constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"10-dark-solution", power},
                                                 {"11-dark-missing-value", missingValue},
                                                 {"12-dark-drawer", openDrawer},
-                                                {"17-dark-introduction", introduction}});
+                                                {"20-dark-history", history},
+                                                {"21-dark-edit-history", editHistory},
+                                                {"22-dark-empty-history", emptyHistory},
+                                                {"26-dark-introduction", introduction}});
 constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
                                                   {"14-tablet-solution", manySteps},
                                                   {"15-tablet-drawer", openDrawer},
-                                                  {"18-tablet-introduction", introduction}});
+                                                  {"23-tablet-history", history},
+                                                  {"24-tablet-edit-history", editHistory},
+                                                  {"27-tablet-introduction", introduction}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps}});

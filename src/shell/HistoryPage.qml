@@ -1,0 +1,175 @@
+import QtQuick
+import Tavi
+
+// The history as one card of rows. A row is reopened by a tap and swiped aside for its delete button; in edit
+// mode it is deleted by the control at its left and dragged by the handle at its right.
+Rectangle {
+    id: page
+
+    required property HistoryTableViewController controller
+    readonly property bool isWide: width >= Theme.tabletWidth
+
+    View.kind: View.Plain
+    color: Theme.page
+
+    ListView {
+        id: list
+
+        property Item openRow // The one that shows its delete button.
+
+        function closeOpenRow() {
+            if (openRow)
+                openRow.close();
+        }
+
+        // The list takes changes in at the next frame; the next key may come before that.
+        function removeRow(row) {
+            if (row < 0 || !page.controller.canEditRow(row))
+                return;
+            page.controller.commitEditingStyle(HistoryTableViewController.Delete, row);
+            forceLayout();
+        }
+
+        function moveCurrent(way) {
+            const to = currentIndex + way;
+            if (!page.controller.isEditing || currentIndex < 0 || to < 0 || to >= count
+                    || !page.controller.canMoveRow(currentIndex))
+                return;
+            page.controller.moveRow(currentIndex, to);
+            forceLayout();
+        }
+
+        function select() {
+            if (!page.controller.isEditing && currentIndex >= 0)
+                page.controller.didSelectRow(currentIndex);
+        }
+
+        function scrollCurrent(way) {
+            if (currentItem)
+                currentItem.scrollBy(way);
+        }
+
+        objectName: "historyTable"
+        x: Math.max(8, (parent.width - width) / 2)
+        width: Math.min(parent.width - 16, Theme.tabletWidth)
+        height: parent.height
+        topMargin: 8
+        bottomMargin: 8
+        clip: true
+        model: page.controller.table
+        boundsBehavior: Flickable.StopAtBounds
+        activeFocusOnTab: count > 0
+        Accessible.role: Accessible.List
+        Accessible.name: qsTrId("History")
+        onMovementStarted: closeOpenRow()
+        onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+
+        delegate: HistoryRow {
+            controller: page.controller
+            table: list
+            fontSize: page.isWide ? 24 : 20
+            shift: drag.shiftOf(index)
+            isShiftAnimated: drag.isActive
+            isLifted: drag.isActive && index === drag.from
+        }
+
+        Rectangle {
+            parent: list.contentItem
+            z: -1
+            y: list.originY
+            width: list.width
+            height: list.contentHeight
+            radius: 12
+            color: Theme.background
+        }
+
+        remove: Transition {
+            NumberAnimation { property: "opacity"; to: 0; duration: 200 }
+        }
+        removeDisplaced: Transition {
+            NumberAnimation { property: "y"; duration: 200; easing.type: Easing.OutCubic }
+        }
+
+        Keys.onReturnPressed: select()
+        Keys.onEnterPressed: select()
+        Keys.onSpacePressed: select()
+        Keys.onDeletePressed: removeRow(currentIndex)
+        Keys.onPressed: event => {
+            const page = Math.max(1, Math.floor(height / 72) - 1);
+            const isMoving = event.modifiers & Qt.AltModifier;
+            const ways = {
+                [Qt.Key_Up]: -1, [Qt.Key_Down]: 1, [Qt.Key_PageUp]: -page, [Qt.Key_PageDown]: page,
+                [Qt.Key_Home]: -count, [Qt.Key_End]: count
+            };
+            const way = ways[event.key];
+            if (way === undefined || count === 0)
+                return;
+            event.accepted = true;
+            if (isMoving)
+                moveCurrent(way);
+            else
+                currentIndex = Math.max(0, Math.min(count - 1, currentIndex + way));
+        }
+        Keys.onLeftPressed: scrollCurrent(-48)
+        Keys.onRightPressed: scrollCurrent(48)
+    }
+
+    ScrollThumb {
+        flickable: list
+        orientation: Qt.Vertical
+        anchors.right: parent.right
+        anchors.rightMargin: 2
+    }
+
+    Connections {
+        target: page.controller
+        function onIsEditingChanged() {
+            list.closeOpenRow();
+        }
+    }
+
+    HistoryDrag {
+        id: drag
+
+        anchors.fill: list
+        table: list
+        controller: page.controller
+        fontSize: page.isWide ? 24 : 20
+    }
+
+    Column {
+        objectName: "emptyHistory"
+        anchors.centerIn: parent
+        width: Math.min(320, parent.width - 48)
+        spacing: 16
+        visible: list.count === 0
+
+        Icon {
+            anchors.horizontalCenter: parent.horizontalCenter
+            text: Icons.history
+            size: 56
+            color: Theme.secondaryGray
+        }
+        Text {
+            width: parent.width
+            text: qsTrId("historyEmpty")
+            font: Theme.book(16)
+            color: Theme.label
+            wrapMode: Text.Wrap
+            lineHeight: 1.2
+            horizontalAlignment: Text.AlignHCenter
+            Accessible.role: Accessible.StaticText
+            Accessible.name: text
+        }
+        ActionButton {
+            objectName: "historyCalculate"
+            anchors.horizontalCenter: parent.horizontalCenter
+            leftPadding: 24
+            rightPadding: 24
+            font: Theme.medium(16)
+            text: qsTrId("historyCalculate")
+            View.tag: 103
+            onClicked: page.controller.openCalculatePage()
+        }
+    }
+}

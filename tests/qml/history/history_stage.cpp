@@ -1,0 +1,79 @@
+#include "history_stage.h"
+
+#include <QGuiApplication>
+#include <QQmlContext>
+#include <QStyleHints>
+#include <algorithm>
+
+#include <QtQml/qqmlextensionplugin.h>
+#include <QtQuickTest/quicktest.h>
+
+#include "platform/localization.h"
+#include "shell/controller_host.h"
+
+Q_IMPORT_QML_PLUGIN(TaviPlugin)
+
+namespace tavi {
+
+void HistoryStage::open(QQuickItem* holder, const QStringList& tasks) {
+  const auto emptyPage = [this] {
+    auto page = std::make_shared<ViewController>();
+    page->setPage(*engine_, "shell/LeftPage.qml");
+    return page;
+  };
+  store_.setCurrentSelectedCalculation(std::nullopt);
+  QVariantList records;
+  for (const QString& latex : tasks) records.append(Calculation({}, latex, {}, {}).properties());
+  preferences_.setValue("Calculations", records);
+  store_.loadCalculations();
+
+  history_ = std::make_shared<HistoryTableViewController>(store_, emptyPage);
+  history_->setPage(*engine_, "shell/HistoryPage.qml");
+  toolbar_ = std::make_shared<AppToolbarController>(history_);
+  toolbar_->setPage(*engine_, "shell/ToolbarPage.qml");
+  drawer_ = std::make_shared<AppNavigationDrawerController>(toolbar_, emptyPage());
+  drawer_->setPage(*engine_, "shell/DrawerPage.qml");
+  drawer_->beginAppearance();
+  auto host = std::make_unique<ControllerHost>(holder);
+  host->setSize(holder->size());
+  host->setController(drawer_.get());
+  host_ = std::move(host);
+  drawer_->endAppearance();
+}
+
+void HistoryStage::close() {
+  host_.reset();
+  drawer_.reset();
+  toolbar_.reset();
+  history_.reset();
+}
+
+QStringList HistoryStage::stored() const {
+  QStringList tasks;
+  for (const Calculation& calculation : store_.calculations()) tasks.append(calculation.latexString);
+  return tasks;
+}
+
+QString HistoryStage::picked() const {
+  const auto& picked = store_.currentSelectedCalculation();
+  return picked ? picked->latexString : QString();
+}
+
+// Tests tap faster than fingers, and need not wait long for a tap to be no double tap.
+void HistoryStage::applicationAvailable() {
+  QGuiApplication::styleHints()->setMouseDoubleClickInterval(50);
+  loadTranslations({"en"});
+}
+
+void HistoryStage::qmlEngineAvailable(QQmlEngine* engine) {
+  engine_ = engine;
+  engine->rootContext()->setContextProperty("stage", this);
+}
+
+}  // namespace tavi
+
+int main(int argc, char** argv) {
+  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::HistoryStage stage;
+  return quick_test_main_with_setup(argc, argv, "history", TAVI_QML_TESTS, &stage);
+}
