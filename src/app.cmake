@@ -23,16 +23,20 @@ qt_add_qml_module(tavi_app
     platform/localization.cpp platform/localization.h
     shell/alert_controller.cpp shell/alert_controller.h
     shell/app_delegate.cpp shell/app_delegate.h
+    shell/app_services.h
     shell/calculate_action.cpp
     shell/calculate_view_controller.cpp shell/calculate_view_controller.h
     shell/controller_host.cpp shell/controller_host.h
     shell/dt_text_field.cpp shell/dt_text_field.h
     shell/history_table_view_cell.cpp shell/history_table_view_cell.h
     shell/history_table_view_controller.cpp shell/history_table_view_controller.h
+    shell/left_view_controller.cpp shell/left_view_controller.h
+    shell/menu_table.cpp shell/menu_table.h
     shell/navigation_drawer_controller.cpp shell/navigation_drawer_controller.h
     shell/page_loader.cpp shell/page_loader.h
     shell/page_tab_bar_controller.cpp shell/page_tab_bar_controller.h
     shell/radical_item.cpp shell/radical_item.h
+    shell/sheet_controller.h
     shell/tab_item.cpp shell/tab_item.h
     shell/table_rows.cpp shell/table_rows.h
     shell/toolbar.cpp shell/toolbar.h
@@ -63,6 +67,7 @@ qt_add_qml_module(tavi_app
     shell/Keypad.qml
     shell/LeftPage.qml
     shell/SegmentedControl.qml
+    shell/SheetPage.qml
     shell/SpinnerOverlay.qml
     shell/TabsPage.qml
     shell/ToastLayer.qml

@@ -5,14 +5,16 @@ add_executable(tavi_app_tests
   appearance/color_manager_test.cpp
   appearance/contrast_test.cpp
   platform/localization_test.cpp
+  platform/test_support.cpp
   shell/history_screen_test.cpp
   shell/launch_test.cpp
   shell/navigation_test.cpp
+  shell/side_menu_test.cpp
   solution/solution_screen_test.cpp)
 target_include_directories(tavi_app_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_compile_definitions(tavi_app_tests PRIVATE
   TAVI_TRANSLATIONS="${PROJECT_SOURCE_DIR}/resources/translations")
-target_link_libraries(tavi_app_tests PRIVATE tavi_options tavi_app tavi_appplugin Qt6::Test GTest::gtest)
+target_link_libraries(tavi_app_tests PRIVATE tavi_options tavi_app tavi_appplugin Qt6::Test SQLite::SQLite3 GTest::gtest)
 gtest_discover_tests(tavi_app_tests DISCOVERY_TIMEOUT 60 PROPERTIES TIMEOUT 120)
 
 add_executable(tavi_frame_qml_tests

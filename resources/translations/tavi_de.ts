@@ -227,6 +227,22 @@
         <source>Rate this App</source>
         <translation>Diese App bewerten</translation>
     </message>
+    <message id="Discord">
+        <source>Discord</source>
+        <translation>Community-Chat</translation>
+    </message>
+    <message id="Visit us:">
+        <source>Visit us:</source>
+        <translation>Besuche uns:</translation>
+    </message>
+    <message id="All in one:">
+        <source>All in one:</source>
+        <translation>Alles in einem:</translation>
+    </message>
+    <message id="Other apps:">
+        <source>Other apps:</source>
+        <translation>Weitere Apps:</translation>
+    </message>
     <message id="oppositionError">
         <source>oppositionError</source>
         <translation>Diese Zahlen widersprechen sich. Bitte prüfe deine Eingabe.</translation>

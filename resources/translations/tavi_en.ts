@@ -227,6 +227,22 @@
         <source>Rate this App</source>
         <translation>Rate this app</translation>
     </message>
+    <message id="Discord">
+        <source>Discord</source>
+        <translation>Community chat</translation>
+    </message>
+    <message id="Visit us:">
+        <source>Visit us:</source>
+        <translation>Visit us:</translation>
+    </message>
+    <message id="All in one:">
+        <source>All in one:</source>
+        <translation>All in one:</translation>
+    </message>
+    <message id="Other apps:">
+        <source>Other apps:</source>
+        <translation>Other apps:</translation>
+    </message>
     <message id="oppositionError">
         <source>oppositionError</source>
         <translation>These numbers contradict each other. Please check your input.</translation>

@@ -44,6 +44,7 @@ void AppDelegate::didBecomeActive() {
                                            FetchStatus status, const std::optional<QString>& error) {
     manager.handleFetchResult(status, error);
   });
+  services_.notifications.post(applicationDidBecomeActive);
 }
 
 void AppDelegate::openWindow() {
@@ -69,8 +70,12 @@ const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewContro
   return calculateViewController_;
 }
 
-const std::shared_ptr<ViewController>& AppDelegate::leftViewController() {
-  if (!leftViewController_) build(leftViewController_, engine_, "shell/LeftPage.qml");
+const std::shared_ptr<LeftViewController>& AppDelegate::leftViewController() {
+  if (!leftViewController_) {
+    LeftViewController::Screens screens{.makeRoot = rootFactory(),
+                                        .makeHistory = [this] { return makeHistoryTableViewController(); }};
+    build(leftViewController_, engine_, "shell/LeftPage.qml", std::move(screens), services_);
+  }
   return leftViewController_;
 }
 
@@ -96,11 +101,14 @@ const std::shared_ptr<AppToolbarController>& AppDelegate::appToolbarController()
 
 std::shared_ptr<HistoryTableViewController> AppDelegate::makeHistoryTableViewController() {
   std::shared_ptr<HistoryTableViewController> history;
-  build(history, engine_, "shell/HistoryPage.qml", services_.calcManager,
-        [&engine = engine_, services = services_] {
-          return AppDelegate(engine, services).appToolbarController();
-        });
+  build(history, engine_, "shell/HistoryPage.qml", services_.calcManager, rootFactory());
   return history;
+}
+
+std::function<std::shared_ptr<ViewController>()> AppDelegate::rootFactory() const {
+  return [&engine = engine_, services = services_] {
+    return AppDelegate(engine, services).appToolbarController();
+  };
 }
 
 }  // namespace tavi

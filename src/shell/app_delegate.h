@@ -2,28 +2,19 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <functional>
 #include <memory>
 
-#include "platform/preference_store.h"
-#include "platform/remote_config_service.h"
-#include "remote/remote_config_manager.h"
-#include "shell/calc_manager.h"
+#include "shell/app_services.h"
 #include "shell/calculate_view_controller.h"
 #include "shell/history_table_view_controller.h"
+#include "shell/left_view_controller.h"
 #include "shell/navigation_drawer_controller.h"
 #include "shell/page_tab_bar_controller.h"
 #include "shell/toolbar_controller.h"
 #include "solution/solution_view_controller.h"
 
 namespace tavi {
-
-/// What the application works with.
-struct AppServices {
-  RemoteConfigService& remoteConfig = RemoteConfigService::shared();
-  RemoteConfigManager& remoteConfigManager = RemoteConfigManager::shared();
-  CalcManager& calcManager = CalcManager::shared();
-  PreferenceStore& userDefaults = PreferenceStore::standard();
-};
 
 /// Starts the application and builds its controllers, each when it is first asked for.
 ///
@@ -33,6 +24,9 @@ class AppDelegate : public QObject {
   Q_OBJECT
 
  public:
+  /// Posted whenever the application comes to the front.
+  static constexpr QLatin1StringView applicationDidBecomeActive{"UIApplicationDidBecomeActiveNotification"};
+
   /// The engine loads the pages; it and the services must live longer than every controller.
   explicit AppDelegate(QQmlEngine& engine, const AppServices& services = {});
   ~AppDelegate() override;
@@ -40,14 +34,14 @@ class AppDelegate : public QObject {
   /// The launch: remote records, first-start step, screen tree, window. To be called once.
   void didFinishLaunching();
 
-  /// Asks for new remote values if the last ones are older than six hours.
+  /// Asks for new remote values if the last ones are older than six hours, then tells the others.
   void didBecomeActive();
 
   QQuickWindow* window() const { return window_.get(); }
   const std::shared_ptr<AppNavigationDrawerController>& drawer() const { return drawer_; }
 
   const std::shared_ptr<CalculateViewController>& calculateViewController();
-  const std::shared_ptr<ViewController>& leftViewController();
+  const std::shared_ptr<LeftViewController>& leftViewController();
   const std::shared_ptr<SolutionViewController>& solutionViewController();
   const std::shared_ptr<AppPageTabBarController>& pageTabBarController();
   const std::shared_ptr<AppToolbarController>& appToolbarController();
@@ -56,13 +50,15 @@ class AppDelegate : public QObject {
   std::shared_ptr<HistoryTableViewController> makeHistoryTableViewController();
 
  private:
+  /// What makes fresh pages under their toolbar.
+  std::function<std::shared_ptr<ViewController>()> rootFactory() const;
   void openWindow();
   void presentFirstRun();
 
   QQmlEngine& engine_;
   AppServices services_;
   std::shared_ptr<CalculateViewController> calculateViewController_;
-  std::shared_ptr<ViewController> leftViewController_;
+  std::shared_ptr<LeftViewController> leftViewController_;
   std::shared_ptr<SolutionViewController> solutionViewController_;
   std::shared_ptr<AppPageTabBarController> pageTabBarController_;
   std::shared_ptr<AppToolbarController> appToolbarController_;

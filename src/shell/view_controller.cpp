@@ -82,6 +82,10 @@ void ViewController::dismissPresented() {
   releaseLater(dismissed);
 }
 
+void ViewController::dismiss() {
+  if (presenter_) presenter_->dismissPresented();
+}
+
 void ViewController::presentAlert(const std::optional<QString>& title, const std::optional<QString>& message,
                                   std::vector<AlertAction> actions, AlertStyle style) {
   const ViewController* root = this;

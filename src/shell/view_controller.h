@@ -69,6 +69,9 @@ class ViewController : public QObject {
   /// Takes away what this controller has presented, if anything.
   void dismissPresented();
 
+  /// Takes this controller away again if something has presented it.
+  Q_INVOKABLE void dismiss();
+
   /// What is shown over this controller, or none.
   ViewController* presentedController() const { return presented_.get(); }
 
@@ -124,8 +127,6 @@ class ViewController : public QObject {
   std::shared_ptr<ViewController> presented_;
   std::vector<std::shared_ptr<ViewController>> leaving_;
   TabItem tabItem_;
-
-  friend class AlertController;
 };
 
 /// A page with a strip for a banner at its foot. Nothing fills the strip yet.

@@ -30,16 +30,15 @@ TEST_F(LaunchTest, BuildsEachControllerOnce) {
   EXPECT_EQ(delegate->drawer()->rootController(), delegate->appToolbarController().get());
 }
 
-TEST_F(LaunchTest, HandsWhatWasTypedToAFreshPage) {
+TEST_F(LaunchTest, TheMenusCalculateRowHandsWhatWasTypedToAFreshPage) {
   launch();
   const std::weak_ptr<ViewController> before = delegate->calculateViewController();
   for (DTTextField* field : openCalculatePage().allFields) field->setText(field->accessibilityIdentifier);
   delegate->drawer()->setLeftViewOpened(true);
-
-  AppDelegate second(engine, services);
-  delegate->drawer()->transition(second.appToolbarController(),
-                                 [this] { delegate->drawer()->closeLeftView(); });
+  const auto menu = delegate->leftViewController();
+  menu->didSelectRow(LeftViewController::mainSection, 0);
   EXPECT_FALSE(delegate->drawer()->isLeftViewOpened());
+  EXPECT_EQ(delegate->leftViewController(), menu) << "the menu survives";
   EXPECT_NE(&openCalculatePage(), before.lock().get());
   for (const DTTextField* field : openCalculatePage().allFields)
     EXPECT_EQ(field->text(), field->accessibilityIdentifier);

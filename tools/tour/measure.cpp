@@ -77,9 +77,11 @@ double timeToSolution(Stage& stage, const Task& task) {
   stage.prepare(task.mode, task.first, task.second);
   QElapsedTimer timer;
   std::optional<double> time;
-  const auto connection = QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
-    if (!time && stage.delegate().pageTabBarController()->selectedIndex() == 1) time = milliseconds(timer);
-  });
+  const auto connection =
+      QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+        if (!time && stage.delegate().pageTabBarController()->selectedIndex() == 1)
+          time = milliseconds(timer);
+      });
   timer.start();
   stage.tap(QStringLiteral("key Calculate"));
   waitUntil([&time] { return time.has_value(); }, "a frame with the solution");

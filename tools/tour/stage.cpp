@@ -103,11 +103,8 @@ void Stage::scrollWideLine() {
 }
 
 void Stage::openHistory() {
-  const auto& drawer = delegate().drawer();
-  auto* pages = qobject_cast<AppToolbarController*>(drawer->rootController());
-  if (pages == nullptr) throw Failure("no pages under the drawer");
-  drawer->dismissPresented();
-  pages->transition(delegate().makeHistoryTableViewController(), [&drawer] { drawer->closeLeftView(); });
+  delegate().drawer()->dismissPresented();
+  delegate().leftViewController()->didSelectRow(LeftViewController::mainSection, 1);
 }
 
 void waitUntil(const std::function<bool()>& isReached, const std::string& what) {

@@ -56,8 +56,16 @@ void wideLine(Stage& stage) {
 
 void openDrawer(Stage& stage) {
   stage.waitForToastsToGo();
+  if (stage.delegate().drawer()->isLeftViewOpened()) return;
   stage.tap(QStringLiteral("menuButton"));
-  waitUntil([&stage] { return stage.shows(QStringLiteral("sideMenu")); }, "the drawer is open");
+  waitUntil([&stage] { return stage.shows(QStringLiteral("menuRow 3 0")); }, "all of the menu is open");
+}
+
+void introduction(Stage& stage) {
+  openDrawer(stage);
+  stage.picture();
+  stage.tap(QStringLiteral("menuRow 0 2"));
+  waitUntil([&stage] { return stage.shows(QStringLiteral("sheet")); }, "the introduction is open");
 }
 
 void fillHistory() {
@@ -121,19 +129,22 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"16-history", history},
                                                  {"17-edit-history", editHistory},
                                                  {"18-clear-history", clearHistory},
-                                                 {"19-empty-history", emptyHistory}});
+                                                 {"19-empty-history", emptyHistory},
+                                                 {"25-introduction", introduction}});
 constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"10-dark-solution", power},
                                                 {"11-dark-missing-value", missingValue},
                                                 {"12-dark-drawer", openDrawer},
                                                 {"20-dark-history", history},
                                                 {"21-dark-edit-history", editHistory},
-                                                {"22-dark-empty-history", emptyHistory}});
+                                                {"22-dark-empty-history", emptyHistory},
+                                                {"26-dark-introduction", introduction}});
 constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
                                                   {"14-tablet-solution", manySteps},
                                                   {"15-tablet-drawer", openDrawer},
                                                   {"23-tablet-history", history},
-                                                  {"24-tablet-edit-history", editHistory}});
+                                                  {"24-tablet-edit-history", editHistory},
+                                                  {"27-tablet-introduction", introduction}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps}});

@@ -7,6 +7,7 @@
 
 #include "shell/alert_controller.h"
 #include "shell/controller_host.h"
+#include "shell/left_view_controller.h"
 #include "shell/view_manager.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
@@ -26,16 +27,28 @@ std::shared_ptr<Controller> made(QQmlEngine& engine, const char* page, Arguments
 
 void FrameStage::open(QQuickItem* holder) {
   chosen_.clear();
+  openedLink_.clear();
+  Services& services = services_.emplace();
+  services.links.setHandler([](const QUrl& url) { return url.scheme() == u"https"; },
+                            [this](const QUrl& url) {
+                              openedLink_ = url.toString();
+                              return true;
+                            });
+  services.remoteConfigManager.loadApps(services.remoteConfig);
   std::vector<std::shared_ptr<ViewController>> pages;
   for (const char* title : {"Input", "Result"}) {
-    pages.push_back(made<ViewController>(*engine_, "shell/LeftPage.qml"));
+    pages.push_back(std::make_shared<ViewController>());
+    pages.back()->setView(std::make_unique<QQuickItem>());
     pages.back()->setUpTabItem(QString::fromLatin1(title), true);
   }
   tabs_ = made<AppPageTabBarController>(*engine_, "shell/TabsPage.qml", std::move(pages));
+  auto menu = made<LeftViewController>(
+      *engine_, "shell/LeftPage.qml", LeftViewController::Screens(),
+      AppServices{services.remoteConfig, services.remoteConfigManager, services.calcManager,
+                  services.preferences, services.notifications, services.links});
   drawer_ = made<AppNavigationDrawerController>(
       *engine_, "shell/DrawerPage.qml", made<AppToolbarController>(*engine_, "shell/ToolbarPage.qml", tabs_),
-      made<MenuToolbarController>(*engine_, "shell/ToolbarPage.qml",
-                                  made<ViewController>(*engine_, "shell/LeftPage.qml")));
+      made<MenuToolbarController>(*engine_, "shell/ToolbarPage.qml", std::move(menu)));
   drawer_->beginAppearance();
   auto host = std::make_unique<ControllerHost>(holder);
   host->setSize(holder->size());
@@ -50,6 +63,7 @@ void FrameStage::close() {
   host_.reset();
   drawer_.reset();
   tabs_.reset();
+  services_.reset();
 }
 
 void FrameStage::enableTab(int index, bool isEnabled) {

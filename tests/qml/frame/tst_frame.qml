@@ -104,6 +104,87 @@ Item {
             tryVerify(() => item("tab0").mapToItem(root, 0, 0).x === 0);
         }
 
+        function openMenu() {
+            mouseClick(item("menuButton"));
+            tryVerify(() => item("sideMenu").mapToItem(root, 0, 0).x === 0);
+        }
+
+        function hasSheet() {
+            const sheet = findChild(root.Window.contentItem, "sheet");
+            return sheet !== null && sheet.visible;
+        }
+
+        function test_the_menu_shows_a_header_over_each_section_but_the_first() {
+            openMenu();
+            compare(item("menuRow 0 0").mapToItem(item("menuTable"), 0, 0).y, 0);
+            for (let section = 1; section < 4; ++section) {
+                const header = item("menuHeader" + section);
+                compare(header.height, 30);
+                compare(header.width, 304);
+                verify(Qt.colorEqual(header.color, Theme.strongYellow));
+                compare(item("menuRow " + section + " 0").y, header.y + 30);
+            }
+            compare(item("menuRow 0 0").height, 48);
+        }
+
+        function test_a_tap_on_a_row_opens_what_it_names() {
+            openMenu();
+            const row = item("menuRow 2 0");
+            verify(row.text);
+            mouseClick(row);
+            verify(stage.openedLink.startsWith("https://store."));
+            const first = stage.openedLink;
+            mouseClick(item("menuRow 3 0"));
+            verify(stage.openedLink !== first);
+            verify(stage.isDrawerOpen);
+        }
+
+        function test_the_keyboard_goes_through_the_menu_and_shows_where_it_is() {
+            openMenu();
+            keyClick(Qt.Key_Down);
+            verify(item("menuRow 0 0").visualFocus);
+            keyClick(Qt.Key_Up);
+            verify(item("menuRow 0 0").visualFocus);
+            keyClick(Qt.Key_Tab);
+            verify(item("menuRow 0 1").visualFocus);
+            keyClick(Qt.Key_Down);
+            verify(item("menuRow 0 2").visualFocus);
+            verify(!hasSheet());
+            keyClick(Qt.Key_Return);
+            verify(hasSheet());
+
+            keyClick(Qt.Key_Escape);
+            tryVerify(() => !hasSheet());
+            verify(stage.isDrawerOpen, "Escape closes the sheet and not the menu under it");
+            keyClick(Qt.Key_Down);
+            verify(item("menuRow 0 3").visualFocus);
+            keyClick(Qt.Key_Escape);
+            verify(!stage.isDrawerOpen);
+        }
+
+        function test_a_sheet_holds_the_menu_off_until_it_is_closed() {
+            openMenu();
+            mouseClick(item("menuRow 0 2"));
+            verify(hasSheet());
+            wait(50);
+            mouseClick(item("sheet"), 20, 300);
+            mouseClick(root, 2, 400);
+            mouseClick(root, 408, 400);
+            verify(hasSheet());
+            verify(stage.isDrawerOpen);
+            mouseClick(item("sheetCloseButton"));
+            tryVerify(() => !hasSheet());
+            verify(stage.isDrawerOpen);
+        }
+
+        function test_in_a_wide_window_the_keyboard_reaches_the_open_menu() {
+            root.width = 1000;
+            openMenu();
+            for (let i = 0; i < 30 && !item("menuRow 0 0").activeFocus; ++i)
+                keyClick(Qt.Key_Tab);
+            verify(item("menuRow 0 0").visualFocus);
+        }
+
         function test_an_alert_holds_the_pages_off_until_it_is_answered() {
             stage.ask();
             wait(50);

@@ -1,0 +1,28 @@
+#pragma once
+
+#include <functional>
+
+#include "platform/application_context.h"
+#include "platform/links.h"
+#include "platform/notification_center.h"
+#include "platform/online_test.h"
+#include "platform/preference_store.h"
+#include "platform/remote_config_service.h"
+#include "remote/remote_config_manager.h"
+#include "shell/calc_manager.h"
+
+namespace tavi {
+
+/// What the application works with.
+struct AppServices {
+  RemoteConfigService& remoteConfig = RemoteConfigService::shared();
+  RemoteConfigManager& remoteConfigManager = RemoteConfigManager::shared();
+  CalcManager& calcManager = CalcManager::shared();
+  PreferenceStore& userDefaults = PreferenceStore::standard();
+  NotificationCenter& notifications = NotificationCenter::shared();
+  const Links& links = Links::shared();
+  const OnlineTest& onlineTest = OnlineTest::shared();
+  std::function<ApplicationContext()> context = ApplicationContext::current;
+};
+
+}  // namespace tavi
