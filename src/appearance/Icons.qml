@@ -7,5 +7,9 @@ QtObject {
     readonly property string check: "\uf12c"
     readonly property string arrowBack: "\uf06e"
     readonly property string share: "\uf497"
+    readonly property string save: "\uf193"
+    readonly property string copy: "\uf18f"
+    readonly property string close: "\uf156"
+    readonly property string open: "\uf3cc"
     readonly property string manual: "\uf625"
 }

@@ -22,7 +22,7 @@ QStringList AlertController::actionTitles() const {
 void AlertController::choose(int index) {
   if (index < 0 || static_cast<std::size_t>(index) >= actions_.size()) fatalStop("no such alert action");
   const auto handler = actions_[static_cast<std::size_t>(index)].handler;
-  if (presenter_) presenter_->dismissPresented();
+  if (presenter()) presenter()->dismissPresented();
   if (handler) handler();
 }
 

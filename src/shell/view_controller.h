@@ -72,6 +72,9 @@ class ViewController : public QObject {
   /// What is shown over this controller, or none.
   ViewController* presentedController() const { return presented_.get(); }
 
+  /// What shows this controller, or none.
+  ViewController* presenter() const { return presenter_; }
+
   /// Shows a message over the window, with one button "OK" if no actions are given.
   void presentAlert(const std::optional<QString>& title, const std::optional<QString>& message,
                     std::vector<AlertAction> actions, AlertStyle style);
@@ -123,8 +126,6 @@ class ViewController : public QObject {
   ViewController* presenter_ = nullptr;
   std::shared_ptr<ViewController> presented_;
   TabItem tabItem_;
-
-  friend class AlertController;
 };
 
 /// A page with a strip for a banner at its foot. Nothing fills the strip yet.

@@ -1,29 +1,34 @@
 #pragma once
 
 #include <QAbstractListModel>
+#include <vector>
+
+#include "solution/solution_table_data.h"
 
 namespace tavi {
 
-/// The rows of the solution table as a list for QML. It knows their number only: the controller fills each
-/// cell when it comes into view.
+/// The rows of all sections of the solution table as one list for QML, each by its section, its row there and
+/// its kind. The controller fills a cell when it comes into view.
 class SolutionTable : public QAbstractListModel {
   Q_OBJECT
 
  public:
   /// Makes all rows anew.
-  void reload(int rows);
+  void reload(const SolutionTableData& data);
 
-  int rowCount(const QModelIndex& parent = {}) const override { return parent.isValid() ? 0 : rows_; }
-  QVariant data(const QModelIndex&, int) const override { return {}; }
+  int rowCount(const QModelIndex& parent = {}) const override;
+  QVariant data(const QModelIndex& index, int role) const override;
+  QHash<int, QByteArray> roleNames() const override;
 
  private:
-  int rows_ = 0;
-};
+  enum Role { Section = Qt::UserRole, Row, Kind };
+  struct Entry {
+    int section;
+    int row;
+    SolutionTableData::RowKind kind;
+  };
 
-inline void SolutionTable::reload(int rows) {
-  beginResetModel();
-  rows_ = rows;
-  endResetModel();
-}
+  std::vector<Entry> entries_;
+};
 
 }  // namespace tavi
