@@ -1,5 +1,6 @@
 # The application: controllers, the items they drive, and its resources.
-find_package(Qt6 6.4 REQUIRED COMPONENTS Core Gui Qml Quick QuickControls2 LinguistTools)
+find_package(Qt6 6.4 REQUIRED COMPONENTS Concurrent Core Gui Qml Quick QuickControls2 LinguistTools)
+find_package(QCoro6 REQUIRED COMPONENTS Core)
 
 qt_add_library(tavi_app STATIC)
 # Byte code alone starts as fast as generated C++ here, and builds in a fraction of the time.
@@ -36,6 +37,7 @@ qt_add_qml_module(tavi_app
     shell/page_loader.cpp shell/page_loader.h
     shell/page_tab_bar_controller.cpp shell/page_tab_bar_controller.h
     shell/radical_item.cpp shell/radical_item.h
+    shell/screenshot.cpp shell/screenshot.h
     shell/sheet_controller.h
     shell/tab_item.cpp shell/tab_item.h
     shell/table_rows.cpp shell/table_rows.h
@@ -43,10 +45,19 @@ qt_add_qml_module(tavi_app
     shell/toolbar_controller.cpp shell/toolbar_controller.h
     shell/view_controller.cpp shell/view_controller.h
     shell/view_manager.cpp shell/view_manager.h
+    solution/chart_table_view_cell.h
     solution/math_label_type.h
+    solution/share_sheet_controller.cpp solution/share_sheet_controller.h
     solution/solution_step_cell.cpp solution/solution_step_cell.h
+    solution/solution_table.cpp solution/solution_table.h
+    solution/solution_table_data.cpp solution/solution_table_data.h
+    solution/solution_table_source.cpp solution/solution_table_source.h
     solution/solution_view_controller.cpp solution/solution_view_controller.h
     solution/step_records.cpp solution/step_records.h
+    solution/step_row_picture.cpp solution/step_row_picture.h
+    solution/table_capture.cpp solution/table_capture.h
+    solution/table_view_cell.cpp solution/table_view_cell.h
+    solution/video_collection_table_view_cell.cpp solution/video_collection_table_view_cell.h
   QML_FILES
     appearance/ActionButton.qml
     appearance/EdgeShadow.qml
@@ -72,6 +83,7 @@ qt_add_qml_module(tavi_app
     shell/TabsPage.qml
     shell/ToastLayer.qml
     shell/ToolbarPage.qml
+    solution/ShareSheet.qml
     solution/SolutionPage.qml
     solution/SolutionStepCell.qml)
 target_include_directories(tavi_app
@@ -79,8 +91,8 @@ target_include_directories(tavi_app
   # The generated registration of QML types includes headers by their bare names.
   PRIVATE appearance shell solution typeset)
 target_link_libraries(tavi_app
-  PUBLIC tavi_engine tavi_services tavi_math_label Qt6::Gui Qt6::Qml Qt6::Quick
-  PRIVATE Qt6::QuickControls2 tavi_options)
+  PUBLIC tavi_engine tavi_services tavi_math_label QCoro6::Core Qt6::Gui Qt6::Qml Qt6::Quick
+  PRIVATE tavi_math_font Qt6::Concurrent Qt6::QuickControls2 tavi_options)
 
 
 # Built in: fonts from their Debian packages, the style of the controls, translations by key.

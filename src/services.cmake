@@ -8,6 +8,7 @@ add_library(tavi_services STATIC
   platform/network_access.cpp
   platform/notification_center.cpp
   platform/online_test.cpp
+  platform/picture_file.cpp
   platform/preference_codec.cpp
   platform/preference_store.cpp
   platform/property_list.cpp

@@ -1,4 +1,4 @@
-# The frame of the application: styling, navigation, launch, solution screen.
+# The frame of the application: styling, navigation, launch.
 add_executable(tavi_app_tests
   lsan_suppressions.cpp
   calculate_main.cpp
@@ -9,8 +9,7 @@ add_executable(tavi_app_tests
   shell/history_screen_test.cpp
   shell/launch_test.cpp
   shell/navigation_test.cpp
-  shell/side_menu_test.cpp
-  solution/solution_screen_test.cpp)
+  shell/side_menu_test.cpp)
 target_include_directories(tavi_app_tests PRIVATE ${CMAKE_CURRENT_SOURCE_DIR})
 target_compile_definitions(tavi_app_tests PRIVATE
   TAVI_TRANSLATIONS="${PROJECT_SOURCE_DIR}/resources/translations")

@@ -351,6 +351,42 @@
         <source>shareButton</source>
         <translation>Lösung teilen</translation>
     </message>
+    <message id="sharingSave">
+        <source>sharingSave</source>
+        <translation>Bild speichern</translation>
+    </message>
+    <message id="sharingCopy">
+        <source>sharingCopy</source>
+        <translation>Bild kopieren</translation>
+    </message>
+    <message id="sharingOpen">
+        <source>sharingOpen</source>
+        <translation>Bild öffnen</translation>
+    </message>
+    <message id="sharingFileName">
+        <source>sharingFileName</source>
+        <translation>Lösung</translation>
+    </message>
+    <message id="sharingSaved">
+        <source>sharingSaved</source>
+        <translation>Bild gespeichert</translation>
+    </message>
+    <message id="sharingCopied">
+        <source>sharingCopied</source>
+        <translation>Bild kopiert</translation>
+    </message>
+    <message id="sharingNoRoom">
+        <source>sharingNoRoom</source>
+        <translation>Für das Bild ist nicht genug Platz. Schaffe Platz oder wähle einen anderen Ort; es wurde nichts gespeichert.</translation>
+    </message>
+    <message id="sharingNotWritable">
+        <source>sharingNotWritable</source>
+        <translation>In diesem Ordner lässt sich nichts speichern. Wähle einen anderen.</translation>
+    </message>
+    <message id="sharingNoViewer">
+        <source>sharingNoViewer</source>
+        <translation>Es wurde kein Programm gefunden, das Bilder zeigt. Speichere das Bild stattdessen.</translation>
+    </message>
     <message id="manualButton">
         <source>manualButton</source>
         <translation>So geht es</translation>

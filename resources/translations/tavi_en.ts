@@ -351,6 +351,42 @@
         <source>shareButton</source>
         <translation>Share the solution</translation>
     </message>
+    <message id="sharingSave">
+        <source>sharingSave</source>
+        <translation>Save picture</translation>
+    </message>
+    <message id="sharingCopy">
+        <source>sharingCopy</source>
+        <translation>Copy picture</translation>
+    </message>
+    <message id="sharingOpen">
+        <source>sharingOpen</source>
+        <translation>Open picture</translation>
+    </message>
+    <message id="sharingFileName">
+        <source>sharingFileName</source>
+        <translation>Solution</translation>
+    </message>
+    <message id="sharingSaved">
+        <source>sharingSaved</source>
+        <translation>Picture saved</translation>
+    </message>
+    <message id="sharingCopied">
+        <source>sharingCopied</source>
+        <translation>Picture copied</translation>
+    </message>
+    <message id="sharingNoRoom">
+        <source>sharingNoRoom</source>
+        <translation>There is not enough room for the picture. Make room or choose another place; nothing was saved.</translation>
+    </message>
+    <message id="sharingNotWritable">
+        <source>sharingNotWritable</source>
+        <translation>Nothing can be saved in this folder. Choose another one.</translation>
+    </message>
+    <message id="sharingNoViewer">
+        <source>sharingNoViewer</source>
+        <translation>No program was found that shows pictures. Save the picture instead.</translation>
+    </message>
     <message id="manualButton">
         <source>manualButton</source>
         <translation>How it works</translation>

@@ -5,8 +5,8 @@
 
 namespace tavi {
 
-/// Opens addresses outside the application. Addresses come from remote records, so only web and mail ones
-/// ever leave.
+/// Opens addresses and files outside the application. Addresses come from remote records, so only web and
+/// mail ones ever leave.
 class Links {
  public:
   using Opener = std::function<bool(const QUrl&)>;
@@ -22,6 +22,9 @@ class Links {
 
   /// Opens the address and then calls the completion, if any, with whether that worked.
   void open(const QUrl& address, const Completion& completion = {}) const;
+
+  /// Opens a file of the application's own making with the program for its kind; whether that worked.
+  bool openFile(const QString& path) const { return open_(QUrl::fromLocalFile(path)); }
 
   /// Replaces what asks and what opens; empty ones restore the system's.
   void setHandler(Opener canOpen, Opener open);

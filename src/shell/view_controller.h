@@ -75,6 +75,9 @@ class ViewController : public QObject {
   /// What is shown over this controller, or none.
   ViewController* presentedController() const { return presented_.get(); }
 
+  /// What shows this controller, or none.
+  ViewController* presenter() const { return presenter_; }
+
   /// Shows a message over the window, with one button "OK" if no actions are given.
   void presentAlert(const std::optional<QString>& title, const std::optional<QString>& message,
                     std::vector<AlertAction> actions, AlertStyle style);

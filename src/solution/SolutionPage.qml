@@ -6,7 +6,6 @@ Rectangle {
     id: page
 
     required property SolutionViewController controller
-    readonly property bool isWide: width >= Theme.tabletWidth
 
     View.kind: View.Plain
     color: Theme.page
@@ -30,10 +29,43 @@ Rectangle {
             width: 1
             height: page.controller.hasFooter ? table.height / 4 : 0
         }
-        delegate: SolutionStepCell {
-            controller: page.controller
-            rows: table.count
-            fontSize: page.isWide ? 24 : 20
+        delegate: Loader {
+            id: holder
+
+            required property int section
+            required property int row
+            required property int kind
+            readonly property real rowHeight: page.controller.heightForRow(section, row, page.width)
+
+            width: table.width
+            sourceComponent: [stepCell, chartCell, videoCell][kind]
+
+            Component {
+                id: stepCell
+
+                SolutionStepCell {
+                    width: holder.width
+                    rowHeight: holder.rowHeight
+                    formulaSize: formulaSizeFor(page.width)
+                    Component.onCompleted: page.controller.cellForRow(this, holder.section, holder.row)
+                }
+            }
+            Component {
+                id: chartCell
+
+                ChartTableViewCell {
+                    height: holder.rowHeight
+                    Component.onCompleted: page.controller.cellForRow(this, holder.section, holder.row)
+                }
+            }
+            Component {
+                id: videoCell
+
+                VideoCollectionTableViewCell {
+                    height: holder.rowHeight
+                    Component.onCompleted: page.controller.cellForRow(this, holder.section, holder.row)
+                }
+            }
         }
 
         Keys.onPressed: event => {

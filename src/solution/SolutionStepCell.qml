@@ -2,25 +2,18 @@ import QtQuick
 import Tavi
 
 // A row of the solution: a title over a formula that scrolls sideways and is never shrunk. It is as high as the
-// controller says, and higher only where the formula would be cut.
+// controller says, and higher only where the formula would be cut. StepRowPicture draws the same for a picture.
 SolutionStepTableViewCell {
     id: cell
 
-    required property int index
-    required property SolutionViewController controller
-    required property int rows
-    required property real fontSize
-    property real rowHeight
-
-    readonly property bool isFirst: index === 0
-    readonly property bool isLast: index === rows - 1
+    required property real rowHeight
     readonly property bool hasTitle: stepTitle !== ""
     readonly property int corner: 12
     readonly property real headHeight: hasTitle ? 12 + title.height + 8 : 8
 
-    width: ListView.view.width
     height: Math.max(rowHeight, headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + 12)
-    Component.onCompleted: rowHeight = controller.configureCell(cell, index)
+    Accessible.role: Accessible.StaticText
+    Accessible.name: [stepTitle, message || formula.spokenText].filter(text => text).join(", ")
 
     // The card of the whole table is rounded where it begins and ends.
     Rectangle {
@@ -62,8 +55,7 @@ SolutionStepTableViewCell {
         font: cell.titleFont
         color: Theme.label
         wrapMode: Text.Wrap
-        Accessible.role: Accessible.StaticText
-        Accessible.name: text
+        Accessible.ignored: true
     }
 
     Text {
@@ -76,10 +68,11 @@ SolutionStepTableViewCell {
         visible: text
         text: cell.message
         textFormat: Text.PlainText
-        font.pixelSize: 16
+        font: Theme.book(16)
         color: Theme.label
         wrapMode: Text.Wrap
         verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
     }
 
     Flickable {
@@ -112,9 +105,10 @@ SolutionStepTableViewCell {
             height: implicitHeight
             visible: scrollView.visible
             latex: cell.latex
-            fontSize: cell.fontSize
+            fontSize: cell.formulaSize
             textColor: Theme.label
             backgroundColor: Theme.background
+            Accessible.ignored: true
         }
     }
 

@@ -1,13 +1,22 @@
 #include "solution/solution_view_controller.h"
 
+#include <QTimer>
+
 #include "appearance/color_manager.h"
 #include "number/fatal_stop.h"
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "remote/analytics_events.h"
+#include "shell/alert_controller.h"
 #include "shell/page_tab_bar_controller.h"
+#include "shell/screenshot.h"
 #include "shell/toolbar_controller.h"
+#include "shell/view_manager.h"
+#include "solution/chart_table_view_cell.h"
+#include "solution/share_sheet_controller.h"
+#include "solution/solution_table_source.h"
 #include "solution/step_records.h"
+#include "solution/table_capture.h"
 
 namespace tavi {
 
@@ -19,16 +28,18 @@ SolutionViewController::SolutionViewController(const RemoteConfigManager& remote
 
 void SolutionViewController::showSolution(AppPageTabBarController* tabs,
                                           const std::optional<SolutionSteps>& solutionSteps,
-                                          const QString& manualImageName,
+                                          const std::optional<ChartRows>& chartSteps,
+                                          const std::optional<QString>& manualImageName,
                                           const std::optional<RowHeights>& configuredRowHeight,
                                           double rowHeight) {
   if (!tabs) return;
   auto* page = qobject_cast<SolutionViewController*>(elementAt(tabs->viewControllers(), 1).get());
   if (!page || !solutionSteps) return;
-  page->solutionSteps_ = *solutionSteps;
+  page->data_.solutionSteps = *solutionSteps;
+  page->data_.chartSteps = required(chartSteps, "a solution without a list of charts");
+  page->data_.configuredRowHeight = configuredRowHeight;
+  page->data_.rowHeight = rowHeight;
   page->manualImageName_ = manualImageName;
-  page->configuredRowHeight_ = configuredRowHeight;
-  page->rowHeight_ = rowHeight;
   page->reloadTable();
   page->scrollToTop();
   tabs->select(1);
@@ -36,62 +47,99 @@ void SolutionViewController::showSolution(AppPageTabBarController* tabs,
 
 void SolutionViewController::handleClearAllButton() {
   scrollToTop();
-  solutionSteps_.clear();
+  data_.solutionSteps.clear();
+  data_.chartSteps.clear();
   updateTabItem();
-  manualImageName_.clear();
+  manualImageName_.reset();
   hasFooter_ = false;
   reloadTable();
   emit layoutChanged();
 }
 
-double SolutionViewController::heightForRow(int row) const {
-  return configuredRowHeight_ ? configuredRowHeight_->value(row, rowHeight_) : rowHeight_;
+void SolutionViewController::cellForRow(TableViewCell* cell, int section, int row) {
+  data_.configureCell(*cell, section, row);
+  if (auto* chart = qobject_cast<ChartTableViewCell*>(cell)) {
+    constexpr std::chrono::milliseconds chartStart{500};
+    QTimer::singleShot(chartStart, chart, &ChartTableViewCell::startChartAnimation);
+  }
 }
 
-double SolutionViewController::configureCell(SolutionStepTableViewCell* cell, int row) const {
-  const SolutionStep& step = elementAt(solutionSteps_, static_cast<std::size_t>(row));
-  cell->setStepTitle(QString::fromStdString(required(step.title, "a step has no title")));
-  cell->setStepContent(step);
-  return heightForRow(row);
+double SolutionViewController::heightForRow(int section, int row, double viewWidth) const {
+  return row < data_.numberOfRows(section) ? data_.heightForRow(section, row, viewWidth) : 0;
 }
 
-/// Making and sharing the picture of the solution is not there yet.
 void SolutionViewController::tappedShareButton() {
-  const QVariantList records = stepRecords(solutionSteps_);
+  const QVariantList records = stepRecords(data_.solutionSteps);
   Analytics::logEvent(events::taviTappedShare,
                       QVariantMap{{QStringLiteral("solutionSteps"), records},
                                   {QStringLiteral("solutionStepsCount"), qlonglong{records.size()}}});
+  share();
+}
+
+/// The message and the picture race: whichever is done last finds the picture there and nothing shown over
+/// the page, and so shows the one sheet.
+QCoro::Task<> SolutionViewController::share() {
+  if (data_.solutionSteps.empty()) co_return;
+  isTakingScreenshot = true;
+  ViewManager::showSpinner();
+  const QPointer<SolutionViewController> self(this);
+  const auto items = std::make_shared<ShareItems>();
+  presentAlert(localized("sharingImageQualityTitle"), localized("sharingImageQualityText"),
+               {{localized("OK"),
+                 [self, items] {
+                   if (self) self->presentShareSheet(*items);
+                 }}},
+               AlertStyle::alert);
+  const double viewWidth = view() ? view()->width() : 0;
+  const double tableWidth = tableView_ ? tableView_->width() : viewWidth;
+  const auto table = std::make_shared<SolutionTableSource>(data_, viewWidth, tableWidth, view());
+  const QImage image = co_await tableViewScreenshot(table);
+  if (!image.isNull()) items->push_back(image);
+  ViewManager::hideSpinner();
+  isTakingScreenshot = false;
+  if (self) self->presentShareSheet(*items);
+}
+
+void SolutionViewController::presentShareSheet(const ShareItems& items) {
+  if (items.empty()) return;
+  auto sheet = std::make_shared<ShareSheetController>(items.front());
+  if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/ShareSheet.qml"));
+  present(std::move(sheet));
 }
 
 void SolutionViewController::manualButtonPressed() {
-  if (!manualImageName_.isEmpty()) emit manualRequested(manualImageName_);
+  if (manualImageName_ && !manualImageName_->isEmpty()) emit manualRequested(*manualImageName_);
 }
 
 void SolutionViewController::viewDidLoad() {
   updateTabItem();
   notifications_.observe(clearCurrentCalculation, this, [this] { handleClearAllButton(); });
+  if (!view()) return;
+  tableView_ = view()->findChild<QQuickItem*>(QStringLiteral("solutionTable"));
+  if (!tableView_) fatalStop("Der trailing Constraint der tableView wurde nicht gefunden.");
 }
 
 void SolutionViewController::viewWillAppear() {
-  isManualButtonHidden_ = manualImageName_.isEmpty();
-  isShareButtonHidden_ = solutionSteps_.empty();
+  if (view()) ColorManager::applyStyleToSubviews(*view());
+  isManualButtonHidden_ = !manualImageName_ || manualImageName_->isEmpty();
+  isShareButtonHidden_ = data_.solutionSteps.empty();
   updateTabItem();
-  videoUrlStrings_ = remoteConfig_.videoLinks(VideoTopic::powersAndRoots);
+  data_.videoUrlStrings = remoteConfig_.videoLinks(VideoTopic::powersAndRoots);
   hasFooter_ = true;
   reloadTable();
+  if (bannerView()) bannerView()->setVisible(false);
   bottomBannerInset_ = bottomSafeAreaInset();
   emit layoutChanged();
-  if (view()) ColorManager::applyStyleToSubviews(*view());
   if (auto* toolbarController = ancestor<BasicToolbarController>())
     toolbarController->toolbar()->setTitle(localized("Calculate Title"));
 }
 
 void SolutionViewController::updateTabItem() {
-  setUpTabItem(localized("Result"), !solutionSteps_.empty());
+  setUpTabItem(localized("Result"), !data_.solutionSteps.empty());
 }
 
 void SolutionViewController::scrollToTop() {
-  if (table_.rowCount() > 0) emit scrollToTopRequested();
+  if (!data_.solutionSteps.empty()) emit scrollToTopRequested();
 }
 
 }  // namespace tavi

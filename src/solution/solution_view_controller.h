@@ -1,22 +1,25 @@
 #pragma once
 
-#include <QHash>
+#include <QCoroTask>
+#include <QPointer>
 #include <QStringList>
+#include <chrono>
+#include <memory>
 #include <optional>
+#include <vector>
 
-#include "output/string_output.h"
 #include "platform/notification_center.h"
 #include "remote/remote_config_manager.h"
-#include "shell/table_rows.h"
 #include "shell/view_controller.h"
-#include "solution/solution_step_cell.h"
+#include "solution/solution_table.h"
+#include "solution/solution_table_data.h"
 
 namespace tavi {
 
 class AppPageTabBarController;
 
-/// The second page: one solved problem as a table of steps, with the buttons to share it and to open the
-/// manual.
+/// The second page: one solved problem as a table of steps, charts and videos, with the buttons to share it
+/// and to open the manual.
 class SolutionViewController : public AdHandlingViewController {
   Q_OBJECT
   QML_ELEMENT
@@ -31,35 +34,38 @@ class SolutionViewController : public AdHandlingViewController {
   /// Posted by the calculate screen when the page shall forget its solution and cannot be reached otherwise.
   static constexpr QLatin1StringView clearCurrentCalculation{"ClearCurrentCalculationNotification"};
 
-  /// Heights of single rows by row index, in device-independent pixels.
-  using RowHeights = QHash<int, double>;
+  using RowHeights = SolutionTableData::RowHeights;
 
   explicit SolutionViewController(const RemoteConfigManager& remoteConfig = RemoteConfigManager::shared(),
                                   NotificationCenter& notifications = NotificationCenter::shared());
 
   /// Fills the solution page of the tabs (page 1) and opens it; nothing without tabs or steps. Fewer than two
-  /// pages is a fatal stop. A row has the height configured for it or else `rowHeight`.
+  /// pages is a fatal stop, and so are steps without a list of charts. A step has the height configured for
+  /// its row or else `rowHeight`.
   static void showSolution(AppPageTabBarController* tabs, const std::optional<SolutionSteps>& solutionSteps,
-                           const QString& manualImageName,
+                           const std::optional<ChartRows>& chartSteps,
+                           const std::optional<QString>& manualImageName,
                            const std::optional<RowHeights>& configuredRowHeight, double rowHeight);
 
   /// Forgets the solution: the table is empty and the tab cannot be opened.
   void handleClearAllButton();
 
-  const SolutionSteps& solutionSteps() const { return solutionSteps_; }
-  const QStringList& videoUrlStrings() const { return videoUrlStrings_; }
+  const SolutionSteps& solutionSteps() const { return data_.solutionSteps; }
+  const ChartRows& chartSteps() const { return data_.chartSteps; }
+  const QStringList& videoUrlStrings() const { return data_.videoUrlStrings; }
 
-  TableRows* table() { return &table_; }
-  double heightForRow(int row) const;
+  SolutionTable* table() { return &table_; }
   bool isShareButtonHidden() const { return isShareButtonHidden_; }
   bool isManualButtonHidden() const { return isManualButtonHidden_; }
   bool hasFooter() const { return hasFooter_; }  ///< A quarter of the table's height, empty.
   double bottomBannerInset() const { return bottomBannerInset_; }
 
   // What the page calls.
-  /// Fills a cell that comes into view and answers the height of its row. A step without a title is a fatal
-  /// stop.
-  Q_INVOKABLE double configureCell(tavi::SolutionStepTableViewCell* cell, int row) const;
+  /// Fills a cell that comes into view. A chart is started half a second later.
+  Q_INVOKABLE void cellForRow(tavi::TableViewCell* cell, int section, int row);
+  /// On a page of that width; 0 for a row that is gone, whose cell still goes.
+  Q_INVOKABLE double heightForRow(int section, int row, double viewWidth) const;
+  /// Pictures the whole table while a message says so, and then offers the picture.
   Q_INVOKABLE void tappedShareButton();
   Q_INVOKABLE void manualButtonPressed();
 
@@ -73,19 +79,21 @@ class SolutionViewController : public AdHandlingViewController {
   void viewWillAppear() override;
 
  private:
+  using ShareItems = std::vector<QImage>;
+
   void updateTabItem();
-  void reloadTable() { table_.reload(static_cast<int>(solutionSteps_.size())); }
+  void reloadTable() { table_.reload(data_); }
   void scrollToTop();
+  QCoro::Task<> share();
+  void presentShareSheet(const ShareItems& items);
 
   const RemoteConfigManager& remoteConfig_;
   NotificationCenter& notifications_;
-  SolutionSteps solutionSteps_;
-  QStringList videoUrlStrings_;
-  QString manualImageName_;
-  std::optional<RowHeights> configuredRowHeight_;
-  double rowHeight_ = 0;
+  SolutionTableData data_;
+  QPointer<QQuickItem> tableView_;
+  std::optional<QString> manualImageName_;
 
-  TableRows table_;
+  SolutionTable table_;
   bool isShareButtonHidden_ = true;
   bool isManualButtonHidden_ = true;
   bool hasFooter_ = false;

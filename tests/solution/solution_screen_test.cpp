@@ -8,6 +8,7 @@
 #include "shell/page_tab_bar_controller.h"
 #include "shell/recording_controller.h"
 #include "shell/toolbar_controller.h"
+#include "solution/solution_step_cell.h"
 #include "solution/solution_view_controller.h"
 
 namespace tavi {
@@ -30,7 +31,8 @@ class SolutionScreenTest : public testing::Test {
 
   void show(const std::optional<SolutionSteps>& steps,
             const std::optional<SolutionViewController::RowHeights>& heights = std::nullopt) {
-    SolutionViewController::showSolution(tabs.get(), steps, "qrx_info", heights, 100);
+    SolutionViewController::showSolution(tabs.get(), steps, ChartRows{}, QStringLiteral("qrx_info"), heights,
+                                         100);
   }
 
   const SolutionSteps twoSteps{step("Your Input", "2^{3}"), step("", "=8.0")};
@@ -66,31 +68,20 @@ TEST_F(SolutionScreenTest, ShowsASolutionAndOpensItsTab) {
 
 TEST_F(SolutionScreenTest, IgnoresACallWithoutTabsOrStepsAndStopsWithoutItsPage) {
   show(std::nullopt);
-  SolutionViewController::showSolution(nullptr, twoSteps, {}, {}, 100);
+  SolutionViewController::showSolution(nullptr, twoSteps, ChartRows{}, {}, {}, 100);
   EXPECT_EQ(tabs->selectedIndex(), 0);
 
   AppPageTabBarController onePage({std::make_shared<RecordingController>("only", events)});
-  EXPECT_THROW(SolutionViewController::showSolution(&onePage, twoSteps, {}, {}, 100), FatalStop);
+  EXPECT_THROW(SolutionViewController::showSolution(&onePage, twoSteps, ChartRows{}, {}, {}, 100), FatalStop);
   AppPageTabBarController noSolutionPage({std::make_shared<RecordingController>("first", events),
                                           std::make_shared<RecordingController>("second", events)});
-  SolutionViewController::showSolution(&noSolutionPage, twoSteps, {}, {}, 100);
+  SolutionViewController::showSolution(&noSolutionPage, twoSteps, ChartRows{}, {}, {}, 100);
   EXPECT_EQ(noSolutionPage.selectedIndex(), 0);
 }
 
-TEST_F(SolutionScreenTest, TakesRowHeightsFromTheConfigurationFirst) {
-  show(twoSteps, SolutionViewController::RowHeights{{1, 240.0}});
-  SolutionStepTableViewCell cell;
-  EXPECT_EQ(solution->configureCell(&cell, 0), 100);
-  EXPECT_EQ(solution->configureCell(&cell, 1), 240);
-  show(twoSteps);
-  EXPECT_EQ(solution->configureCell(&cell, 1), 100);
-  EXPECT_THROW(solution->configureCell(&cell, 2), FatalStop);
-}
-
-TEST_F(SolutionScreenTest, StopsAtAStepWithoutATitle) {
-  show(SolutionSteps{SolutionStep{}});
-  SolutionStepTableViewCell cell;
-  EXPECT_THROW(solution->configureCell(&cell, 0), FatalStop);
+TEST_F(SolutionScreenTest, StopsAtASolutionWithoutAListOfCharts) {
+  EXPECT_THROW(SolutionViewController::showSolution(tabs.get(), twoSteps, std::nullopt, {}, {}, 100),
+               FatalStop);
 }
 
 TEST_F(SolutionScreenTest, MakesAllRowsAnewWithEachSolution) {

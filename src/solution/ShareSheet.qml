@@ -1,0 +1,177 @@
+import QtQuick
+import QtQuick.Dialogs
+import QtQuick.Templates as T
+import Tavi
+
+// What can be done with the picture of a solution, as a sheet that slides in at the foot of the window.
+Item {
+    id: page
+
+    required property ShareSheetController controller
+
+    T.Popup {
+        id: sheet
+
+        parent: page
+        x: (page.width - width) / 2
+        y: page.height - height
+        width: Math.min(page.width, 480)
+        height: content.implicitHeight + topPadding + bottomPadding
+        topPadding: 16
+        bottomPadding: 8
+        modal: true
+        dim: true
+        focus: true
+        closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
+        visible: true
+        onClosed: page.controller.close()
+
+        enter: Transition {
+            NumberAnimation {
+                property: "y"
+                from: page.height
+                to: page.height - sheet.height
+                duration: 200
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        T.Overlay.modal: Rectangle {
+            color: Qt.rgba(0, 0, 0, 0.5)
+        }
+        background: Rectangle {
+            color: Theme.groupedBackground
+            radius: 14
+
+            Rectangle {
+                anchors.bottom: parent.bottom
+                width: parent.width
+                height: parent.radius
+                color: parent.color
+            }
+        }
+        contentItem: Column {
+            id: content
+
+            Accessible.role: Accessible.Dialog
+            Accessible.name: heading.text
+
+            Text {
+                id: heading
+
+                width: parent.width
+                leftPadding: 24
+                rightPadding: 24
+                bottomPadding: 8
+                text: qsTrId("shareButton")
+                font: Theme.heavy(18)
+                color: Theme.label
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.Heading
+                Accessible.name: text
+            }
+            Text {
+                width: parent.width
+                leftPadding: 24
+                rightPadding: 24
+                bottomPadding: 8
+                visible: text
+                text: page.controller.failure
+                font: Theme.medium(14)
+                color: Theme.accentText
+                wrapMode: Text.Wrap
+                Accessible.role: Accessible.AlertMessage
+                Accessible.name: text
+            }
+
+            SheetRow {
+                objectName: "savePicture"
+                focus: true
+                text: qsTrId("sharingSave")
+                iconText: Icons.save
+                onClicked: fileDialog.active = true
+            }
+            SheetRow {
+                objectName: "copyPicture"
+                text: qsTrId("sharingCopy")
+                iconText: Icons.copy
+                onClicked: page.controller.copyPicture()
+            }
+            SheetRow {
+                objectName: "openPicture"
+                text: qsTrId("sharingOpen")
+                iconText: Icons.open
+                onClicked: page.controller.openPicture()
+            }
+            SheetRow {
+                objectName: "closeSheet"
+                enabled: true
+                text: qsTrId("Cancel")
+                iconText: Icons.close
+                onClicked: sheet.close()
+            }
+        }
+    }
+
+    component SheetRow: T.AbstractButton {
+        id: row
+
+        property string iconText
+
+        width: content.width
+        height: 56
+        enabled: !page.controller.isBusy
+        opacity: enabled ? 1 : 0.4
+        Accessible.role: Accessible.Button
+        Accessible.name: text
+        Keys.onDownPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
+        Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+        Keys.onReturnPressed: click()
+
+        background: Rectangle {
+            color: Theme.label
+            opacity: row.down ? 0.12 : 0
+        }
+        contentItem: Row {
+            leftPadding: 24
+            spacing: 24
+
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.iconText
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.text
+                font: Theme.book(16)
+                color: Theme.label
+                Accessible.ignored: true
+            }
+        }
+
+        FocusRing {
+            control: row
+        }
+    }
+
+    // The dialog takes long to load, and mostly is not needed.
+    Loader {
+        id: fileDialog
+
+        active: false
+        sourceComponent: FileDialog {
+            fileMode: FileDialog.SaveFile
+            title: qsTrId("sharingSave")
+            currentFolder: page.controller.picturesFolder
+            selectedFile: page.controller.proposedFile
+            defaultSuffix: "png"
+            nameFilters: ["PNG (*.png)"]
+            Component.onCompleted: open()
+            onAccepted: {
+                fileDialog.active = false;
+                page.controller.savePicture(selectedFile);
+            }
+            onRejected: fileDialog.active = false
+        }
+    }
+}

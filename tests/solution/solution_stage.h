@@ -1,0 +1,76 @@
+#pragma once
+
+#include <QQmlEngine>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTest>
+#include <algorithm>
+#include <memory>
+#include <vector>
+
+#include <gtest/gtest.h>
+
+#include "shell/controller_host.h"
+#include "shell/page_tab_bar_controller.h"
+#include "shell/toolbar_controller.h"
+#include "solution/solution_step_cell.h"
+#include "solution/solution_view_controller.h"
+
+namespace tavi {
+
+inline SolutionStep formulaStep(std::string title, std::string latex) {
+  return {.title = std::move(title), .latexString = std::move(latex), .messageString = std::nullopt};
+}
+
+/// The solution page as the second of two tabs under a toolbar, in a window.
+class SolutionStage : public testing::Test {
+ protected:
+  SolutionStage() {
+    window.resize(412, 744);
+    window.show();
+    window.requestActivate();
+    solution->setPage(engine, "solution/SolutionPage.qml");
+    tabs->setPage(engine, "shell/TabsPage.qml");
+    root->setPage(engine, "shell/ToolbarPage.qml");
+    root->beginAppearance();
+    host.setParentItem(window.contentItem());
+    host.setSize(window.size());
+    host.setController(root.get());
+    root->endAppearance();
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+  }
+
+  void show(const SolutionSteps& steps, const ChartRows& charts = {}) {
+    SolutionViewController::showSolution(tabs.get(), steps, charts, QStringLiteral("qrx_info"), std::nullopt,
+                                         100);
+    window.grabWindow();
+  }
+
+  QQuickItem& table() { return *solution->view()->findChild<QQuickItem*>("solutionTable"); }
+
+  /// The cells of that kind that exist, from the top.
+  template <typename Cell = SolutionStepTableViewCell>
+  std::vector<Cell*> cells() {
+    std::vector<Cell*> found;
+    for (QQuickItem* holder : table().property("contentItem").value<QQuickItem*>()->childItems())
+      for (QQuickItem* item : holder->childItems())
+        if (auto* cell = qobject_cast<Cell*>(item); cell && cell->isVisible()) found.push_back(cell);
+    std::ranges::sort(found, {}, [](QQuickItem* cell) { return cell->mapToScene({}).y(); });
+    return found;
+  }
+
+  QTemporaryDir folder;
+  RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};
+  RemoteConfigManager remoteConfigManager{remoteConfig};
+  NotificationCenter notifications;
+  QQmlEngine engine;
+  QQuickWindow window;
+  std::shared_ptr<SolutionViewController> solution =
+      std::make_shared<SolutionViewController>(remoteConfigManager, notifications);
+  std::shared_ptr<AppPageTabBarController> tabs = std::make_shared<AppPageTabBarController>(
+      std::vector<std::shared_ptr<ViewController>>{std::make_shared<ViewController>(), solution});
+  std::shared_ptr<AppToolbarController> root = std::make_shared<AppToolbarController>(tabs);
+  ControllerHost host;
+};
+
+}  // namespace tavi
