@@ -13,7 +13,7 @@ Item {
         x: (page.width - width) / 2
         y: (page.height - height) / 2
         width: Math.min(540, page.width - 32)
-        height: Math.min(620, page.height - 96)
+        height: Math.min(240, page.height - 96)
         modal: true
         dim: true
         focus: true

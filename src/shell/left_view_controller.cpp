@@ -96,7 +96,7 @@ QStringList LeftViewController::rowTitles(int section) const {
   }
 }
 
-QString LeftViewController::titleForHeader(int section) const {
+QString LeftViewController::titleForHeader(int section) {
   const char* key = elementAt(headerKeys, static_cast<std::size_t>(section));
   return key ? u' ' + localized(key) : QString();
 }

@@ -50,7 +50,7 @@ class LeftViewController : public ViewController {
 
   // What the page calls.
   /// The text over a section, empty over the first one.
-  Q_INVOKABLE QString titleForHeader(int section) const;
+  Q_INVOKABLE static QString titleForHeader(int section);
   /// The tap on a row. A row that is not there is a fatal stop, and so are an application's links that are no
   /// addresses and, for the history, a menu without a drawer around the pages.
   Q_INVOKABLE void didSelectRow(int section, int row);
@@ -83,7 +83,7 @@ class LeftViewController : public ViewController {
   void presentSheet(const char* titleKey);
   void openCommunity();
   void openApp(std::span<const AppMetaData> apps, int row) const;
-  bool openIfPossible(const QString& address) const;
+  bool openIfPossible(const QString& text) const;
 
   Screens screens_;
   AppServices services_;

@@ -167,7 +167,7 @@ Item {
             mouseClick(item("menuRow 0 2"));
             verify(hasSheet());
             wait(50);
-            mouseClick(item("sheet"), 20, 300);
+            mouseClick(item("sheet"), 20, 120);
             mouseClick(root, 2, 400);
             mouseClick(root, 408, 400);
             verify(hasSheet());
