@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include "shell/screenshot.h"
+#include "solution/share_sheet_controller.h"
+
 namespace tavi::tour {
 
 namespace {
@@ -98,6 +101,19 @@ void Stage::scrollWideLine() {
   QTest::touchEvent(&window(), finger_.get()).release(0, start - QPoint(150, 0));
   waitUntil([line] { return !line->property("moving").toBool(); }, "the line comes to rest");
   if (line->property("contentX").toReal() <= 0) throw Failure("the wide line does not scroll");
+}
+
+void Stage::share() {
+  tap(QStringLiteral("shareButton"));
+  waitUntil([this] { return shows(QStringLiteral("alertAction0")); }, "a message says what is coming");
+  waitUntil([] { return !isTakingScreenshot; }, "the picture is made");
+  tap(QStringLiteral("alertAction0"));
+  waitUntil([this] { return !sharedPicture().isNull(); }, "the picture is offered");
+}
+
+QImage Stage::sharedPicture() {
+  const auto* sheet = qobject_cast<ShareSheetController*>(delegate().drawer()->presentedController());
+  return sheet == nullptr ? QImage() : sheet->picture();
 }
 
 void waitUntil(const std::function<bool()>& isReached, const std::string& what) {

@@ -53,6 +53,12 @@ class Stage {
   /// Draws a finger to the left over the first formula that is wider than the page.
   void scrollWideLine();
 
+  /// Shares the solution that is open, up to the sheet that offers the picture.
+  void share();
+
+  /// The picture that a sheet offers; null without one.
+  QImage sharedPicture();
+
   void waitForToastsToGo() const;
 
   /// What the window shows once everything has come to rest.

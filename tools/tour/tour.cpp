@@ -65,6 +65,21 @@ void typing(Stage& stage) {
   stage.tap(QStringLiteral("exponentField"));
 }
 
+void shareManySteps(Stage& stage) {
+  manySteps(stage);
+  stage.share();
+}
+
+void shareWideLine(Stage& stage) {
+  stage.solve(Mode::power, u"30", u"2");
+  stage.share();
+}
+
+void shareNoSolution(Stage& stage) {
+  noSolution(stage);
+  stage.share();
+}
+
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 
@@ -82,9 +97,15 @@ constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"12-dark-drawer", openDrawer}});
 constexpr auto tabletSteps = std::to_array<Step>(
     {{"13-tablet-input", typing}, {"14-tablet-solution", manySteps}, {"15-tablet-drawer", openDrawer}});
+constexpr auto shareSteps = std::to_array<Step>({{"16-share", shareManySteps}});
+constexpr auto darkShareSteps = std::to_array<Step>({{"17-dark-share", shareWideLine}});
+constexpr auto tabletShareSteps = std::to_array<Step>({{"18-tablet-share", shareNoSolution}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
-                                              {"tablet", tablet, false, tabletSteps}});
+                                              {"tablet", tablet, false, tabletSteps},
+                                              {"share", phone, false, shareSteps},
+                                              {"dark-share", phone, true, darkShareSteps},
+                                              {"tablet-share", tablet, false, tabletShareSteps}});
 
 }  // namespace
 
