@@ -355,6 +355,10 @@
         <source>sharingSave</source>
         <translation>Bild speichern</translation>
     </message>
+    <message id="sharingSaveHere">
+        <source>sharingSaveHere</source>
+        <translation>Speichern</translation>
+    </message>
     <message id="sharingCopy">
         <source>sharingCopy</source>
         <translation>Bild kopieren</translation>

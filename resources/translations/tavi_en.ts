@@ -355,6 +355,10 @@
         <source>sharingSave</source>
         <translation>Save picture</translation>
     </message>
+    <message id="sharingSaveHere">
+        <source>sharingSaveHere</source>
+        <translation>Save</translation>
+    </message>
     <message id="sharingCopy">
         <source>sharingCopy</source>
         <translation>Copy picture</translation>

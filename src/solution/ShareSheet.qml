@@ -12,9 +12,11 @@ Item {
     T.Popup {
         id: sheet
 
+        property real risen
+
         parent: page
         x: (page.width - width) / 2
-        y: page.height - height
+        y: page.height - risen * height
         width: Math.min(page.width, 480)
         height: content.implicitHeight + topPadding + bottomPadding
         topPadding: 16
@@ -27,13 +29,10 @@ Item {
         onClosed: page.controller.close()
 
         enter: Transition {
-            NumberAnimation {
-                property: "y"
-                from: page.height
-                to: page.height - sheet.height
-                duration: 200
-                easing.type: Easing.OutCubic
-            }
+            NumberAnimation { property: "risen"; to: 1; duration: 200; easing.type: Easing.OutCubic }
+        }
+        exit: Transition {
+            NumberAnimation { property: "risen"; to: 0; duration: 150; easing.type: Easing.InCubic }
         }
 
         T.Overlay.modal: Rectangle {
@@ -105,7 +104,6 @@ Item {
             }
             SheetRow {
                 objectName: "closeSheet"
-                enabled: true
                 text: qsTrId("Cancel")
                 iconText: Icons.close
                 onClicked: sheet.close()
@@ -165,11 +163,12 @@ Item {
             currentFolder: page.controller.picturesFolder
             selectedFile: page.controller.proposedFile
             defaultSuffix: "png"
-            nameFilters: ["PNG (*.png)"]
+            acceptLabel: qsTrId("sharingSaveHere")
+            rejectLabel: qsTrId("Cancel")
             Component.onCompleted: open()
             onAccepted: {
-                fileDialog.active = false;
                 page.controller.savePicture(selectedFile);
+                fileDialog.active = false;
             }
             onRejected: fileDialog.active = false
         }

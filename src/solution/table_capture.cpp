@@ -1,6 +1,7 @@
 #include "solution/table_capture.h"
 
 #include <QCoroTimer>
+#include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QPainter>
 #include <QPointer>
@@ -62,17 +63,30 @@ QSize pixels(QSizeF size, double scale) {
           static_cast<int>(std::floor(size.height() * scale))};
 }
 
-/// Lets the interface live.
-QCoro::Task<> breath() {
-  return QCoro::sleepFor(std::chrono::milliseconds(0));
-}
+/// Lets the interface live: after each piece of work, events are handled if they have waited for a while. At
+/// every row they would be handled in vain most of the time.
+class Pace {
+ public:
+  Pace() { sinceEvents_.start(); }
+
+  QCoro::Task<> breath() {
+    constexpr int longestWait = 8;  // milliseconds, half a frame
+    if (sinceEvents_.elapsed() < longestWait) co_return;
+    co_await QCoro::sleepFor(std::chrono::milliseconds(0));
+    sinceEvents_.start();
+  }
+
+ private:
+  QElapsedTimer sinceEvents_;
+};
 
 void captureSectionEdge(const SectionEdge& edge, Pieces& pieces) {
   if (!edge.size.isEmpty()) pieces.push_back({.size = edge.size, .view = edge.view});
 }
 
 /// Cells for all rows, as wide as the widest must be, between the edges of their sections.
-QCoro::Task<Pieces> piecesOf(std::shared_ptr<const TableDataSource> table, CaptureOptions options) {
+QCoro::Task<Pieces> piecesOf(std::shared_ptr<const TableDataSource> table, CaptureOptions options,
+                             Pace& pace) {
   Pieces pieces;
   if (QQuickItem* header = table->tableHeaderView())
     pieces.push_back({.size = header->size(), .view = header});
@@ -85,7 +99,7 @@ QCoro::Task<Pieces> piecesOf(std::shared_ptr<const TableDataSource> table, Captu
       if (!cell) continue;
       width = std::max(width, cell->widthForPicture());
       pieces.push_back({.size = {0, table->heightForRow(section, row)}, .cell = std::move(cell)});
-      co_await breath();
+      co_await pace.breath();
     }
     if (isIncluded(options.includedFooterSections, section))
       captureSectionEdge(table->footer(section), pieces);
@@ -128,7 +142,8 @@ double pictureScale(QSizeF size, double wanted) {
 QCoro::Task<QImage> tableViewScreenshot(std::shared_ptr<const TableDataSource> table,
                                         CaptureOptions options) {
   constexpr double leastScale = 2;
-  Pieces pieces = co_await piecesOf(table, options);
+  Pace pace;
+  Pieces pieces = co_await piecesOf(table, options, pace);
   QSizeF content(0, 0);
   for (const Piece& piece : pieces)
     content = {std::max(content.width(), piece.size.width()), content.height() + piece.size.height()};
@@ -147,7 +162,7 @@ QCoro::Task<QImage> tableViewScreenshot(std::shared_ptr<const TableDataSource> t
     const QImage picture = co_await capture(piece, table->cellParent(), scale, options.chartDelay);
     piece.cell.reset();
     if (!picture.isNull()) image.append(picture);
-    co_await breath();
+    co_await pace.breath();
   }
   co_return image.take();
 }

@@ -52,7 +52,7 @@ struct CaptureOptions {
 
 /// The most pixels a picture of a table has in width and in height, which is what viewers open, and in all.
 inline constexpr int largestPictureSide = 16'384;
-inline constexpr double mostPicturePixels = 32e6;
+inline constexpr double mostPicturePixels = 16e6;
 
 /// Pixels to a device-independent one for a picture of that size: `wanted`, or less where the picture would
 /// be too large.

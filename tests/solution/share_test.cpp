@@ -98,13 +98,18 @@ TEST_F(ShareTest, TheKeyboardWalksTheSheetAndEscapeClosesIt) {
   EXPECT_TRUE(QTest::qWaitFor([this] { return !sheet(); }));
 }
 
-TEST_F(ShareTest, TheRowsOfTheSheetAreLargeEnoughForAFinger) {
+TEST_F(ShareTest, TheSheetStandsAtTheFootWithRowsLargeEnoughForAFinger) {
   openSheet();
+  QTest::qWait(300);
+  double foot = 0;
   for (const char* name : {"savePicture", "copyPicture", "openPicture", "closeSheet"}) {
     const auto* row = sheet()->view()->findChild<QQuickItem*>(name);
     ASSERT_TRUE(row) << name;
     EXPECT_GE(row->height(), 48) << name;
+    foot = row->mapToScene({0, row->height()}).y();
   }
+  EXPECT_LE(foot, window.height());
+  EXPECT_GT(foot, window.height() - 20);
 }
 
 /// A sheet without a page; the picture is too large for a small disk.

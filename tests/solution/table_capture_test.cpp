@@ -232,7 +232,7 @@ TEST(SolutionPictureTest, StaysWithinWhatViewersOpen) {
     const QImage picture = pictureOf(solution(steps));
     EXPECT_LE(picture.width(), largestPictureSide) << name;
     EXPECT_LE(picture.height(), largestPictureSide) << name;
-    EXPECT_LE(picture.sizeInBytes(), qsizetype{130'000'000}) << name;
+    EXPECT_LE(picture.sizeInBytes(), qsizetype{64'000'000}) << name;
     EXPECT_GT(picture.width(), leastScale * 412) << name;
   }
 }

@@ -40,14 +40,21 @@ struct Options {
   bool isMeasuring = false;
 };
 
+void save(const QImage& picture, const QString& path) {
+  if (!picture.save(path)) throw Failure("cannot write " + path.toStdString());
+}
+
 /// Runs the steps that the options ask for; false as soon as one fails.
 bool run(const Visit& visit, const Options& options, Stage& stage) {
   for (const Step& step : visit.steps) {
     if (!options.only.isEmpty() && options.only != QLatin1StringView(step.name)) continue;
-    const QString path = QDir(options.folder).filePath(QLatin1StringView(step.name) + QStringLiteral(".png"));
+    const QString name = QDir(options.folder).filePath(QLatin1StringView(step.name));
+    const QString path = name + QStringLiteral(".png");
     try {
       step.act(stage);
-      if (!stage.picture().save(path)) throw Failure("cannot write " + path.toStdString());
+      save(stage.picture(), path);
+      if (const QImage shared = stage.sharedPicture(); !shared.isNull())
+        save(shared, name + QStringLiteral("-picture.png"));
     } catch (const Failure& failure) {
       std::fprintf(stderr, "%s: %s\n", step.name, failure.what());
       return false;
@@ -77,7 +84,7 @@ Options parse(const QStringList& arguments) {
       QStringLiteral("Goes through the application as a finger would and takes a picture at every station."));
   parser.addHelpOption();
   parser.addPositionalArgument(QStringLiteral("folder"), QStringLiteral("where the pictures go"));
-  parser.addOption({QStringLiteral("visit"), QStringLiteral("only this run: phone, dark or tablet"),
+  parser.addOption({QStringLiteral("visit"), QStringLiteral("only this run, such as phone or dark"),
                     QStringLiteral("name")});
   parser.addOption({QStringLiteral("only"), QStringLiteral("only this picture, such as 02-power"),
                     QStringLiteral("name")});

@@ -4,14 +4,14 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QTimer>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <map>
 #include <optional>
 #include <utility>
 #include <vector>
-
-#include <unistd.h>
 
 #include "shell/calc_manager.h"
 #include "shell/history_table_view_cell.h"
@@ -32,6 +32,15 @@ constexpr const char* memory = "resident with solution open, MB";
 constexpr const char* history = "opening the history to its first frame, ms";
 constexpr const char* historyRows = "rows of the history that are typeset";
 constexpr const char* adding = "adding a record, ms";
+constexpr const char* sharing = "picture of 300 rows, ms";
+constexpr const char* sharingBlock = "300 rows: longest without events, ms";
+constexpr const char* sharingMemory = "300 rows: peak memory beyond before, MB";
+constexpr const char* sharingWide = "picture of a line of 10,000 factors, ms";
+constexpr const char* sharingWideBlock = "10,000 factors: longest without events, ms";
+constexpr const char* sharingWideMemory = "10,000 factors: peak memory beyond before, MB";
+constexpr auto figureNames = std::to_array<const char*>(
+    {firstFrame, solution, slowestSolution, longSolution, memory, history, historyRows, adding, sharing,
+     sharingBlock, sharingMemory, sharingWide, sharingWideBlock, sharingWideMemory});
 
 using Figures = std::map<QByteArray, std::vector<double>>;
 
@@ -44,11 +53,13 @@ void tell(const char* name, double figure) {
   std::fflush(stdout);
 }
 
-double residentMegabytes() {
-  QFile file(QStringLiteral("/proc/self/statm"));
+/// A line of this process's status, such as "VmRSS" or, for its peak, "VmHWM".
+double statusMegabytes(const char* name) {
+  QFile file(QStringLiteral("/proc/self/status"));
   if (!file.open(QIODevice::ReadOnly)) return 0;
-  const double pages = file.readAll().split(' ').value(1).toDouble();
-  return pages * static_cast<double>(sysconf(_SC_PAGESIZE)) / 1e6;
+  for (const QByteArray& line : file.readAll().split('\n'))
+    if (line.startsWith(name)) return line.simplified().split(' ').value(1).toDouble() * 1024 / 1e6;
+  return 0;
 }
 
 struct Task {
@@ -151,6 +162,34 @@ void fillStore() {
   if (CalcManager(store).calculations().size() != manyRecords) throw Failure("the history is not filled");
 }
 
+/// Shares a working, which stays open, and tells what that took.
+void share(Stage& stage, const SolutionSteps& steps, const std::array<const char*, 3>& names) {
+  stage.delegate().pageTabBarController()->select(0);
+  SolutionViewController::showSolution(stage.delegate().pageTabBarController().get(), steps, ChartRows{},
+                                       std::nullopt, std::nullopt, 100);
+  stage.picture();
+  const double before = statusMegabytes("VmRSS");
+  QElapsedTimer sinceTick;
+  double longest = 0;
+  QTimer ticking;
+  QObject::connect(&ticking, &QTimer::timeout, &ticking, [&] {
+    longest = std::max(longest, milliseconds(sinceTick));
+    sinceTick.start();
+  });
+  QElapsedTimer timer;
+  timer.start();
+  sinceTick.start();
+  ticking.start(0);
+  stage.share();
+  tell(names[0], milliseconds(timer));
+  tell(names[1], longest);
+  tell(names[2], statusMegabytes("VmHWM") - before);
+  const QSize size = stage.sharedPicture().size();
+  std::fprintf(stderr, "%s: %d x %d\n", names[0], size.width(), size.height());
+  stage.tap(QStringLiteral("closeSheet"));
+  waitUntil([&stage] { return stage.sharedPicture().isNull(); }, "the sheet is closed");
+}
+
 }  // namespace
 
 bool measure() {
@@ -160,8 +199,7 @@ bool measure() {
   fillStore();
   if (!runProbes(full)) return false;
   std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
-  for (const char* name :
-       {firstFrame, solution, slowestSolution, longSolution, memory, history, historyRows, adding})
+  for (const char* name : figureNames)
     std::printf("%-46s %10.1f %14.1f\n", name, median(empty[name]), median(full[name]));
   return true;
 }
@@ -173,19 +211,28 @@ int probe(int argumentCount, char** arguments) {
 
   tell(solution, timeToSolution(stage, {Mode::power, "-2", "3/2"}));
   stage.picture();
-  tell(memory, residentMegabytes());
+  tell(memory, statusMegabytes("VmRSS"));
 
   double slowest = 0;
   for (const Task& task : workedExamples()) slowest = std::max(slowest, timeToSolution(stage, task));
   tell(slowestSolution, slowest);
   tell(longSolution, timeToSolution(stage, {Mode::power, "1000", "2"}));
 
-  measureHistory(stage);
-
   QElapsedTimer timer;
   timer.start();
   CalcManager::shared().addCalculation(CalcManager::shared().calculation(0));
   tell(adding, milliseconds(timer));
+
+  const auto step = [](std::string latex) {
+    return SolutionStep{.title = "Step", .latexString = std::move(latex), .messageString = std::nullopt};
+  };
+  share(stage, SolutionSteps(300, step("=\\left( \\frac{2}{3} \\right)^{-2} \\approx 2.25")),
+        {sharing, sharingBlock, sharingMemory});
+  std::string factors;
+  for (int i = 0; i < 10'000; ++i) factors += "\\left( 12 \\right) ";
+  share(stage, {step(factors)}, {sharingWide, sharingWideBlock, sharingWideMemory});
+
+  measureHistory(stage);
   return 0;
 }
 

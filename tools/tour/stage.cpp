@@ -2,6 +2,9 @@
 
 #include <QTest>
 
+#include "shell/screenshot.h"
+#include "solution/share_sheet_controller.h"
+
 namespace tavi::tour {
 
 namespace {
@@ -105,6 +108,19 @@ void Stage::scrollWideLine() {
 void Stage::openHistory() {
   delegate().drawer()->dismissPresented();
   delegate().leftViewController()->didSelectRow(LeftViewController::mainSection, 1);
+}
+
+void Stage::share() {
+  tap(QStringLiteral("shareButton"));
+  waitUntil([this] { return shows(QStringLiteral("alertAction0")); }, "a message says what is coming");
+  waitUntil([] { return !isTakingScreenshot; }, "the picture is made");
+  tap(QStringLiteral("alertAction0"));
+  waitUntil([this] { return !sharedPicture().isNull(); }, "the picture is offered");
+}
+
+QImage Stage::sharedPicture() {
+  const auto* sheet = qobject_cast<ShareSheetController*>(delegate().drawer()->presentedController());
+  return sheet == nullptr ? QImage() : sheet->picture();
 }
 
 void waitUntil(const std::function<bool()>& isReached, const std::string& what) {

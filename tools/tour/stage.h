@@ -56,6 +56,12 @@ class Stage {
   /// Puts the history in the place of the pages.
   void openHistory();
 
+  /// Shares the solution that is open, up to the sheet that offers the picture.
+  void share();
+
+  /// The picture that a sheet offers; null without one.
+  QImage sharedPicture();
+
   void waitForToastsToGo() const;
 
   /// What the window shows once everything has come to rest.

@@ -115,6 +115,21 @@ void typing(Stage& stage) {
   stage.tap(QStringLiteral("exponentField"));
 }
 
+void shareManySteps(Stage& stage) {
+  manySteps(stage);
+  stage.share();
+}
+
+void shareWideLine(Stage& stage) {
+  stage.solve(Mode::power, u"30", u"2");
+  stage.share();
+}
+
+void shareNoSolution(Stage& stage) {
+  noSolution(stage);
+  stage.share();
+}
+
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 
@@ -145,9 +160,15 @@ constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
                                                   {"23-tablet-history", history},
                                                   {"24-tablet-edit-history", editHistory},
                                                   {"27-tablet-introduction", introduction}});
+constexpr auto shareSteps = std::to_array<Step>({{"28-share", shareManySteps}});
+constexpr auto darkShareSteps = std::to_array<Step>({{"29-dark-share", shareWideLine}});
+constexpr auto tabletShareSteps = std::to_array<Step>({{"30-tablet-share", shareNoSolution}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
-                                              {"tablet", tablet, false, tabletSteps}});
+                                              {"tablet", tablet, false, tabletSteps},
+                                              {"share", phone, false, shareSteps},
+                                              {"dark-share", phone, true, darkShareSteps},
+                                              {"tablet-share", tablet, false, tabletShareSteps}});
 
 }  // namespace
 
