@@ -11,7 +11,7 @@
 namespace tavi {
 namespace {
 
-const QJsonObject app{{"appIdentifiers", QJsonArray{"a", "b"}},
+const QJsonObject appRecord{{"appIdentifiers", QJsonArray{"a", "b"}},
                       {"appName", QJsonObject{{"en", "Name"}}},
                       {"appURL", "1"},
                       {"appURLPro", "2"},
@@ -25,11 +25,11 @@ const QJsonObject app{{"appIdentifiers", QJsonArray{"a", "b"}},
                       {"unknown", QJsonArray{1}}};
 
 Decoded<AllAppMetaData> decodeOne(const QJsonObject& record) {
-  return decodeApps(QJsonDocument(QJsonObject{{"apps", QJsonArray{app, record}}}).toJson());
+  return decodeApps(QJsonDocument(QJsonObject{{"apps", QJsonArray{appRecord, record}}}).toJson());
 }
 
 TEST(RemoteRecordsTest, AppsTakeEveryFieldByName) {
-  const Decoded<AllAppMetaData> decoded = decodeOne(app);
+  const Decoded<AllAppMetaData> decoded = decodeOne(appRecord);
   ASSERT_TRUE(decoded.value) << decoded.error.toStdString();
   EXPECT_EQ(decoded.value->apps[1], (AppMetaData{.appIdentifiers = {"a", "b"},
                                                  .appName = {{"en", "Name"}},
@@ -45,15 +45,15 @@ TEST(RemoteRecordsTest, AppsTakeEveryFieldByName) {
 }
 
 TEST(RemoteRecordsTest, OneBadFieldOfOneAppFailsTheWhole) {
-  for (const QString& field : app.keys()) {
+  for (const QString& field : appRecord.keys()) {
     if (field == "unknown") continue;
-    QJsonObject without = app;
+    QJsonObject without = appRecord;
     without.remove(field);
     EXPECT_EQ(decodeOne(without).value.has_value(), field == "isMultiApp") << field.toStdString();
-    QJsonObject null = app;
+    QJsonObject null = appRecord;
     null[field] = QJsonValue::Null;
     EXPECT_EQ(decodeOne(null).value.has_value(), field == "isMultiApp") << field.toStdString();
-    QJsonObject wrong = app;
+    QJsonObject wrong = appRecord;
     wrong[field] = 1.5;
     EXPECT_FALSE(decodeOne(wrong).value) << field.toStdString();
     EXPECT_TRUE(decodeOne(wrong).error.contains("$.apps[1]." + field)) << field.toStdString();
