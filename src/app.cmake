@@ -28,6 +28,7 @@ qt_add_qml_module(tavi_app
     shell/calculate_action.cpp
     shell/calculate_view_controller.cpp shell/calculate_view_controller.h
     shell/controller_host.cpp shell/controller_host.h
+    shell/detached_task.h
     shell/dt_text_field.cpp shell/dt_text_field.h
     shell/history_table_view_cell.cpp shell/history_table_view_cell.h
     shell/history_table_view_controller.cpp shell/history_table_view_controller.h
@@ -45,7 +46,7 @@ qt_add_qml_module(tavi_app
     shell/toolbar_controller.cpp shell/toolbar_controller.h
     shell/view_controller.cpp shell/view_controller.h
     shell/view_manager.cpp shell/view_manager.h
-    solution/chart_table_view_cell.h
+    solution/chart_table_view_cell.cpp solution/chart_table_view_cell.h
     solution/math_label_type.h
     solution/share_sheet_controller.cpp solution/share_sheet_controller.h
     solution/solution_step_cell.cpp solution/solution_step_cell.h

@@ -16,7 +16,7 @@ std::string_view rawValue(Quadrant quadrant) {
 }
 
 std::optional<Quadrant> quadrantFromRawValue(std::string_view text) {
-  const auto found = std::ranges::find(quadrantTexts, text);
+  const auto* const found = std::ranges::find(quadrantTexts, text);
   if (found == quadrantTexts.end()) return std::nullopt;
   return static_cast<Quadrant>(found - quadrantTexts.begin());
 }

@@ -12,6 +12,7 @@
 
 #include "platform/localization.h"
 #include "platform/picture_file.h"
+#include "shell/detached_task.h"
 #include "shell/view_manager.h"
 
 namespace tavi {
@@ -54,7 +55,7 @@ void ShareSheetController::savePicture(const QUrl& file) {
   QString path = file.toLocalFile();
   if (path.isEmpty()) return setState(false, localized("sharingNotWritable"));
   if (!path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) path += QStringLiteral(".png");
-  write(path, [this] { goWith("sharingSaved"); });
+  detached(write(path, [this] { goWith("sharingSaved"); }));
 }
 
 void ShareSheetController::copyPicture() {
@@ -67,12 +68,12 @@ void ShareSheetController::openPicture() {
   const QDir cache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation));
   cache.mkpath(QStringLiteral("."));
   const QString path = cache.filePath(localized("sharingFileName") + QStringLiteral(".png"));
-  write(path, [this, path] {
+  detached(write(path, [this, path] {
     if (links_.openFile(path))
       close();
     else
       setState(false, localized("sharingNoViewer"));
-  });
+  }));
 }
 
 void ShareSheetController::close() {

@@ -1,13 +1,12 @@
 #include "solution/solution_view_controller.h"
 
-#include <QTimer>
-
 #include "appearance/color_manager.h"
 #include "number/fatal_stop.h"
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "remote/analytics_events.h"
 #include "shell/alert_controller.h"
+#include "shell/detached_task.h"
 #include "shell/page_tab_bar_controller.h"
 #include "shell/screenshot.h"
 #include "shell/toolbar_controller.h"
@@ -58,10 +57,7 @@ void SolutionViewController::handleClearAllButton() {
 
 void SolutionViewController::cellForRow(TableViewCell* cell, int section, int row) {
   data_.configureCell(*cell, section, row);
-  if (auto* chart = qobject_cast<ChartTableViewCell*>(cell)) {
-    constexpr std::chrono::milliseconds chartStart{500};
-    QTimer::singleShot(chartStart, chart, &ChartTableViewCell::startChartAnimation);
-  }
+  if (auto* chart = qobject_cast<ChartTableViewCell*>(cell)) chart->scheduleChartAnimation();
 }
 
 double SolutionViewController::heightForRow(int section, int row, double viewWidth) const {
@@ -73,7 +69,7 @@ void SolutionViewController::tappedShareButton() {
   Analytics::logEvent(events::taviTappedShare,
                       QVariantMap{{QStringLiteral("solutionSteps"), records},
                                   {QStringLiteral("solutionStepsCount"), qlonglong{records.size()}}});
-  share();
+  detached(share());
 }
 
 /// The message and the picture race: whichever is done last finds the picture there and nothing shown over

@@ -74,6 +74,18 @@ TEST_F(ShareTest, OneSheetComesWhetherTheAnswerOrThePictureComesFirst) {
   }
 }
 
+TEST_F(ShareTest, AStepThatCannotBeShownEndsTheProcessHereToo) {
+  SolutionSteps steps(100, formulaStep("Step", "1"));
+  steps.back().title.reset();  // out of sight, so that only the picture comes upon it
+  show(steps);
+  EXPECT_DEATH(
+      {
+        solution->tappedShareButton();
+        waitForThePicture();
+      },
+      "");
+}
+
 TEST_F(ShareTest, SurvivesThatTheSolutionIsClearedMeanwhile) {
   show(SolutionSteps(20, formulaStep("Step", "\\frac{1}{2}")));
   solution->tappedShareButton();
