@@ -45,6 +45,7 @@ T.Button {
         }
         FocusRing {
             control: control
+            ground: control.groundColor
             radius: control.radius
         }
     }

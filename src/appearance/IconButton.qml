@@ -8,6 +8,7 @@ T.AbstractButton {
 
     property string iconText
     property color tintColor: View.tintColor
+    property color groundColor: Theme.background
     property bool isOn: false
 
     View.kind: View.IconButton
@@ -45,6 +46,7 @@ T.AbstractButton {
 
     FocusRing {
         control: control
+        ground: control.groundColor
         radius: height / 2
     }
 }

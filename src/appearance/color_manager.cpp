@@ -47,9 +47,8 @@ const KeypadPalette& KeypadPalette::shared() {
 
 std::optional<QColor> KeypadPalette::color(int tag) const {
   const std::array colors{darkGold, brightYellow, strongYellow, pink, darkMagenta};
-  const auto index = static_cast<std::size_t>(tag - firstTag);
-  if (tag < firstTag || index >= colors.size()) return std::nullopt;
-  return colors.at(index);
+  if (tag < firstTag || tag >= firstTag + static_cast<int>(colors.size())) return std::nullopt;
+  return colors.at(static_cast<std::size_t>(tag - firstTag));
 }
 
 std::optional<QString> ColorManager::hexString(const QColor& color) {

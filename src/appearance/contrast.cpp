@@ -18,7 +18,9 @@ double relativeLuminance(const QColor& color) {
 }
 
 QColor mixed(const QColor& one, const QColor& other, float share) {
-  const auto part = [share](float from, float to) { return std::clamp(from + share * (to - from), 0.0F, 1.0F); };
+  const auto part = [share](float from, float to) {
+    return std::clamp(from + share * (to - from), 0.0F, 1.0F);
+  };
   return QColor::fromRgbF(part(one.redF(), other.redF()), part(one.greenF(), other.greenF()),
                           part(one.blueF(), other.blueF()));
 }

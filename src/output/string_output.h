@@ -56,8 +56,8 @@ class TaviStringOutput {
   /// No steps, and the numbering starts afresh.
   void reset();
 
-  /// `digit` as LaTeX. A value below 1e-10 in size is 0, beyond 1e12 infinity; the denominator is shortened to
-  /// six significant digits. `z` absent, or a denominator to write that is no finite number: fatal stop.
+  /// `digit` as LaTeX. A value below 1e-10 in size is 0, beyond 1e12 infinity; the denominator is shortened
+  /// to six significant digits. `z` absent, or a denominator to write that is no finite number: fatal stop.
   static std::string digitLatex(const Digit& digit, const DigitStyle& style = {});
 
   /// `value` as LaTeX, a negative one in plain parentheses. The limits of `digitLatex` hold.

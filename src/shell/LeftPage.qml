@@ -106,7 +106,7 @@ Rectangle {
 
             FocusRing {
                 control: row
-                border.color: Theme.darkTitle
+                ground: Theme.brightYellow
             }
         }
     }

@@ -55,6 +55,7 @@ Rectangle {
 
                 FocusRing {
                     control: segment
+                    ground: segment.isChosen ? Theme.strongYellow : Theme.background
                     radius: 8
                 }
             }

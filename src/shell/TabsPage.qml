@@ -52,6 +52,7 @@ Rectangle {
 
                     FocusRing {
                         control: tab
+                        ground: bar.color
                     }
                 }
             }

@@ -78,6 +78,7 @@ Item {
             text: modelData.title
             iconText: modelData.icon ? Icons[modelData.icon] : ""
             tintColor: Theme.legible(modelData.tintColor, bar.color)
+            groundColor: bar.color
             isOn: modelData.isOn
             onClicked: modelData.tap()
         }

@@ -12,17 +12,17 @@ namespace tavi {
 namespace {
 
 const QJsonObject appRecord{{"appIdentifiers", QJsonArray{"a", "b"}},
-                      {"appName", QJsonObject{{"en", "Name"}}},
-                      {"appURL", "1"},
-                      {"appURLPro", "2"},
-                      {"ratingURL", "3"},
-                      {"ratingURLPro", "4"},
-                      {"storeURL", "5"},
-                      {"storeURLPro", "6"},
-                      {"isMultiApp", true},
-                      {"shouldShow", true},
-                      {"calculationsUntilInterstitial", 7},
-                      {"unknown", QJsonArray{1}}};
+                            {"appName", QJsonObject{{"en", "Name"}}},
+                            {"appURL", "1"},
+                            {"appURLPro", "2"},
+                            {"ratingURL", "3"},
+                            {"ratingURLPro", "4"},
+                            {"storeURL", "5"},
+                            {"storeURLPro", "6"},
+                            {"isMultiApp", true},
+                            {"shouldShow", true},
+                            {"calculationsUntilInterstitial", 7},
+                            {"unknown", QJsonArray{1}}};
 
 Decoded<AllAppMetaData> decodeOne(const QJsonObject& record) {
   return decodeApps(QJsonDocument(QJsonObject{{"apps", QJsonArray{appRecord, record}}}).toJson());

@@ -1,4 +1,5 @@
 #include <QTemporaryDir>
+#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -7,6 +8,7 @@
 #include "platform/localization.h"
 #include "shell/page_tab_bar_controller.h"
 #include "shell/recording_controller.h"
+#include "shell/screenshot.h"
 #include "shell/toolbar_controller.h"
 #include "solution/solution_step_cell.h"
 #include "solution/solution_view_controller.h"
@@ -123,6 +125,7 @@ TEST_F(SolutionScreenTest, ReportsTheWholeSolutionWhenItIsShared) {
   EXPECT_EQ(event.parameters->value("solutionStepsCount"), QVariant(qlonglong{2}));
   const QVariantList records = event.parameters->value("solutionSteps").toList();
   EXPECT_EQ(records.at(1).toMap(), (QVariantMap{{"title", ""}, {"latexString", "=8.0"}}));
+  EXPECT_TRUE(QTest::qWaitFor([] { return !isTakingScreenshot; }));
 }
 
 class StepCellTest : public testing::Test {
