@@ -31,6 +31,7 @@ constexpr const char* longSolution = "the same, 1,000 copies, ms";
 constexpr const char* memory = "resident with solution open, MB";
 constexpr const char* history = "opening the history to its first frame, ms";
 constexpr const char* historyRows = "rows of the history that are typeset";
+constexpr const char* historyScroll = "scrolling it: longest between two frames, ms";
 constexpr const char* adding = "adding a record, ms";
 constexpr const char* sharing = "picture of 300 rows, ms";
 constexpr const char* sharingBlock = "300 rows: longest without events, ms";
@@ -39,8 +40,8 @@ constexpr const char* sharingWide = "picture of a line of 10,000 factors, ms";
 constexpr const char* sharingWideBlock = "10,000 factors: longest without events, ms";
 constexpr const char* sharingWideMemory = "10,000 factors: peak memory beyond before, MB";
 constexpr auto figureNames = std::to_array<const char*>(
-    {firstFrame, solution, slowestSolution, longSolution, memory, history, historyRows, adding, sharing,
-     sharingBlock, sharingMemory, sharingWide, sharingWideBlock, sharingWideMemory});
+    {firstFrame, solution, slowestSolution, longSolution, memory, history, historyRows, historyScroll, adding,
+     sharing, sharingBlock, sharingMemory, sharingWide, sharingWideBlock, sharingWideMemory});
 
 using Figures = std::map<QByteArray, std::vector<double>>;
 
@@ -153,6 +154,27 @@ void measureHistory(Stage& stage) {
   tell(historyRows, static_cast<double>(rows));
 }
 
+/// Draws a long history upwards by nearly a row for each frame.
+void measureScrolling(Stage& stage) {
+  constexpr int frames = 200;
+  constexpr double way = 60;
+  QQuickItem& table = stage.item(QStringLiteral("historyTable"));
+  if (table.property("contentHeight").toDouble() < frames * way + table.height()) return;
+  QElapsedTimer timer;
+  double longest = 0;
+  int shown = 0;
+  const auto connection =
+      QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+        if (shown++ > 0) longest = std::max(longest, milliseconds(timer));
+        timer.start();
+        table.setProperty("contentY", table.property("contentY").toDouble() + way);
+      });
+  stage.window().update();
+  waitUntil([&shown] { return shown > frames; }, "the history scrolls");
+  QObject::disconnect(connection);
+  tell(historyScroll, longest);
+}
+
 /// A full history, written at once.
 void fillStore() {
   PreferenceStore& store = PreferenceStore::standard();
@@ -233,6 +255,7 @@ int probe(int argumentCount, char** arguments) {
   share(stage, {step(factors)}, {sharingWide, sharingWideBlock, sharingWideMemory});
 
   measureHistory(stage);
+  measureScrolling(stage);
   return 0;
 }
 
