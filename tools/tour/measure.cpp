@@ -131,9 +131,11 @@ bool runProbes(Figures& figures) {
   return isPassed;
 }
 
-double median(std::vector<double> values) {
+/// The median as a text, or a dash where nothing was measured.
+QByteArray median(std::vector<double> values) {
+  if (values.empty()) return "-";
   std::ranges::sort(values);
-  return values.empty() ? 0 : values.at(values.size() / 2);
+  return QByteArray::number(values.at(values.size() / 2), 'f', 1);
 }
 
 /// Opens the history and tells when it is on the screen.
@@ -222,7 +224,7 @@ bool measure() {
   if (!runProbes(full)) return false;
   std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
   for (const char* name : figureNames)
-    std::printf("%-46s %10.1f %14.1f\n", name, median(empty[name]), median(full[name]));
+    std::printf("%-46s %10s %14s\n", name, median(empty[name]).constData(), median(full[name]).constData());
   return true;
 }
 
