@@ -2,7 +2,7 @@
 #include <exception>
 
 #include "number/fatal_stop.h"
-#include "shell/application.h"
+#include "shell/launch/application.h"
 
 namespace {
 

@@ -1,8 +1,6 @@
 #include "input/error_manager.h"
 
 #include <QDebug>
-#include <QGuiApplication>
-#include <QWindow>
 #include <algorithm>
 #include <array>
 
@@ -12,8 +10,6 @@
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "remote/analytics_events.h"
-#include "shell/alert_controller.h"
-#include "shell/view_manager.h"
 
 namespace tavi {
 
@@ -34,21 +30,10 @@ constexpr std::array numberedKeys{
     NumberedKey{TaviError::mustBeLessThanX, 1},
 };
 
-void presentAlertOverWindow(const QString& title, const QString& text) {
-  for (const QWindow* window : QGuiApplication::topLevelWindows()) {
-    auto* root = window->property("rootController").value<ViewController*>();
-    if (root) return root->presentAlert(title, text, {}, AlertStyle::alert);
-  }
-}
-
 }  // namespace
 
-MessagePresenter MessagePresenter::overWindow() {
-  return {ViewManager::showToast, presentAlertOverWindow};
-}
-
 ErrorManager& ErrorManager::shared() {
-  static ErrorManager manager(MessagePresenter::overWindow());
+  static ErrorManager manager;
   return manager;
 }
 

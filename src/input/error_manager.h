@@ -3,20 +3,12 @@
 #include <QList>
 #include <QPointer>
 #include <QString>
-#include <functional>
+#include <utility>
 
-#include "shell/dt_text_field.h"
+#include "appearance/dt_text_field.h"
+#include "platform/message_presenter.h"
 
 namespace tavi {
-
-/// How words reach the user: in passing, or so that he has to answer.
-struct MessagePresenter {
-  std::function<void(const QString& text)> showToast;
-  std::function<void(const QString& title, const QString& text)> presentAlert;
-
-  /// Toasts and alerts over the application's window.
-  static MessagePresenter overWindow();
-};
 
 /// Between the keys of what is wrong with an input and the user: logs the key, marks the fields at fault and
 /// shows the words. Main thread only.
@@ -24,9 +16,11 @@ class ErrorManager {
  public:
   using Fields = QList<QPointer<DTTextField>>;  ///< A field that is gone counts as none.
 
+  /// Says nothing until it is given a presenter.
   static ErrorManager& shared();
 
-  explicit ErrorManager(MessagePresenter presenter);
+  explicit ErrorManager(MessagePresenter presenter = {});
+  void setPresenter(MessagePresenter presenter) { presenter_ = std::move(presenter); }
 
   /// Switches the empty fields off once as many are filled as the task needs, and on again when that ends.
   /// Fields of a hidden holder neither count nor change.

@@ -7,11 +7,14 @@
 namespace tavi {
 
 /// Named notifications between parts that do not know each other. Whoever posts a name declares it in its
-/// header.
+/// header; those of the system stand here.
 class NotificationCenter : public QObject {
   Q_OBJECT
 
  public:
+  /// Posted whenever the application comes to the front.
+  static constexpr QLatin1StringView applicationDidBecomeActive{"UIApplicationDidBecomeActiveNotification"};
+
   static NotificationCenter& shared();
 
   /// Calls every observer of the name, in the order of observation, before it returns.

@@ -13,10 +13,10 @@
 #include "platform/localization.h"
 #include "platform/notification_center.h"
 #include "remote/analytics_events.h"
-#include "shell/is_calculating.h"
-#include "shell/page_tab_bar_controller.h"
-#include "shell/toolbar_controller.h"
-#include "shell/view_manager.h"
+#include "shell/frame/is_calculating.h"
+#include "shell/frame/page_tab_bar_controller.h"
+#include "shell/frame/toolbar_controller.h"
+#include "shell/frame/view_manager.h"
 #include "solution/solution_view_controller.h"
 
 namespace tavi {

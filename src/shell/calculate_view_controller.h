@@ -9,13 +9,13 @@
 #include <string_view>
 #include <vector>
 
+#include "appearance/dt_text_field.h"
 #include "input/error_manager.h"
 #include "number/math_operation.h"
 #include "output/string_output.h"
 #include "shell/calc_manager.h"
-#include "shell/dt_text_field.h"
-#include "shell/toolbar.h"
-#include "shell/view_controller.h"
+#include "shell/frame/toolbar.h"
+#include "shell/frame/view_controller.h"
 
 namespace tavi {
 

@@ -12,8 +12,8 @@
 
 #include "platform/localization.h"
 #include "platform/picture_file.h"
-#include "shell/detached_task.h"
-#include "shell/view_manager.h"
+#include "shell/frame/detached_task.h"
+#include "shell/frame/view_manager.h"
 
 namespace tavi {
 

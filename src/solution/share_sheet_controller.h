@@ -5,7 +5,7 @@
 #include <QUrl>
 
 #include "platform/links.h"
-#include "shell/view_controller.h"
+#include "shell/frame/view_controller.h"
 
 namespace tavi {
 

@@ -10,7 +10,7 @@
 
 #include "platform/notification_center.h"
 #include "remote/remote_config_manager.h"
-#include "shell/view_controller.h"
+#include "shell/frame/view_controller.h"
 #include "solution/solution_table.h"
 #include "solution/solution_table_data.h"
 

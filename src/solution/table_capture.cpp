@@ -10,7 +10,7 @@
 #include <vector>
 
 #include "appearance/interface_colors.h"
-#include "shell/screenshot.h"
+#include "shell/frame/screenshot.h"
 #include "solution/chart_table_view_cell.h"
 
 namespace tavi {

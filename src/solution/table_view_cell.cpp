@@ -3,7 +3,7 @@
 #include <QQuickWindow>
 #include <QSGRectangleNode>
 
-#include "shell/screenshot.h"
+#include "shell/frame/screenshot.h"
 
 namespace tavi {
 

@@ -10,9 +10,9 @@
 #include "platform/analytics.h"
 #include "platform/notification_center.h"
 #include "shell/calculate_page.h"
-#include "shell/is_calculating.h"
-#include "shell/page_tab_bar_controller.h"
-#include "shell/toolbar_controller.h"
+#include "shell/frame/is_calculating.h"
+#include "shell/frame/page_tab_bar_controller.h"
+#include "shell/frame/toolbar_controller.h"
 #include "solution/solution_view_controller.h"
 
 namespace tavi {

@@ -7,9 +7,9 @@
 #include <sys/resource.h>
 
 #include "platform/localization.h"
-#include "shell/alert_controller.h"
-#include "shell/screenshot.h"
-#include "shell/view_manager.h"
+#include "shell/frame/alert_controller.h"
+#include "shell/frame/screenshot.h"
+#include "shell/frame/view_manager.h"
 #include "solution/share_sheet_controller.h"
 #include "solution/solution_stage.h"
 

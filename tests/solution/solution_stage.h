@@ -10,9 +10,9 @@
 
 #include <gtest/gtest.h>
 
-#include "shell/controller_host.h"
-#include "shell/page_tab_bar_controller.h"
-#include "shell/toolbar_controller.h"
+#include "shell/frame/controller_host.h"
+#include "shell/frame/page_tab_bar_controller.h"
+#include "shell/frame/toolbar_controller.h"
 #include "solution/solution_step_cell.h"
 #include "solution/solution_view_controller.h"
 
@@ -30,8 +30,8 @@ class SolutionStage : public testing::Test {
     window.show();
     window.requestActivate();
     solution->setPage(engine, "solution/SolutionPage.qml");
-    tabs->setPage(engine, "shell/TabsPage.qml");
-    root->setPage(engine, "shell/ToolbarPage.qml");
+    tabs->setPage(engine, "shell/frame/TabsPage.qml");
+    root->setPage(engine, "shell/frame/ToolbarPage.qml");
     root->beginAppearance();
     host.setParentItem(window.contentItem());
     host.setSize(window.size());

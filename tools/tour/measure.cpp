@@ -14,7 +14,7 @@
 #include <vector>
 
 #include "shell/calc_manager.h"
-#include "shell/history_table_view_cell.h"
+#include "shell/history/history_table_view_cell.h"
 #include "tour/stage.h"
 
 namespace tavi::tour {

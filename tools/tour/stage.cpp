@@ -2,7 +2,7 @@
 
 #include <QTest>
 
-#include "shell/screenshot.h"
+#include "shell/frame/screenshot.h"
 #include "solution/share_sheet_controller.h"
 
 namespace tavi::tour {

@@ -8,7 +8,7 @@
 #include <functional>
 #include <stdexcept>
 
-#include "shell/application.h"
+#include "shell/launch/application.h"
 
 namespace tavi::tour {
 

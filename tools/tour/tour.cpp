@@ -2,9 +2,9 @@
 
 #include <array>
 
+#include "appearance/dt_text_field.h"
 #include "appearance/interface_colors.h"
 #include "platform/localization.h"
-#include "shell/dt_text_field.h"
 
 namespace tavi::tour {
 

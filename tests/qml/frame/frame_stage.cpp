@@ -5,10 +5,10 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
 
-#include "shell/alert_controller.h"
-#include "shell/controller_host.h"
-#include "shell/left_view_controller.h"
-#include "shell/view_manager.h"
+#include "shell/frame/alert_controller.h"
+#include "shell/frame/controller_host.h"
+#include "shell/frame/view_manager.h"
+#include "shell/menu/left_view_controller.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
@@ -41,14 +41,15 @@ void FrameStage::open(QQuickItem* holder) {
     pages.back()->setView(std::make_unique<QQuickItem>());
     pages.back()->setUpTabItem(QString::fromLatin1(title), true);
   }
-  tabs_ = made<AppPageTabBarController>(*engine_, "shell/TabsPage.qml", std::move(pages));
+  tabs_ = made<AppPageTabBarController>(*engine_, "shell/frame/TabsPage.qml", std::move(pages));
   auto menu = made<LeftViewController>(
-      *engine_, "shell/LeftPage.qml", LeftViewController::Screens(),
+      *engine_, "shell/menu/LeftPage.qml", LeftViewController::Screens(),
       AppServices{services.remoteConfig, services.remoteConfigManager, services.calcManager,
                   services.preferences, services.notifications, services.links});
   drawer_ = made<AppNavigationDrawerController>(
-      *engine_, "shell/DrawerPage.qml", made<AppToolbarController>(*engine_, "shell/ToolbarPage.qml", tabs_),
-      made<MenuToolbarController>(*engine_, "shell/ToolbarPage.qml", std::move(menu)));
+      *engine_, "shell/frame/DrawerPage.qml",
+      made<AppToolbarController>(*engine_, "shell/frame/ToolbarPage.qml", tabs_),
+      made<MenuToolbarController>(*engine_, "shell/frame/ToolbarPage.qml", std::move(menu)));
   drawer_->beginAppearance();
   auto host = std::make_unique<ControllerHost>(holder);
   host->setSize(holder->size());

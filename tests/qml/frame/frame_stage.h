@@ -8,9 +8,9 @@
 #include <optional>
 
 #include "shell/app_services.h"
-#include "shell/navigation_drawer_controller.h"
-#include "shell/page_tab_bar_controller.h"
-#include "shell/toolbar_controller.h"
+#include "shell/frame/navigation_drawer_controller.h"
+#include "shell/frame/page_tab_bar_controller.h"
+#include "shell/frame/toolbar_controller.h"
 
 namespace tavi {
 

@@ -9,7 +9,7 @@
 #include <QtQuickTest/quicktest.h>
 
 #include "platform/localization.h"
-#include "shell/controller_host.h"
+#include "shell/frame/controller_host.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
@@ -18,7 +18,7 @@ namespace tavi {
 void HistoryStage::open(QQuickItem* holder, const QStringList& tasks) {
   const auto emptyPage = [this] {
     auto page = std::make_shared<ViewController>();
-    page->setPage(*engine_, "shell/LeftPage.qml");
+    page->setPage(*engine_, "shell/menu/LeftPage.qml");
     return page;
   };
   store_.setCurrentSelectedCalculation(std::nullopt);
@@ -28,11 +28,11 @@ void HistoryStage::open(QQuickItem* holder, const QStringList& tasks) {
   store_.loadCalculations();
 
   history_ = std::make_shared<HistoryTableViewController>(store_, emptyPage);
-  history_->setPage(*engine_, "shell/HistoryPage.qml");
+  history_->setPage(*engine_, "shell/history/HistoryPage.qml");
   toolbar_ = std::make_shared<AppToolbarController>(history_);
-  toolbar_->setPage(*engine_, "shell/ToolbarPage.qml");
+  toolbar_->setPage(*engine_, "shell/frame/ToolbarPage.qml");
   drawer_ = std::make_shared<AppNavigationDrawerController>(toolbar_, emptyPage());
-  drawer_->setPage(*engine_, "shell/DrawerPage.qml");
+  drawer_->setPage(*engine_, "shell/frame/DrawerPage.qml");
   drawer_->beginAppearance();
   auto host = std::make_unique<ControllerHost>(holder);
   host->setSize(holder->size());

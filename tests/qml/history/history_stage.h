@@ -7,9 +7,9 @@
 #include <QTemporaryDir>
 #include <memory>
 
-#include "shell/history_table_view_controller.h"
-#include "shell/navigation_drawer_controller.h"
-#include "shell/toolbar_controller.h"
+#include "shell/frame/navigation_drawer_controller.h"
+#include "shell/frame/toolbar_controller.h"
+#include "shell/history/history_table_view_controller.h"
 
 namespace tavi {
 

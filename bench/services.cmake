@@ -1,2 +1,0 @@
-add_executable(tavi_store_bench store_bench.cpp)
-target_link_libraries(tavi_store_bench PRIVATE tavi_services tavi_options benchmark::benchmark_main)

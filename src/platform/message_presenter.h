@@ -1,0 +1,15 @@
+#pragma once
+
+#include <QString>
+#include <functional>
+
+namespace tavi {
+
+/// How words reach the user: in passing, or so that he has to answer.
+struct MessagePresenter {
+  std::function<void(const QString& text)> showToast = [](const QString&) {};
+  std::function<void(const QString& title, const QString& text)> presentAlert = [](const QString&,
+                                                                                   const QString&) {};
+};
+
+}  // namespace tavi

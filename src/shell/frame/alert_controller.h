@@ -1,0 +1,57 @@
+#pragma once
+
+#include <QString>
+#include <QStringList>
+#include <functional>
+#include <optional>
+#include <vector>
+
+#include "shell/frame/view_controller.h"
+
+namespace tavi {
+
+enum class AlertStyle { actionSheet = 0, alert = 1 };
+
+/// Escape answers with the action of style cancel, if there is one.
+enum class AlertActionStyle { normal = 0, cancel = 1 };
+
+struct AlertAction {
+  QString title;
+  std::function<void()> handler = {};
+  AlertActionStyle style = AlertActionStyle::normal;
+};
+
+/// A short question or message over a screen, with a button per action. A tap on one ends the alert and then
+/// runs its handler.
+class AlertController : public ViewController {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by presentAlert")
+  Q_PROPERTY(QString title READ title CONSTANT)
+  Q_PROPERTY(QString message READ message CONSTANT)
+  Q_PROPERTY(QStringList actionTitles READ actionTitles CONSTANT)
+  Q_PROPERTY(bool isActionSheet READ isActionSheet CONSTANT)
+
+ public:
+  AlertController(std::optional<QString> title, std::optional<QString> message,
+                  std::vector<AlertAction> actions, AlertStyle style);
+
+  QString title() const { return title_.value_or(QString()); }
+  QString message() const { return message_.value_or(QString()); }
+  QStringList actionTitles() const;
+  bool isActionSheet() const { return style_ == AlertStyle::actionSheet; }
+
+  /// The tap on the button of the action; an index outside the actions is a fatal stop.
+  Q_INVOKABLE void choose(int index);
+
+  /// The answer that changes nothing; without a cancelling action the alert stays.
+  Q_INVOKABLE void cancel();
+
+ private:
+  std::optional<QString> title_;
+  std::optional<QString> message_;
+  std::vector<AlertAction> actions_;
+  AlertStyle style_;
+};
+
+}  // namespace tavi

@@ -1,0 +1,44 @@
+#pragma once
+
+#include "shell/frame/view_controller.h"
+
+namespace tavi {
+
+/// The two pages, input and solution, under a bar with a tab for each. One page is open at a time.
+class AppPageTabBarController : public ViewController {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the application")
+  Q_PROPERTY(QList<tavi::TabItem*> tabItems READ tabItems CONSTANT)
+  Q_PROPERTY(int selectedIndex READ selectedIndex NOTIFY selectedIndexChanged)
+  Q_PROPERTY(tavi::ViewController* selectedController READ selectedController NOTIFY selectedIndexChanged)
+
+ public:
+  explicit AppPageTabBarController(std::vector<std::shared_ptr<ViewController>> viewControllers,
+                                   int selectedIndex = 0);
+  ~AppPageTabBarController() override;
+
+  const std::vector<std::shared_ptr<ViewController>>& viewControllers() const { return viewControllers_; }
+  QList<TabItem*> tabItems() const;
+  int selectedIndex() const { return selectedIndex_; }
+  ViewController* selectedController() const;
+
+  /// Opens a page; opening the open one does nothing. An index outside the pages is a fatal stop.
+  void select(int index);
+
+  /// The tap on a tab, which opens its page if it is enabled.
+  Q_INVOKABLE void tapTab(int index);
+
+ signals:
+  void selectedIndexChanged();
+
+ protected:
+  void viewDidAppear() override;
+  std::vector<ViewController*> visibleChildren() const override { return {selectedController()}; }
+
+ private:
+  std::vector<std::shared_ptr<ViewController>> viewControllers_;
+  int selectedIndex_;
+};
+
+}  // namespace tavi

@@ -1,0 +1,73 @@
+#include "shell/frame/toolbar_controller.h"
+
+#include <utility>
+
+#include "appearance/color_manager.h"
+#include "appearance/interface_colors.h"
+#include "appearance/interface_fonts.h"
+#include "output/localized_string.h"
+#include "platform/analytics.h"
+#include "platform/localization.h"
+#include "remote/analytics_events.h"
+#include "shell/frame/is_calculating.h"
+#include "shell/frame/navigation_drawer_controller.h"
+
+namespace tavi {
+
+BasicToolbarController::BasicToolbarController(std::shared_ptr<ViewController> root)
+    : root_(std::move(root)) {
+  adopt(*root_);
+}
+
+// The page reads the toolbar, so it goes first.
+BasicToolbarController::~BasicToolbarController() {
+  setView(nullptr);
+}
+
+void BasicToolbarController::transition(std::shared_ptr<ViewController> to,
+                                        const std::function<void()>& completion) {
+  replaceChild(root_, std::move(to), [this] { emit rootControllerChanged(); });
+  if (completion) completion();
+}
+
+void BasicToolbarController::viewDidLoad() {
+  toolbar_.setStyle({.titleFont = InterfaceFont::heavy(20),
+                     .titleColor = InterfaceColor::darkTitle(),
+                     .backgroundColor = KeypadPalette::shared().brightYellow});
+}
+
+void AppToolbarController::viewDidLoad() {
+  BasicToolbarController::viewDidLoad();
+  menuButton_ = std::make_shared<ToolbarButton>();
+  menuButton_->title = localized("menuButton");
+  menuButton_->accessibilityIdentifier = QStringLiteral("menuButton");
+  menuButton_->icon = QStringLiteral("menu");
+  menuButton_->tintColor = InterfaceColor::darkTitle();
+  menuButton_->action = [this] { handleMenuButton(); };
+
+  Toolbar::Style style = toolbar()->style();
+  style.statusBarColor = KeypadPalette::shared().darkGold;
+  style.shrinksTitle = true;
+  toolbar()->setStyle(style);
+  toolbar()->setLeftViews({menuButton_});
+}
+
+void AppToolbarController::handleMenuButton() {
+  Analytics::logEvent(events::tappedMenuButton);
+  if (isCalculating) return;
+  if (auto* drawer = ancestor<AppNavigationDrawerController>()) drawer->toggleLeftView();
+}
+
+void MenuToolbarController::viewDidLoad() {
+  BasicToolbarController::viewDidLoad();
+  Toolbar::Style style = toolbar()->style();
+  style.topInset = 57;
+  style.backgroundColor = KeypadPalette::shared().darkGold;
+  style.shrinksTitle = true;
+  style.height = 90;
+  toolbar()->setStyle(style);
+  const QString title = QString::fromStdString(LocalizedString::taviSolver.text());
+  toolbar()->setTitle(QStringLiteral("  %1  ").arg(title));
+}
+
+}  // namespace tavi

@@ -1,0 +1,66 @@
+#pragma once
+
+#include "shell/frame/toolbar.h"
+#include "shell/frame/view_controller.h"
+
+namespace tavi {
+
+/// A container that shows one controller under a toolbar.
+class BasicToolbarController : public ViewController {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the application")
+  Q_PROPERTY(tavi::Toolbar* toolbar READ toolbar CONSTANT)
+  Q_PROPERTY(tavi::ViewController* rootController READ rootController NOTIFY rootControllerChanged)
+
+ public:
+  explicit BasicToolbarController(std::shared_ptr<ViewController> root);
+  ~BasicToolbarController() override;
+
+  Toolbar* toolbar() { return &toolbar_; }
+  ViewController* rootController() const { return root_.get(); }
+
+  /// Puts another controller in the place of the root, then calls the completion.
+  void transition(std::shared_ptr<ViewController> to, const std::function<void()>& completion = {});
+
+ signals:
+  void rootControllerChanged();
+
+ protected:
+  void viewDidLoad() override;
+  std::vector<ViewController*> visibleChildren() const override { return {root_.get()}; }
+
+ private:
+  Toolbar toolbar_;
+  std::shared_ptr<ViewController> root_;
+};
+
+/// The bar over the pages, with the menu button.
+class AppToolbarController : public BasicToolbarController {
+  Q_OBJECT
+
+ public:
+  using BasicToolbarController::BasicToolbarController;
+
+  ToolbarButton* menuButton() const { return menuButton_.get(); }
+  void handleMenuButton();
+
+ protected:
+  void viewDidLoad() override;
+
+ private:
+  std::shared_ptr<ToolbarButton> menuButton_;
+};
+
+/// The head of the side menu, with the application's title.
+class MenuToolbarController : public BasicToolbarController {
+  Q_OBJECT
+
+ public:
+  using BasicToolbarController::BasicToolbarController;
+
+ protected:
+  void viewDidLoad() override;
+};
+
+}  // namespace tavi

@@ -1,0 +1,139 @@
+#include "shell/frame/view_controller.h"
+
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <QScreen>
+#include <QTimer>
+#include <utility>
+
+#include "appearance/interface_fonts.h"
+#include "platform/localization.h"
+#include "shell/frame/alert_controller.h"
+#include "shell/frame/page_loader.h"
+
+namespace tavi {
+
+ViewController::ViewController() {
+  QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+}
+
+ViewController::~ViewController() = default;
+
+void ViewController::setPage(QQmlEngine& engine, const QString& page) {
+  engine_ = &engine;
+  page_ = page;
+}
+
+void ViewController::setView(std::unique_ptr<QQuickItem> view) {
+  view_ = std::move(view);
+}
+
+QQuickItem* ViewController::view() {
+  if (!isViewLoaded_) {
+    isViewLoaded_ = true;
+    if (!view_ && engine_) load();
+    viewDidLoad();
+  }
+  return view_.get();
+}
+
+void ViewController::load() {
+  view_ = loadPage<QQuickItem>(*engine_, page_, {{QStringLiteral("controller"), QVariant::fromValue(this)}});
+}
+
+void ViewController::beginAppearance() {
+  if (isAppearing_) return;
+  isAppearing_ = true;
+  view();
+  viewWillAppear();
+  for (ViewController* child : visibleChildren()) child->beginAppearance();
+}
+
+void ViewController::endAppearance() {
+  viewDidAppear();
+  for (ViewController* child : visibleChildren()) child->endAppearance();
+}
+
+void ViewController::disappear() {
+  if (!isAppearing_) return;
+  isAppearing_ = false;
+  viewWillDisappear();
+  for (ViewController* child : visibleChildren()) child->disappear();
+}
+
+bool ViewController::present(std::shared_ptr<ViewController> controller) {
+  if (parentController_) return parentController_->present(std::move(controller));
+  if (presented_) return false;
+  presented_ = std::move(controller);
+  presented_->presenter_ = this;
+  presented_->beginAppearance();
+  emit presentedControllerChanged();
+  presented_->endAppearance();
+  return true;
+}
+
+void ViewController::dismissPresented() {
+  if (parentController_) return parentController_->dismissPresented();
+  if (!presented_) return;
+  presented_->disappear();
+  const std::shared_ptr<ViewController> dismissed = std::exchange(presented_, nullptr);
+  dismissed->presenter_ = nullptr;
+  emit presentedControllerChanged();
+  releaseLater(dismissed);
+}
+
+void ViewController::dismiss() {
+  if (presenter_) presenter_->dismissPresented();
+}
+
+void ViewController::presentAlert(const std::optional<QString>& title, const std::optional<QString>& message,
+                                  std::vector<AlertAction> actions, AlertStyle style) {
+  const ViewController* root = this;
+  while (root->parentController_) root = root->parentController_;
+  auto alert = std::make_shared<AlertController>(title, message, std::move(actions), style);
+  if (root->engine_) alert->setPage(*root->engine_, QStringLiteral("shell/frame/AlertPage.qml"));
+  present(std::move(alert));
+}
+
+void ViewController::setUpTabItem(const QString& title, bool isEnabled) {
+  tabItem_.setTitle(title);
+  tabItem_.setFont(InterfaceFont::medium(14));
+  tabItem_.setEnabled(isEnabled);
+}
+
+void ViewController::runWhenOnline(std::function<void()> action, std::function<void()> failureAction,
+                                   const OnlineTest& test) {
+  test.run(this, [this, action = std::move(action), failureAction = std::move(failureAction)](bool isOnline) {
+    if (isOnline) return action();
+    std::vector<AlertAction> actions;
+    if (failureAction) actions.push_back({localized("OK"), failureAction});
+    presentAlert(localized("noInternet"), std::nullopt, std::move(actions), AlertStyle::alert);
+  });
+}
+
+void ViewController::replaceChild(std::shared_ptr<ViewController>& slot, std::shared_ptr<ViewController> next,
+                                  const std::function<void()>& show) {
+  if (isAppearing_) slot->disappear();
+  std::shared_ptr<ViewController> old = std::exchange(slot, std::move(next));
+  release(*old);
+  adopt(*slot);
+  if (isAppearing_) slot->beginAppearance();
+  show();
+  if (isAppearing_) slot->endAppearance();
+  releaseLater(std::move(old));
+}
+
+void ViewController::releaseLater(std::shared_ptr<ViewController> controller) {
+  leaving_.push_back(std::move(controller));
+  QTimer::singleShot(0, this, [this] { std::exchange(leaving_, {}).clear(); });
+}
+
+double bottomSafeAreaInset() {
+  const auto windows = QGuiApplication::topLevelWindows();
+  if (windows.isEmpty()) return 0;
+  const QWindow* window = windows.last();
+  if (!window->screen() || window->visibility() != QWindow::FullScreen) return 0;
+  return std::max(0, window->screen()->geometry().bottom() - window->screen()->availableGeometry().bottom());
+}
+
+}  // namespace tavi

@@ -1,0 +1,86 @@
+#pragma once
+
+#include <functional>
+#include <memory>
+
+#include "shell/calc_manager.h"
+#include "shell/frame/toolbar.h"
+#include "shell/frame/view_controller.h"
+#include "shell/history/history_table_view_cell.h"
+#include "shell/history/table_rows.h"
+
+namespace tavi {
+
+/// What the user has calculated, newest first: to be reopened, deleted, reordered or cleared. It works on the
+/// store directly and keeps no list of its own; a new one is made for each visit.
+///
+/// Moving a row over others exchanges the two end positions in the store, while the table shifts the rows
+/// between. Until the next visit the two may differ in order, and every operation goes by the row number.
+class HistoryTableViewController : public ViewController {
+  Q_OBJECT
+  QML_ELEMENT
+  QML_UNCREATABLE("Made by the application")
+  Q_PROPERTY(QAbstractItemModel* table READ table CONSTANT)
+  Q_PROPERTY(bool isEditing READ isEditing NOTIFY isEditingChanged)
+
+ public:
+  enum class EditingStyle { None = 0, Delete = 1, Insert = 2 };
+  Q_ENUM(EditingStyle)
+
+  /// Makes fresh pages that take the place of everything under the drawer.
+  using RootFactory = std::function<std::shared_ptr<ViewController>()>;
+
+  HistoryTableViewController(CalcManager& store, RootFactory makeRoot);
+
+  TableRows* table() { return &table_; }
+  bool isEditing() const { return isEditing_; }
+
+  // What the table asks and tells. A row outside the history is a fatal stop.
+  static int numberOfSectionsInTableView() { return 1; }
+  int numberOfRowsInSection(int section) const;
+
+  /// Fills a cell that comes into view.
+  Q_INVOKABLE void cellForRow(tavi::HistoryTableViewCell* cell, int row) const;
+  Q_INVOKABLE static bool canEditRow(int row);
+  Q_INVOKABLE static bool canMoveRow(int row);
+
+  /// Exchanges the records of the two rows; the table shows the row moved.
+  Q_INVOKABLE void moveRow(int from, int to);
+
+  /// Deletes the row; any other style does nothing.
+  Q_INVOKABLE void commitEditingStyle(tavi::HistoryTableViewController::EditingStyle style, int row);
+
+  /// Picks the record for reopening and, if there is a drawer, opens fresh pages, which take it.
+  Q_INVOKABLE void didSelectRow(int row);
+
+  /// Opens fresh pages with whatever they find; nothing without a drawer.
+  Q_INVOKABLE void openCalculatePage();
+
+  void handleEditButton();
+  void handleClearAllButton();
+
+  std::shared_ptr<ToolbarButton> editButton;
+  std::shared_ptr<ToolbarButton> clearAllButton;
+
+ signals:
+  void isEditingChanged();
+  /// The cell of the row, if it is in view, is to be filled anew.
+  void rowReloaded(int row);
+
+ protected:
+  void viewDidLoad() override;
+  void viewDidAppear() override;
+
+ private:
+  using Handler = void (HistoryTableViewController::*)();
+
+  std::shared_ptr<ToolbarButton> makeButton(const char* title, const char* icon, Handler handler);
+  void clear();
+
+  CalcManager& store_;
+  RootFactory makeRoot_;
+  TableRows table_;
+  bool isEditing_ = false;
+};
+
+}  // namespace tavi

@@ -1,0 +1,117 @@
+#include "shell/launch/app_delegate.h"
+
+#include <QGuiApplication>
+
+#include "input/error_manager.h"
+#include "shell/frame/page_loader.h"
+#include "shell/frame/window_messages.h"
+
+namespace tavi {
+
+namespace {
+
+/// Builds the controller of a lazy field and gives it its page.
+template <typename Controller, typename... Arguments>
+void build(std::shared_ptr<Controller>& field, QQmlEngine& engine, const char* page,
+           Arguments&&... arguments) {
+  field = std::make_shared<Controller>(std::forward<Arguments>(arguments)...);
+  field->setPage(engine, QString::fromLatin1(page));
+}
+
+}  // namespace
+
+AppDelegate::AppDelegate(QQmlEngine& engine, const AppServices& services)
+    : engine_(engine), services_(services) {}
+
+AppDelegate::~AppDelegate() = default;
+
+void AppDelegate::didFinishLaunching() {
+  ErrorManager::shared().setPresenter(messagesOverWindow());
+  services_.remoteConfigManager.reload();
+  services_.calcManager.runFirstStartStep();
+
+  std::shared_ptr<MenuToolbarController> menu;
+  build(menu, engine_, "shell/frame/ToolbarPage.qml", leftViewController());
+  build(drawer_, engine_, "shell/frame/DrawerPage.qml", appToolbarController(), menu);
+  openWindow();
+  presentFirstRun();
+
+  connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
+    if (state == Qt::ApplicationActive) didBecomeActive();
+  });
+}
+
+void AppDelegate::didBecomeActive() {
+  constexpr std::chrono::seconds expiry{21600};
+  services_.remoteConfig.fetch(expiry, [&manager = services_.remoteConfigManager](
+                                           FetchStatus status, const std::optional<QString>& error) {
+    manager.handleFetchResult(status, error);
+  });
+  services_.notifications.post(NotificationCenter::applicationDidBecomeActive);
+}
+
+void AppDelegate::openWindow() {
+  window_ = loadPage<QQuickWindow>(
+      engine_, QStringLiteral("shell/frame/AppWindow.qml"),
+      {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}});
+  drawer_->beginAppearance();
+  window_->show();
+  drawer_->endAppearance();
+}
+
+/// Introduction and consent have no pages yet: what would call for them is read, and nothing is shown.
+void AppDelegate::presentFirstRun() {
+  const bool needsOnboarding =
+      !services_.userDefaults.value<bool>(QStringLiteral("isOnboardingFinished"), false);
+  const bool needsConsent = !services_.userDefaults.value<bool>(QStringLiteral("isDsgvoAccepted"), false);
+  std::ignore = needsOnboarding || needsConsent;
+}
+
+const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewController() {
+  if (!calculateViewController_)
+    build(calculateViewController_, engine_, "shell/CalculatePage.qml", services_.calcManager);
+  return calculateViewController_;
+}
+
+const std::shared_ptr<LeftViewController>& AppDelegate::leftViewController() {
+  if (!leftViewController_) {
+    LeftViewController::Screens screens{.makeRoot = rootFactory(),
+                                        .makeHistory = [this] { return makeHistoryTableViewController(); }};
+    build(leftViewController_, engine_, "shell/menu/LeftPage.qml", std::move(screens), services_);
+  }
+  return leftViewController_;
+}
+
+const std::shared_ptr<SolutionViewController>& AppDelegate::solutionViewController() {
+  if (!solutionViewController_)
+    build(solutionViewController_, engine_, "solution/SolutionPage.qml", services_.remoteConfigManager);
+  return solutionViewController_;
+}
+
+const std::shared_ptr<AppPageTabBarController>& AppDelegate::pageTabBarController() {
+  if (!pageTabBarController_) {
+    std::vector<std::shared_ptr<ViewController>> pages{calculateViewController(), solutionViewController()};
+    build(pageTabBarController_, engine_, "shell/frame/TabsPage.qml", std::move(pages), 0);
+  }
+  return pageTabBarController_;
+}
+
+const std::shared_ptr<AppToolbarController>& AppDelegate::appToolbarController() {
+  if (!appToolbarController_)
+    build(appToolbarController_, engine_, "shell/frame/ToolbarPage.qml", pageTabBarController());
+  return appToolbarController_;
+}
+
+std::shared_ptr<HistoryTableViewController> AppDelegate::makeHistoryTableViewController() {
+  std::shared_ptr<HistoryTableViewController> history;
+  build(history, engine_, "shell/history/HistoryPage.qml", services_.calcManager, rootFactory());
+  return history;
+}
+
+std::function<std::shared_ptr<ViewController>()> AppDelegate::rootFactory() const {
+  return [&engine = engine_, services = services_] {
+    return AppDelegate(engine, services).appToolbarController();
+  };
+}
+
+}  // namespace tavi

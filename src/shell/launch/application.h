@@ -1,0 +1,31 @@
+#pragma once
+
+#include <QGuiApplication>
+#include <QQmlEngine>
+#include <optional>
+
+#include "shell/launch/app_delegate.h"
+
+namespace tavi {
+
+/// The running application: names, translations, appearance, the QML engine and the delegate.
+class Application : public QGuiApplication {
+  Q_OBJECT
+
+ public:
+  Application(int& argumentCount, char** arguments);
+  ~Application() override;
+
+  /// Opens the window.
+  void launch();
+
+  /// What runs the screens; there once the window was opened.
+  AppDelegate& delegate() { return *delegate_; }
+  QQmlEngine& engine() { return engine_; }
+
+ private:
+  QQmlEngine engine_;
+  std::optional<AppDelegate> delegate_;
+};
+
+}  // namespace tavi
