@@ -1,6 +1,5 @@
 #include "appearance/color_manager.h"
 
-#include <array>
 #include <cmath>
 
 #include "appearance/appearance.h"
@@ -10,14 +9,6 @@
 namespace tavi {
 
 namespace {
-
-constexpr double dimming = 0.7;
-constexpr int firstTag = 101;
-
-QColor keypadColor(float red, float green, float blue) {
-  const QColor color = QColor::fromRgbF(red, green, blue, static_cast<float>(InterfaceColor::colorAlpha));
-  return ColorManager::adjustedForAppearance(color, dimming);
-}
 
 int component(float value) {
   if (!std::isfinite(value)) fatalStop("a colour component is not finite");
@@ -32,25 +23,6 @@ void applyButtonShadow(View& view) {
 
 }  // namespace
 
-KeypadPalette KeypadPalette::make() {
-  return {.darkGold = keypadColor(0.78F, 0.58F, 0),
-          .brightYellow = keypadColor(1, 0.96F, 0.31F),
-          .strongYellow = keypadColor(1, 0.77F, 0),
-          .pink = keypadColor(0.93F, 0.25F, 0.48F),
-          .darkMagenta = keypadColor(0.71F, 0, 0.31F)};
-}
-
-const KeypadPalette& KeypadPalette::shared() {
-  static const KeypadPalette palette = make();
-  return palette;
-}
-
-std::optional<QColor> KeypadPalette::color(int tag) const {
-  const std::array colors{darkGold, brightYellow, strongYellow, pink, darkMagenta};
-  if (tag < firstTag || tag >= firstTag + static_cast<int>(colors.size())) return std::nullopt;
-  return colors.at(static_cast<std::size_t>(tag - firstTag));
-}
-
 std::optional<QString> ColorManager::hexString(const QColor& color) {
   if (!color.isValid()) return std::nullopt;
   float red = 0;
@@ -62,14 +34,7 @@ std::optional<QString> ColorManager::hexString(const QColor& color) {
 }
 
 QColor ColorManager::adjustedForAppearance(const QColor& color, double factor) {
-  if (!Appearance::shared().isDark()) return color;
-  float hue = 0;
-  float saturation = 0;
-  float brightness = 0;
-  float alpha = 0;
-  color.getHsvF(&hue, &saturation, &brightness, &alpha);
-  const float dimmed = std::max(0.0F, brightness * static_cast<float>(factor));
-  return QColor::fromHsvF(hue, saturation, dimmed, alpha);
+  return InterfaceColor::adjustedForAppearance(color, factor);
 }
 
 void ColorManager::applyStyle(View& view) {

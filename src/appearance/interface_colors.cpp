@@ -1,5 +1,7 @@
 #include "appearance/interface_colors.h"
 
+#include <algorithm>
+
 #include "appearance/appearance.h"
 
 namespace tavi {
@@ -48,6 +50,12 @@ QColor InterfaceColor::page() {
   return either(0xffeceff1, 0xff121212);
 }
 
+QColor InterfaceColor::hairline() {
+  QColor color = label();
+  color.setAlphaF(0.14F);
+  return color;
+}
+
 QColor InterfaceColor::fieldNeutral() {
   static const QColor color = either(0xffd1d1d6, 0xff8e8e93);
   return color;
@@ -67,6 +75,17 @@ QColor InterfaceColor::red() {
 
 QColor InterfaceColor::orange() {
   return either(0xffff9500, 0xffff9f0a);
+}
+
+QColor InterfaceColor::adjustedForAppearance(const QColor& color, double factor) {
+  if (!Appearance::shared().isDark()) return color;
+  float hue = 0;
+  float saturation = 0;
+  float brightness = 0;
+  float alpha = 0;
+  color.getHsvF(&hue, &saturation, &brightness, &alpha);
+  const float dimmed = std::max(0.0F, brightness * static_cast<float>(factor));
+  return QColor::fromHsvF(hue, saturation, dimmed, alpha);
 }
 
 }  // namespace tavi

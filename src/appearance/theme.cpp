@@ -36,9 +36,7 @@ QColor Theme::page() const {
 }
 
 QColor Theme::hairline() const {
-  QColor color = InterfaceColor::label();
-  color.setAlphaF(0.14F);
-  return color;
+  return InterfaceColor::hairline();
 }
 
 QColor Theme::focus() const {
