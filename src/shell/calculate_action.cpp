@@ -10,8 +10,8 @@
 #include "shell/calculate_view_controller.h"
 #include "shell/frame/is_calculating.h"
 #include "shell/frame/page_tab_bar_controller.h"
+#include "solution/share/step_records.h"
 #include "solution/solution_view_controller.h"
-#include "solution/step_records.h"
 #include "solver/exponent_solver.h"
 #include "solver/rehearsal.h"
 

@@ -1,4 +1,5 @@
 import QtQuick
+import Qt.labs.qmlmodels
 import Tavi
 
 // The working as one table of cards, with two round buttons over its lower right corner.
@@ -6,6 +7,7 @@ Rectangle {
     id: page
 
     required property SolutionViewController controller
+    readonly property bool hasRoomBeside: width - Theme.tabletWidth >= 2 * 96
 
     View.kind: View.Plain
     color: Theme.page
@@ -26,48 +28,41 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: page.controller.tabItem.title
         footer: Item {
+            // Enough for the last row to be scrolled clear of the buttons, too.
             width: 1
-            height: page.controller.hasFooter ? table.height / 4 : 0
+            height: page.controller.hasFooter ? Math.max(table.height / 4, table.height - manualButton.y) : 0
         }
-        delegate: Loader {
-            id: holder
+        delegate: DelegateChooser {
+            role: "kind"
 
-            required property int section
-            required property int row
-            required property int kind
-            readonly property real rowHeight: page.controller.heightForRow(section, row, page.width)
-
-            width: table.width
-            sourceComponent: [stepCell, chartCell, videoCell][kind]
-
-            Component {
-                id: stepCell
-
-                SolutionStepCell {
-                    width: holder.width
-                    rowHeight: holder.rowHeight
-                    formulaSize: formulaSizeFor(page.width)
-                    Component.onCompleted: page.controller.cellForRow(this, holder.section, holder.row)
+            DelegateChoice {
+                roleValue: "step"
+                StepRow {
+                    width: table.width
+                    viewWidth: page.width
+                    measures: page.controller.measures
                 }
             }
-            Component {
-                id: chartCell
-
-                ChartTableViewCell {
-                    height: holder.rowHeight
-                    Component.onCompleted: page.controller.cellForRow(this, holder.section, holder.row)
+            DelegateChoice {
+                roleValue: "chart"
+                ChartRow {
+                    width: table.width
+                    viewWidth: page.width
                 }
             }
-            Component {
-                id: videoCell
-
-                VideoCollectionTableViewCell {
-                    height: holder.rowHeight
-                    Component.onCompleted: page.controller.cellForRow(this, holder.section, holder.row)
+            DelegateChoice {
+                roleValue: "video"
+                VideoRow {
+                    width: table.width
+                    viewWidth: page.width
                 }
             }
         }
 
+        // A ring is for those who go by key: it comes with the first one, if only let go here.
+        property bool isKeyed: false
+        onActiveFocusChanged: isKeyed = false
+        Keys.onReleased: isKeyed = true
         Keys.onPressed: event => {
             const page = height - 48;
             const ways = {
@@ -88,12 +83,15 @@ Rectangle {
             function onScrollToTopRequested() {
                 table.positionViewAtBeginning();
             }
+            function onSolutionShown() {
+                table.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
     }
 
     FocusRing {
         anchors.fill: table
-        visible: table.activeFocus
+        visible: table.activeFocus && table.isKeyed
     }
     ScrollThumb {
         flickable: table
@@ -107,15 +105,18 @@ Rectangle {
 
         objectName: "shareButton"
         View.tag: 104
-        anchors.right: table.right
+        // Beside the table where there is room for them.
+        x: Math.min(page.width - width - 12, table.x + table.width + (page.hasRoomBeside ? 24 : -width - 12))
         anchors.bottom: table.bottom
-        anchors.margins: 12
+        anchors.bottomMargin: 12
         visible: !page.controller.isShareButtonHidden
         text: qsTrId("shareButton")
         iconText: Icons.share
         onClicked: page.controller.tappedShareButton()
     }
     FloatingButton {
+        id: manualButton
+
         objectName: "manualButton"
         anchors.right: shareButton.right
         anchors.bottom: shareButton.top

@@ -1,5 +1,7 @@
 #include "solution/solution_view_controller.h"
 
+#include <QCoroTimer>
+
 #include "appearance/color_manager.h"
 #include "number/fatal_stop.h"
 #include "platform/analytics.h"
@@ -11,11 +13,9 @@
 #include "shell/frame/screenshot.h"
 #include "shell/frame/toolbar_controller.h"
 #include "shell/frame/view_manager.h"
-#include "solution/chart_table_view_cell.h"
-#include "solution/share_sheet_controller.h"
-#include "solution/solution_table_source.h"
-#include "solution/step_records.h"
-#include "solution/table_capture.h"
+#include "solution/share/share_sheet_controller.h"
+#include "solution/share/step_records.h"
+#include "solution/share/table_capture.h"
 
 namespace tavi {
 
@@ -39,9 +39,10 @@ void SolutionViewController::showSolution(AppPageTabBarController* tabs,
   page->data_.configuredRowHeight = configuredRowHeight;
   page->data_.rowHeight = rowHeight;
   page->manualImageName_ = manualImageName;
-  page->reloadTable();
+  page->table_.reset(page->data_.rows());
   page->scrollToTop();
   tabs->select(1);
+  emit page->solutionShown();
 }
 
 void SolutionViewController::handleClearAllButton() {
@@ -51,17 +52,8 @@ void SolutionViewController::handleClearAllButton() {
   updateTabItem();
   manualImageName_.reset();
   hasFooter_ = false;
-  reloadTable();
+  table_.update(data_.rows());
   emit layoutChanged();
-}
-
-void SolutionViewController::cellForRow(TableViewCell* cell, int section, int row) {
-  data_.configureCell(*cell, section, row);
-  if (auto* chart = qobject_cast<ChartTableViewCell*>(cell)) chart->scheduleChartAnimation();
-}
-
-double SolutionViewController::heightForRow(int section, int row, double viewWidth) const {
-  return row < data_.numberOfRows(section) ? data_.heightForRow(section, row, viewWidth) : 0;
 }
 
 void SolutionViewController::tappedShareButton() {
@@ -86,9 +78,9 @@ QCoro::Task<> SolutionViewController::share() {
                    if (self) self->presentShareSheet(*items);
                  }}},
                AlertStyle::alert);
-  const double viewWidth = view() ? view()->width() : 0;
-  const double tableWidth = tableView_ ? tableView_->width() : viewWidth;
-  const auto table = std::make_shared<SolutionTableSource>(data_, viewWidth, tableWidth, view());
+  const PicturedTable table = picturedTable();
+  // The tap is over before the capture begins, so that message and spinner are seen even for a short working.
+  co_await QCoro::sleepFor(std::chrono::milliseconds(0));
   const QImage image = co_await tableViewScreenshot(table);
   if (!image.isNull()) items->push_back(image);
   ViewManager::hideSpinner();
@@ -96,10 +88,18 @@ QCoro::Task<> SolutionViewController::share() {
   if (self) self->presentShareSheet(*items);
 }
 
+PicturedTable SolutionViewController::picturedTable() {
+  const double viewWidth = view() ? view()->width() : 0;
+  PicturedTable table{.width = tableView_ ? tableView_->width() : viewWidth, .sections = {{}}};
+  for (const SolutionRow& row : table_.rows())
+    table.sections.front().rows.emplace_back([row, viewWidth] { return makePainter(row, viewWidth); });
+  return table;
+}
+
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
   if (items.empty()) return;
   auto sheet = std::make_shared<ShareSheetController>(items.front());
-  if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/ShareSheet.qml"));
+  if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
 }
 
@@ -122,7 +122,7 @@ void SolutionViewController::viewWillAppear() {
   updateTabItem();
   data_.videoUrlStrings = remoteConfig_.videoLinks(VideoTopic::powersAndRoots);
   hasFooter_ = true;
-  reloadTable();
+  table_.update(data_.rows());
   if (bannerView()) bannerView()->setVisible(false);
   bottomBannerInset_ = bottomSafeAreaInset();
   emit layoutChanged();

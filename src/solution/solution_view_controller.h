@@ -1,9 +1,9 @@
 #pragma once
 
 #include <QCoroTask>
+#include <QImage>
 #include <QPointer>
 #include <QStringList>
-#include <chrono>
 #include <memory>
 #include <optional>
 #include <vector>
@@ -11,8 +11,10 @@
 #include "platform/notification_center.h"
 #include "remote/remote_config_manager.h"
 #include "shell/frame/view_controller.h"
+#include "solution/rows/row_measures.h"
+#include "solution/rows/solution_table_data.h"
+#include "solution/share/table_capture.h"
 #include "solution/solution_table.h"
-#include "solution/solution_table_data.h"
 
 namespace tavi {
 
@@ -25,6 +27,7 @@ class SolutionViewController : public AdHandlingViewController {
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(QAbstractItemModel* table READ table CONSTANT)
+  Q_PROPERTY(tavi::RowMeasures measures READ measures CONSTANT)
   Q_PROPERTY(bool isShareButtonHidden READ isShareButtonHidden NOTIFY layoutChanged)
   Q_PROPERTY(bool isManualButtonHidden READ isManualButtonHidden NOTIFY layoutChanged)
   Q_PROPERTY(bool hasFooter READ hasFooter NOTIFY layoutChanged)
@@ -55,16 +58,13 @@ class SolutionViewController : public AdHandlingViewController {
   const QStringList& videoUrlStrings() const { return data_.videoUrlStrings; }
 
   SolutionTable* table() { return &table_; }
+  static RowMeasures measures() { return rowMeasures; }
   bool isShareButtonHidden() const { return isShareButtonHidden_; }
   bool isManualButtonHidden() const { return isManualButtonHidden_; }
   bool hasFooter() const { return hasFooter_; }  ///< A quarter of the table's height, empty.
   double bottomBannerInset() const { return bottomBannerInset_; }
 
   // What the page calls.
-  /// Fills a cell that comes into view. A chart is started half a second later.
-  Q_INVOKABLE void cellForRow(tavi::TableViewCell* cell, int section, int row);
-  /// On a page of that width; 0 for a row that is gone, whose cell still goes.
-  Q_INVOKABLE double heightForRow(int section, int row, double viewWidth) const;
   /// Pictures the whole table while a message says so, and then offers the picture.
   Q_INVOKABLE void tappedShareButton();
   Q_INVOKABLE void manualButtonPressed();
@@ -72,6 +72,8 @@ class SolutionViewController : public AdHandlingViewController {
  signals:
   void layoutChanged();
   void scrollToTopRequested();
+  /// A new solution is on the screen.
+  void solutionShown();
   void manualRequested(const QString& imageName);
 
  protected:
@@ -82,9 +84,9 @@ class SolutionViewController : public AdHandlingViewController {
   using ShareItems = std::vector<QImage>;
 
   void updateTabItem();
-  void reloadTable() { table_.reload(data_); }
   void scrollToTop();
   QCoro::Task<> share();
+  PicturedTable picturedTable();
   void presentShareSheet(const ShareItems& items);
 
   const RemoteConfigManager& remoteConfig_;

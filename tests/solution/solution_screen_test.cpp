@@ -10,7 +10,7 @@
 #include "shell/frame/recording_controller.h"
 #include "shell/frame/screenshot.h"
 #include "shell/frame/toolbar_controller.h"
-#include "solution/solution_step_cell.h"
+#include "solution/rows/step_row.h"
 #include "solution/solution_view_controller.h"
 
 namespace tavi {
@@ -128,12 +128,12 @@ TEST_F(SolutionScreenTest, ReportsTheWholeSolutionWhenItIsShared) {
   EXPECT_TRUE(QTest::qWaitFor([] { return !isTakingScreenshot; }));
 }
 
-class StepCellTest : public testing::Test {
+class StepRowTest : public testing::Test {
  protected:
   SolutionStepTableViewCell cell;
 };
 
-TEST_F(StepCellTest, ShowsATitleThatEndsInTheBoldMarkInTheHeavyFont) {
+TEST_F(StepRowTest, ShowsATitleThatEndsInTheBoldMarkInTheHeavyFont) {
   struct Case {
     const char* title;
     const char* shown;
@@ -147,20 +147,20 @@ TEST_F(StepCellTest, ShowsATitleThatEndsInTheBoldMarkInTheHeavyFont) {
                         {"", "", false}};
   for (const Case& each : cases) {
     cell.setStepTitle(QString::fromLatin1(each.title));
-    EXPECT_EQ(cell.stepTitle(), QLatin1String(each.shown)) << each.title;
-    EXPECT_EQ(cell.titleFont().weight() > QFont::Bold, each.isHeavy) << each.title;
-    EXPECT_EQ(cell.titleFont().pixelSize(), 14);
+    EXPECT_EQ(cell.title, QLatin1String(each.shown)) << each.title;
+    EXPECT_EQ(cell.titleFont.weight() > QFont::Bold, each.isHeavy) << each.title;
+    EXPECT_EQ(cell.titleFont.pixelSize(), 14);
   }
 }
 
-TEST_F(StepCellTest, ShowsTheMessageBeforeTheFormulaAndForgetsWhatItShowed) {
+TEST_F(StepRowTest, ShowsTheMessageBeforeTheFormulaAndForgetsWhatItShowed) {
   cell.setStepContent(step("", "1.0*2"));
-  EXPECT_EQ(cell.latex(), "1\\cdot 2");
+  EXPECT_EQ(cell.latex, "1\\cdot 2");
   cell.setStepContent({.title = "", .latexString = "2", .messageString = "Words"});
-  EXPECT_EQ(cell.message(), "Words");
-  EXPECT_EQ(cell.latex(), "");
+  EXPECT_EQ(cell.message, "Words");
+  EXPECT_EQ(cell.latex, "");
   cell.setStepContent({.title = "", .latexString = std::nullopt, .messageString = std::nullopt});
-  EXPECT_EQ(cell.message(), "");
+  EXPECT_EQ(cell.message, "");
 }
 
 }  // namespace

@@ -13,7 +13,6 @@
 #include "shell/frame/controller_host.h"
 #include "shell/frame/page_tab_bar_controller.h"
 #include "shell/frame/toolbar_controller.h"
-#include "solution/solution_step_cell.h"
 #include "solution/solution_view_controller.h"
 
 namespace tavi {
@@ -48,13 +47,11 @@ class SolutionStage : public testing::Test {
 
   QQuickItem& table() { return *solution->view()->findChild<QQuickItem*>("solutionTable"); }
 
-  /// The cells of that kind that exist, from the top.
-  template <typename Cell = SolutionStepTableViewCell>
-  std::vector<Cell*> cells() {
-    std::vector<Cell*> found;
-    for (QQuickItem* holder : table().property("contentItem").value<QQuickItem*>()->childItems())
-      for (QQuickItem* item : holder->childItems())
-        if (auto* cell = qobject_cast<Cell*>(item); cell && cell->isVisible()) found.push_back(cell);
+  /// The rows that exist, from the top.
+  std::vector<QQuickItem*> cells() {
+    std::vector<QQuickItem*> found;
+    for (QQuickItem* item : table().property("contentItem").value<QQuickItem*>()->childItems())
+      if (item->isVisible() && item->property("content").isValid()) found.push_back(item);
     std::ranges::sort(found, {}, [](QQuickItem* cell) { return cell->mapToScene({}).y(); });
     return found;
   }

@@ -1,19 +1,15 @@
-#include "solution/solution_table_data.h"
+#include "solution/rows/solution_table_data.h"
 
 #include <QQuickWindow>
+#include <QSignalSpy>
 
 #include <gtest/gtest.h>
 
 #include "number/fatal_stop.h"
-#include "solution/chart_table_view_cell.h"
-#include "solution/solution_step_cell.h"
 #include "solution/solution_table.h"
-#include "solution/video_collection_table_view_cell.h"
 
 namespace tavi {
 namespace {
-
-using Kind = SolutionTableData::RowKind;
 
 ChartRow chartRow(double frameRatio) {
   auto chart = std::make_shared<LineChartData>();
@@ -35,23 +31,26 @@ TEST(SolutionTableDataTest, HasASectionForStepsChartsAndVideosAsTheyAreThere) {
     const char* name;
     SolutionTableData data;
     std::vector<int> rows;
-    std::vector<Kind> kinds;
+    std::vector<std::string> kinds;
   };
+  QQuickWindow window;
+  window.resize(412, 700);
   const Case cases[] = {
-      {"nothing solved", table(0, {}, false), {0}, {Kind::Step}},
-      {"videos without a solution", table(0, {}, true), {0}, {Kind::Step}},
-      {"steps", table(3, {}, false), {3}, {Kind::Step}},
-      {"steps and videos", table(3, {}, true), {3, 1}, {Kind::Step, Kind::Video}},
-      {"steps and charts", table(3, {2, 1}, false), {3, 2}, {Kind::Step, Kind::Chart}},
-      {"all", table(3, {2}, true), {3, 1, 1}, {Kind::Step, Kind::Chart, Kind::Video}},
+      {"nothing solved", table(0, {}, false), {0}, {}},
+      {"videos without a solution", table(0, {}, true), {0}, {}},
+      {"steps", table(2, {}, false), {2}, {"step", "step"}},
+      {"steps and videos", table(1, {}, true), {1, 1}, {"step", "video"}},
+      {"steps and charts", table(1, {2, 1}, false), {1, 2}, {"step", "chart", "chart"}},
+      {"all", table(1, {2}, true), {1, 1, 1}, {"step", "chart", "video"}},
       // The last section counts as that of the videos although it was counted for the charts.
-      {"charts and videos without steps", table(0, {2, 1}, true), {0, 1}, {Kind::Step, Kind::Video}}};
+      {"charts and videos without steps", table(0, {2, 1}, true), {0, 1}, {"video"}}};
   for (const auto& [name, data, rows, kinds] : cases) {
     ASSERT_EQ(data.numberOfSections(), static_cast<int>(rows.size())) << name;
-    for (std::size_t section = 0; section < rows.size(); ++section) {
+    for (std::size_t section = 0; section < rows.size(); ++section)
       EXPECT_EQ(data.numberOfRows(static_cast<int>(section)), rows[section]) << name << section;
-      EXPECT_EQ(data.kindOfRows(static_cast<int>(section)), kinds[section]) << name << section;
-    }
+    std::vector<std::string> found;
+    for (const SolutionRow& row : data.rows()) found.emplace_back(kindOf(row));
+    EXPECT_EQ(found, kinds) << name;
   }
 }
 
@@ -70,42 +69,50 @@ TEST(SolutionTableDataTest, RowsAreAsHighAsTheirKindSays) {
   };
   for (const auto& [section, row, height] :
        {Case{0, 0, 100}, Case{0, 1, 240}, Case{1, 0, 200}, Case{1, 1, 800}, Case{2, 0, ofVideos}})
-    EXPECT_EQ(data.heightForRow(section, row, 400), height) << section << ' ' << row;
+    EXPECT_EQ(data.heightForRow(section, row).at(400), height) << section << ' ' << row;
 
   data.chartSteps.clear();
-  EXPECT_EQ(data.heightForRow(1, 0, 400), ofVideos) << "the videos, not a chart";
+  EXPECT_EQ(data.heightForRow(1, 0).at(400), ofVideos) << "the videos, not a chart";
 }
 
 TEST(SolutionTableDataTest, StopsAtRowsThatCannotBe) {
   SolutionTableData data = table(1, {2}, false);
-  SolutionStepTableViewCell stepCell;
-  ChartTableViewCell chartCell;
-  EXPECT_THROW(data.configureCell(stepCell, 0, 1), FatalStop);
-  EXPECT_THROW(data.configureCell(chartCell, 1, 1), FatalStop);
-  EXPECT_THROW(data.heightForRow(1, 1, 400), FatalStop);
+  EXPECT_THROW(data.rowAt(0, 1), FatalStop);
+  EXPECT_THROW(data.rowAt(1, 1), FatalStop);
   data.chartSteps = {{}};
-  EXPECT_THROW(data.heightForRow(1, 0, 400), FatalStop);
+  EXPECT_THROW(data.heightForRow(1, 0), FatalStop);
   data.solutionSteps = SolutionSteps(1);
-  EXPECT_THROW(data.configureCell(stepCell, 0, 0), FatalStop);
+  EXPECT_THROW(data.rowAt(0, 0), FatalStop);
 }
 
-TEST(SolutionTableDataTest, FillsTheCellOfEachKind) {
-  const SolutionTableData data = table(2, {2}, true);
-  SolutionStepTableViewCell first;
-  data.configureCell(first, 0, 0);
-  EXPECT_EQ(first.stepTitle(), "Step");
-  EXPECT_TRUE(first.isFirst());
-  EXPECT_FALSE(first.isLast()) << "charts and videos are not of the card, but the second step is";
+TEST(SolutionTableDataTest, TheStepsAreOneCard) {
+  const std::vector<SolutionRow> rows = table(3, {2}, false).rows();
+  const bool places[][2] = {{true, false}, {false, false}, {false, true}};
+  for (std::size_t row = 0; row < 3; ++row) {
+    const auto& step = std::get<SolutionStepTableViewCell>(rows[row].content);
+    EXPECT_EQ(step.isFirst, places[row][0]) << row;
+    EXPECT_EQ(step.isLast, places[row][1]) << row << ": charts are not of the card";
+  }
+}
 
-  ChartTableViewCell chart;
-  chart.setBackgroundColor(Qt::red);
-  data.configureCell(chart, 1, 0);
-  EXPECT_EQ(chart.backgroundColor(), QColor(Qt::transparent));
-  EXPECT_EQ(chart.charts(), data.chartSteps[0]);
-
-  VideoCollectionTableViewCell videos;
-  data.configureCell(videos, 2, 0);
-  EXPECT_EQ(videos.videoUrlStringArray, data.videoUrlStrings);
+TEST(SolutionTableTest, AnUpdateLeavesTheRowsAsTheyAreThatAreStillTheSame) {
+  QQuickWindow window;
+  window.resize(412, 700);
+  SolutionTable model;
+  model.reset(table(3, {2}, true).rows());
+  QSignalSpy inserted(&model, &QAbstractItemModel::rowsInserted);
+  QSignalSpy removed(&model, &QAbstractItemModel::rowsRemoved);
+  model.update(std::vector(model.rows()));
+  EXPECT_EQ(inserted.count() + removed.count(), 0);
+  std::vector<SolutionRow> rows = model.rows();
+  rows.pop_back();
+  rows.push_back(rows[0]);
+  model.update(rows);
+  EXPECT_EQ(model.rows(), rows);
+  EXPECT_EQ(removed.value(0).value(1).toInt(), 4);
+  EXPECT_EQ(inserted.value(0).value(1).toInt(), 4);
+  model.update({});
+  EXPECT_EQ(model.rowCount(), 0);
 }
 
 TEST(ChartDataTest, AQuadrantIsReadFromItsNumeral) {

@@ -1,15 +1,14 @@
-#include "solution/table_capture.h"
+#include "solution/share/table_capture.h"
 
 #include <QElapsedTimer>
-#include <QQuickWindow>
+#include <QPainter>
 #include <QTest>
 #include <QTimer>
 
 #include <gtest/gtest.h>
 
 #include "appearance/interface_colors.h"
-#include "solution/chart_table_view_cell.h"
-#include "solution/solution_table_source.h"
+#include "solution/rows/solution_table_data.h"
 
 namespace tavi {
 namespace {
@@ -29,68 +28,45 @@ QImage pictureOf(QCoro::Task<QImage> task) {
   return picture;
 }
 
-/// A cell of one colour, or one that has no picture.
-class ColoredCell : public TableViewCell {
+/// A row of one colour.
+class ColoredRow : public RowPainter {
  public:
-  explicit ColoredCell(const QColor& color) : color_(color) {}
+  ColoredRow(const QColor& color, double height, std::chrono::milliseconds settling = {})
+      : color_(color), height_(height), settling_(settling) {}
 
-  QCoro::Task<QImage> screenshot(double pixels) override {
-    QImage image((size() * pixels).toSize(), QImage::Format_ARGB32_Premultiplied);
-    image.fill(color_);
-    co_return color_.isValid() ? image : QImage();
+  double height(double) const override { return height_; }
+  void paint(QPainter& painter, QSizeF size, const RowPalette&) const override {
+    painter.fillRect(QRectF({}, size), color_);
   }
+  std::chrono::milliseconds settlingTime() const override { return settling_; }
 
  private:
   QColor color_;
+  double height_;
+  std::chrono::milliseconds settling_;
 };
 
-QQuickItem* colored(QQuickItem* parent, QSizeF size, const QColor& color) {
-  auto* cell = new TableViewCell(parent);
-  cell->setSize(size);
-  cell->setBackgroundColor(color);
-  return cell;
+RowSource row(const QColor& color, double height, std::chrono::milliseconds settling = {}) {
+  return [=] { return std::make_shared<ColoredRow>(color, height, settling); };
 }
 
-/// Two sections with headers and footers: a header in green, a blank header, rows, a footer in blue.
-class SmallTable : public TableDataSource {
- public:
-  SmallTable() {
-    window.resize(200, 200);
-    tableHeader_.reset(colored(window.contentItem(), {100, 10}, Qt::yellow));
-    header_.reset(colored(window.contentItem(), {100, 10}, Qt::green));
-    footer_.reset(colored(window.contentItem(), {100, 10}, Qt::blue));
-    window.show();
-    EXPECT_TRUE(QTest::qWaitForWindowExposed(&window));
-  }
+SectionEdge edge(const QColor& color) {
+  return {{100, 10}, std::make_shared<ColoredRow>(color, 10)};
+}
 
-  double width() const override { return 100; }
-  QQuickItem* cellParent() const override { return window.contentItem(); }
-  QQuickItem* tableHeaderView() const override { return hasTableHeader ? tableHeader_.get() : nullptr; }
-  SectionEdge header(int section) const override {
-    if (section == 0) return {{100, 10}, header_.get()};
-    return {{100, 10}, nullptr};
-  }
-  SectionEdge footer(int section) const override {
-    return section == 0 ? SectionEdge{} : SectionEdge{{100, 10}, footer_.get()};
-  }
-  int numberOfSections() const override { return 2; }
-  int numberOfRows(int section) const override { return section == 0 ? 2 : 3; }
-  double heightForRow(int, int row) const override { return row == 0 ? 20 : 30; }
-  std::unique_ptr<TableViewCell> cellForRow(int section, int row) const override {
-    if (section == 0) return std::make_unique<ColoredCell>(row == 0 ? Qt::red : Qt::darkRed);
-    if (row == 0) return std::make_unique<ChartTableViewCell>();
-    if (row == 1) return nullptr;
-    return std::make_unique<ColoredCell>(QColor());
-  }
-
-  mutable QQuickWindow window;
-  bool hasTableHeader = false;
-
- private:
-  std::unique_ptr<QQuickItem> tableHeader_;
-  std::unique_ptr<QQuickItem> header_;
-  std::unique_ptr<QQuickItem> footer_;
-};
+/// Two sections: rows under a green header; under a blank header a row, one that is gone and one without
+/// height, and a footer in blue.
+PicturedTable smallTable() {
+  PicturedTable table;
+  table.width = 100;
+  table.sections.resize(2);
+  table.sections[0].header = edge(Qt::green);
+  table.sections[0].rows = {row(Qt::red, 20), row(Qt::darkRed, 30)};
+  table.sections[1].header.size = {100, 10};
+  table.sections[1].rows = {row(Qt::cyan, 20), [] { return nullptr; }, row(Qt::magenta, 0)};
+  table.sections[1].footer = edge(Qt::blue);
+  return table;
+}
 
 struct Stripe {
   QColor color;
@@ -114,11 +90,9 @@ std::vector<Stripe> stripes(const QImage& picture) {
 }
 
 TEST(TableCaptureTest, StacksHeadersRowsAndFootersInTheirOrder) {
-  const auto table = std::make_shared<SmallTable>();
   const Stripe rows[] = {{Qt::red, 40}, {Qt::darkRed, 60}};
   const Stripe blank{InterfaceColor::page(), 20};
-  // The chart has the system's background; a row without a cell and one without a picture are left out.
-  const Stripe chart{InterfaceColor::background(), 40};
+  const Stripe third{Qt::cyan, 40};
   const Stripe header{Qt::green, 20};
   const Stripe footer{Qt::blue, 20};
   struct Case {
@@ -128,37 +102,56 @@ TEST(TableCaptureTest, StacksHeadersRowsAndFootersInTheirOrder) {
     std::vector<Stripe> expected;
   };
   const Case cases[] = {
-      {false, {}, {}, {header, rows[0], rows[1], blank, chart, footer}},
-      {true, {}, {}, {{Qt::yellow, 20}, header, rows[0], rows[1], blank, chart, footer}},
-      {false, std::set<int>{}, std::set<int>{0}, {rows[0], rows[1], chart}},
-      {false, std::set<int>{1}, {}, {rows[0], rows[1], blank, chart, footer}},
+      {false, {}, {}, {header, rows[0], rows[1], blank, third, footer}},
+      {true, {}, {}, {{Qt::yellow, 20}, header, rows[0], rows[1], blank, third, footer}},
+      {false, std::set<int>{}, std::set<int>{0}, {rows[0], rows[1], third}},
+      {false, std::set<int>{1}, {}, {rows[0], rows[1], blank, third, footer}},
   };
   for (const auto& [hasTableHeader, headers, footers, expected] : cases) {
-    table->hasTableHeader = hasTableHeader;
-    const QImage picture =
-        pictureOf(tableViewScreenshot(table, {headers, footers, std::chrono::milliseconds(1), margin}));
+    PicturedTable table = smallTable();
+    if (hasTableHeader) table.tableHeader = edge(Qt::yellow);
+    const QImage picture = pictureOf(tableViewScreenshot(table, {headers, footers, margin}));
     EXPECT_EQ(picture.width(), 100 * scale);
     EXPECT_EQ(stripes(picture), expected);
   }
 }
 
-TEST(TableCaptureTest, GivesEachChartItsTimeAndTheInterfaceItsEvents) {
-  const auto table = std::make_shared<SmallTable>();
+TEST(TableCaptureTest, GivesEachRowItsTimeAndTheInterfaceItsEvents) {
+  PicturedTable table;
+  table.width = 100;
+  table.sections.resize(1);
+  table.sections[0].rows = {row(Qt::red, 20, std::chrono::milliseconds(200))};
   int ticks = 0;
   QTimer ticking;
   QObject::connect(&ticking, &QTimer::timeout, [&ticks] { ++ticks; });
   ticking.start(10);
   QElapsedTimer timer;
   timer.start();
-  pictureOf(tableViewScreenshot(table, {{}, {}, std::chrono::milliseconds(200), margin}));
+  pictureOf(tableViewScreenshot(table));
   EXPECT_GE(timer.elapsed(), 200);
-  EXPECT_GE(ticks, 10);
+  EXPECT_GE(ticks, 2);
 }
 
 TEST(TableCaptureTest, OfAnEmptyTableThereIsNothing) {
-  EXPECT_TRUE(pictureOf(tableViewScreenshot(
-                            std::make_shared<SolutionTableSource>(SolutionTableData{}, 412, 396, nullptr)))
-                  .isNull());
+  EXPECT_TRUE(pictureOf(tableViewScreenshot({})).isNull());
+}
+
+TEST(MergedImageTest, StacksPiecesAtTheLeftOnATransparentGround) {
+  QImage wide(30, 10, QImage::Format_RGB32);
+  QImage narrow(10, 20, QImage::Format_RGB32);
+  wide.fill(Qt::red);
+  narrow.fill(Qt::blue);
+  const QImage merged = mergedImage({narrow, wide});
+  EXPECT_EQ(merged.size(), QSize(30, 30));
+  EXPECT_EQ(merged.pixelColor(9, 19), QColor(Qt::blue));
+  EXPECT_EQ(merged.pixelColor(10, 19).alpha(), 0);
+  EXPECT_EQ(merged.pixelColor(29, 20), QColor(Qt::red));
+  EXPECT_EQ(mergedImage({}).size(), QSize(0, 0));
+  const QImage frame = framed(merged, 5, Qt::green);
+  EXPECT_EQ(frame.size(), QSize(40, 40));
+  EXPECT_EQ(frame.pixelColor(4, 4), QColor(Qt::green));
+  EXPECT_EQ(frame.pixelColor(20, 10), QColor(Qt::green));
+  EXPECT_EQ(frame.pixelColor(5, 5), QColor(Qt::blue));
 }
 
 SolutionTableData solution(SolutionSteps steps) {
@@ -169,7 +162,12 @@ SolutionTableData solution(SolutionSteps steps) {
 }
 
 QImage pictureOf(const SolutionTableData& data) {
-  return pictureOf(tableViewScreenshot(std::make_shared<SolutionTableSource>(data, 412, 396, nullptr)));
+  PicturedTable table;
+  table.width = 396;
+  table.sections.resize(1);
+  for (const SolutionRow& each : data.rows())
+    table.sections.front().rows.emplace_back([each] { return makePainter(each, 412); });
+  return pictureOf(tableViewScreenshot(table));
 }
 
 SolutionStep formula(std::string title, std::string latex) {

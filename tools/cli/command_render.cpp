@@ -13,8 +13,10 @@
 #include <QtGui/QPdfWriter>
 #include <QtSvg/QSvgGenerator>
 
+#include "appearance/appearance.h"
 #include "commands.h"
-#include "solution_sheet.h"
+#include "solution/rows/row_stack.h"
+#include "solution/rows/solution_table_data.h"
 #include "solver/rehearsal.h"
 
 namespace tavi::cli {
@@ -22,6 +24,9 @@ namespace {
 
 // More copies of a base than this make no picture that anyone looks at.
 constexpr std::int64_t copyLimit = 1000;
+// A phone's page and its rows.
+constexpr double pageWidth = 412;
+constexpr double rowHeight = 100;
 // What QImage can paint on.
 constexpr double widestImage = 32767;
 
@@ -55,13 +60,13 @@ bool readScale(std::string_view text, double& scale) {
   return error == std::errc{} && end == text.data() + text.size() && scale > 0 && scale <= 20;
 }
 
-void paintScaled(QPaintDevice& device, const SolutionSheet& sheet, double scale) {
+void paintScaled(QPaintDevice& device, const RowStack& sheet, double scale) {
   QPainter painter(&device);
   painter.scale(scale, scale);
-  sheet.paint(painter);
+  sheet.paint(painter, RowPalette::current());
 }
 
-bool writePng(QSaveFile& file, const SolutionSheet& sheet, double scale) {
+bool writePng(QSaveFile& file, const RowStack& sheet, double scale) {
   const QSizeF size = sheet.size() * scale;
   if (size.width() > widestImage || size.height() > widestImage) {
     std::cerr << "tavi-cli: the picture would be " << std::ceil(size.width())
@@ -75,7 +80,7 @@ bool writePng(QSaveFile& file, const SolutionSheet& sheet, double scale) {
   return image.save(&file, "PNG");
 }
 
-bool writeSvg(QSaveFile& file, const SolutionSheet& sheet, double scale) {
+bool writeSvg(QSaveFile& file, const RowStack& sheet, double scale) {
   QSvgGenerator generator;
   generator.setOutputDevice(&file);
   generator.setResolution(96);
@@ -86,7 +91,7 @@ bool writeSvg(QSaveFile& file, const SolutionSheet& sheet, double scale) {
   return true;
 }
 
-bool writePdf(QSaveFile& file, const SolutionSheet& sheet, double scale) {
+bool writePdf(QSaveFile& file, const RowStack& sheet, double scale) {
   QPdfWriter writer(&file);
   writer.setResolution(72);
   writer.setPageSize(QPageSize(sheet.size() * scale, QPageSize::Point, {}, QPageSize::ExactMatch));
@@ -111,7 +116,11 @@ int draw(const Request& request, const SolutionSteps& steps) {
   std::string name = "tavi-cli";
   std::array<char*, 2> arguments{name.data(), nullptr};
   const QGuiApplication application(argumentCount, arguments.data());
-  const SolutionSheet sheet(steps, request.isDark ? darkSheet() : lightSheet());
+  Appearance::shared().force(request.isDark);
+  SolutionTableData data;
+  data.solutionSteps = steps;
+  data.rowHeight = rowHeight;
+  const RowStack sheet(data.rows(), pageWidth);
   const bool areSaved =
       save(request.png, [&](QSaveFile& file) { return writePng(file, sheet, request.scale); }) &&
       save(request.svg, [&](QSaveFile& file) { return writeSvg(file, sheet, request.scale); }) &&

@@ -3,7 +3,7 @@
 #include <QTest>
 
 #include "shell/frame/screenshot.h"
-#include "solution/share_sheet_controller.h"
+#include "solution/share/share_sheet_controller.h"
 
 namespace tavi::tour {
 

@@ -1,4 +1,4 @@
-#include "solution/share_sheet_controller.h"
+#include "solution/share/share_sheet_controller.h"
 
 #include <QClipboard>
 #include <QCoroFuture>

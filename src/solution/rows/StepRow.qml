@@ -1,58 +1,61 @@
 import QtQuick
 import Tavi
 
-// A row of the solution: a title over a formula that scrolls sideways and is never shrunk. It is as high as the
-// controller says, and higher only where the formula would be cut. StepRowPicture draws the same for a picture.
-SolutionStepTableViewCell {
+// The row of a step: a title over a formula that scrolls sideways and is never shrunk. It is as high as the controller
+// says, and higher only where the formula would be cut.
+Item {
     id: cell
 
-    required property real rowHeight
-    readonly property bool hasTitle: stepTitle !== ""
-    readonly property int corner: 12
-    readonly property real headHeight: hasTitle ? 12 + title.height + 8 : 8
+    required property var content
+    required property var rowHeight
+    required property real viewWidth
+    required property var measures
+    readonly property bool hasTitle: content.title !== ""
+    readonly property real headHeight: hasTitle ? measures.padding + title.height + measures.gap : measures.gap
 
-    height: Math.max(rowHeight, headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + 12)
+    height: Math.max(rowHeight.at(viewWidth),
+                     headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + measures.padding)
     Accessible.role: Accessible.StaticText
-    Accessible.name: [stepTitle, message || formula.spokenText].filter(text => text).join(", ")
+    Accessible.name: [content.title, content.message || formula.spokenText].filter(text => text).join(", ")
 
     // The card of the whole table is rounded where it begins and ends.
     Rectangle {
         anchors.fill: parent
-        radius: cell.isFirst || cell.isLast ? cell.corner : 0
+        radius: cell.content.isFirst || cell.content.isLast ? cell.measures.corner : 0
         color: Theme.background
     }
     Rectangle {
-        y: cell.isFirst ? cell.corner : 0
+        y: cell.content.isFirst ? cell.measures.corner : 0
         width: parent.width
-        height: parent.height - y - (cell.isLast ? cell.corner : 0)
+        height: parent.height - y - (cell.content.isLast ? cell.measures.corner : 0)
         color: Theme.background
     }
     Rectangle {
-        visible: cell.hasTitle && !cell.isFirst
-        x: 16
-        width: parent.width - 32
-        height: 1
+        visible: cell.hasTitle && !cell.content.isFirst
+        x: cell.measures.edge
+        width: parent.width - 2 * x
+        height: cell.measures.hairline
         color: Theme.hairline
     }
     Rectangle {
-        visible: cell.isResult
-        y: 12
-        width: 4
-        height: parent.height - 24
-        radius: 2
+        visible: cell.content.isResult
+        y: cell.measures.padding
+        width: cell.measures.barWidth
+        height: parent.height - 2 * y
+        radius: width / 2
         color: Theme.pink
     }
 
     Text {
         id: title
 
-        x: 16
-        y: formula.visible || messageLabel.visible ? 12 : (parent.height - height) / 2
-        width: parent.width - 32
+        x: cell.measures.edge
+        y: formula.visible || messageLabel.visible ? cell.measures.padding : (parent.height - height) / 2
+        width: parent.width - 2 * x
         visible: cell.hasTitle
-        text: cell.stepTitle
+        text: cell.content.title
         textFormat: Text.PlainText
-        font: cell.titleFont
+        font: cell.content.titleFont
         color: Theme.label
         wrapMode: Text.Wrap
         Accessible.ignored: true
@@ -61,14 +64,14 @@ SolutionStepTableViewCell {
     Text {
         id: messageLabel
 
-        x: 28
+        x: cell.measures.messageIndent
         y: cell.headHeight
-        width: parent.width - 44
-        height: parent.height - y - 12
+        width: parent.width - x - cell.measures.edge
+        height: parent.height - y - cell.measures.padding
         visible: text
-        text: cell.message
+        text: cell.content.message
         textFormat: Text.PlainText
-        font: Theme.book(16)
+        font: Theme.book(cell.measures.messageSize)
         color: Theme.label
         wrapMode: Text.Wrap
         verticalAlignment: Text.AlignVCenter
@@ -83,9 +86,9 @@ SolutionStepTableViewCell {
         objectName: "formulaScroll"
         y: cell.headHeight
         width: parent.width
-        height: parent.height - y - 8
-        visible: cell.latex
-        contentWidth: formula.implicitWidth + 32
+        height: parent.height - y - cell.measures.gap
+        visible: cell.content.latex
+        contentWidth: formula.implicitWidth + 2 * formula.x
         contentHeight: height
         flickableDirection: Flickable.HorizontalFlick
         boundsBehavior: Flickable.StopAtBounds
@@ -99,13 +102,13 @@ SolutionStepTableViewCell {
             id: formula
 
             objectName: "formula"
-            x: 16
+            x: cell.measures.edge
             y: (parent.height - height) / 2
             width: implicitWidth
             height: implicitHeight
             visible: scrollView.visible
-            latex: cell.latex
-            fontSize: cell.formulaSize
+            latex: cell.content.latex
+            fontSize: cell.measures.formulaSize(cell.viewWidth)
             textColor: Theme.label
             backgroundColor: Theme.background
             Accessible.ignored: true

@@ -1,4 +1,4 @@
-#include "solution/step_records.h"
+#include "solution/share/step_records.h"
 
 #include <QVariantMap>
 

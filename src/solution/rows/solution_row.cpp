@@ -1,0 +1,33 @@
+#include "solution/rows/solution_row.h"
+
+#include "solution/rows/row_measures.h"
+
+namespace tavi {
+
+namespace {
+
+template <typename... Functions>
+struct Overloaded : Functions... {
+  using Functions::operator()...;
+};
+template <typename... Functions>
+Overloaded(Functions...) -> Overloaded<Functions...>;
+
+}  // namespace
+
+const char* kindOf(const SolutionRow& row) {
+  return std::visit([](const auto& content) { return content.kind; }, row.content);
+}
+
+std::unique_ptr<RowPainter> makePainter(const SolutionRow& row, double viewWidth) {
+  const double height = row.height.at(viewWidth);
+  return std::visit(
+      Overloaded{[&](const SolutionStepTableViewCell& step) {
+                   return makePainter(step, height, rowMeasures.formulaSize(viewWidth));
+                 },
+                 [&](const ChartTableViewCell& charts) { return makePainter(charts, height); },
+                 [](const VideoCollectionTableViewCell& videos) { return makePainter(videos); }},
+      row.content);
+}
+
+}  // namespace tavi
