@@ -40,8 +40,7 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: control.radius
-            color: control.down ? Qt.darker(control.groundColor, 1.3)
-                                : pointer.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
+            color: control.down ? Qt.darker(control.groundColor, 1.3) : pointer.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
         }
         FocusRing {
             control: control

@@ -50,7 +50,8 @@ DTTextFieldItem {
         selectionColor: Theme.strongYellow
         selectedTextColor: Theme.darkTitle
         verticalAlignment: TextInput.AlignVCenter
-        cursorDelegate: Item {}
+        cursorDelegate: Item {
+        }
         Accessible.role: Accessible.EditableText
         Accessible.name: field.label
         Keys.forwardTo: field // Before this input takes a Backspace without deleting anything.
@@ -60,25 +61,25 @@ DTTextFieldItem {
 
         function follow() {
             if (isSynchronizing)
-                return
-            isSynchronizing = true
-            text = field.text
+                return;
+            isSynchronizing = true;
+            text = field.text;
             if (field.selectionStart === field.selectionEnd)
-                cursorPosition = field.selectionStart
+                cursorPosition = field.selectionStart;
             else
-                select(field.selectionStart, field.selectionEnd)
-            isSynchronizing = false
+                select(field.selectionStart, field.selectionEnd);
+            isSynchronizing = false;
         }
 
         function report() {
             if (isSynchronizing || !activeFocus)
-                return
-            isSynchronizing = true
+                return;
+            isSynchronizing = true;
             if (selectedText === "")
-                field.select(cursorPosition, cursorPosition)
+                field.select(cursorPosition, cursorPosition);
             else
-                field.select(selectionStart, selectionEnd)
-            isSynchronizing = false
+                field.select(selectionStart, selectionEnd);
+            isSynchronizing = false;
         }
         onCursorPositionChanged: report()
         onSelectionStartChanged: report()
@@ -99,11 +100,11 @@ DTTextFieldItem {
             onVisibleChanged: show()
 
             function show() {
-                opacity = 1
+                opacity = 1;
                 if (visible && blinking.interval > 0)
-                    blinking.restart()
+                    blinking.restart();
                 else
-                    blinking.stop()
+                    blinking.stop();
             }
         }
 

@@ -41,11 +41,11 @@ Rectangle {
                 Accessible.role: Accessible.RadioButton
                 Accessible.name: text
                 Accessible.checked: isChosen
-                onClicked: if (!isChosen) control.valueChanged(index)
+                onClicked: if (!isChosen)
+                    control.valueChanged(index)
                 background: Rectangle {
                     radius: control.radius
-                    color: segment.isChosen ? Theme.strongYellow
-                                           : segment.down ? Theme.groupedBackground : "transparent"
+                    color: segment.isChosen ? Theme.strongYellow : segment.down ? Theme.groupedBackground : "transparent"
                 }
                 contentItem: Loader {
                     property color color: segment.isChosen ? Theme.darkTitle : Theme.label

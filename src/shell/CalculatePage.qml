@@ -16,19 +16,19 @@ FocusScope {
     View.kind: View.Plain
 
     Component.onCompleted: {
-        controller.segmentedControl = modeSwitch
-        controller.modeAView = powerFields
-        controller.modeBView = rootFields
-        controller.aTextField = [exponentField, indexField]
-        controller.xTextField = [baseField, radicandField]
+        controller.segmentedControl = modeSwitch;
+        controller.modeAView = powerFields;
+        controller.modeBView = rootFields;
+        controller.aTextField = [exponentField, indexField];
+        controller.xTextField = [baseField, radicandField];
     }
     Keys.onReturnPressed: controller.tappedCalculateButton()
     Keys.onEnterPressed: controller.tappedCalculateButton()
 
     component KeypadField: DTTextField {
-        Keys.onPressed: event => event.accepted = page.controller.pressedHardwareKey(event.key, event.modifiers,
-                                                                                     event.text)
-        onActiveFocusChanged: if (activeFocus) task.show(this)
+        Keys.onPressed: event => event.accepted = page.controller.pressedHardwareKey(event.key, event.modifiers, event.text)
+        onActiveFocusChanged: if (activeFocus)
+            task.show(this)
     }
 
     Rectangle {
@@ -47,16 +47,15 @@ FocusScope {
 
         // Where not all of it can be seen, the fields come first, and of them the one that is typed into.
         function showFields() {
-            contentY = contentHeight - height
+            contentY = contentHeight - height;
             if (current)
-                show(current)
+                show(current);
         }
 
         function show(field) {
-            current = field
-            const top = field.mapToItem(contentItem, 0, 0).y
-            contentY = Math.max(0, Math.min(Math.max(contentY, top + field.height + page.margin - height),
-                                            top - page.margin))
+            current = field;
+            const top = field.mapToItem(contentItem, 0, 0).y;
+            contentY = Math.max(0, Math.min(Math.max(contentY, top + field.height + page.margin - height), top - page.margin));
         }
 
         width: page.isWide ? keypad.x : page.width
@@ -103,7 +102,13 @@ FocusScope {
             x: task.columnX
             y: fillInLabel.y + fillInLabel.height + 8
             width: task.column
-            segments: [{ name: qsTrId("Power"), picture: powerPicture }, { name: qsTrId("Root"), picture: rootPicture }]
+            segments: [{
+                    "name": qsTrId("Power"),
+                    "picture": powerPicture
+                }, {
+                    "name": qsTrId("Root"),
+                    "picture": rootPicture
+                }]
             onValueChanged: index => page.controller.segmentedControlValueChanged(index)
         }
 
@@ -192,15 +197,13 @@ FocusScope {
         id: keypad
 
         // Keys are at least 56 high; only a window too low for that makes do with the size of a touch target.
-        readonly property real room: (page.isWide ? page.visibleHeight : page.visibleHeight - task.smallestHeight)
-                                     - 2 * page.margin - (rows - 1) * gap
+        readonly property real room: (page.isWide ? page.visibleHeight : page.visibleHeight - task.smallestHeight) - 2 * page.margin - (rows - 1) * gap
         readonly property real roomBelow: page.visibleHeight - height
 
         controller: page.controller
         x: page.isWide ? page.width - width - page.margin : (page.width - width) / 2
         y: page.isWide ? roomBelow / 2 : roomBelow - Math.min(page.margin, roomBelow / 2)
-        width: Math.min(page.columnWidth, page.isWide ? (page.width - 3 * page.margin) / 2
-                                                      : page.width - 2 * page.margin)
+        width: Math.min(page.columnWidth, page.isWide ? (page.width - 3 * page.margin) / 2 : page.width - 2 * page.margin)
         height: implicitHeight
         keyHeight: Math.max(Theme.touchTarget, Math.min(page.isWide ? 72 : 64, room / rows))
     }

@@ -19,29 +19,75 @@ Item {
     readonly property int digitTag: 102
     readonly property int signTag: 103
     readonly property int calculateTag: 104
-    readonly property var keys: [
-        { title: "x", tag: signTag },
-        { title: "y", tag: signTag },
-        { title: "z", tag: signTag },
-        { name: qsTrId("Delete"), icon: "deleteIcon", tag: deleteTag, repeats: true,
-          action: () => controller.tappedDeleteButton() },
-        { title: "7", tag: digitTag },
-        { title: "8", tag: digitTag },
-        { title: "9", tag: digitTag },
-        { title: "/", tag: signTag, name: qsTrId("Fraction bar") },
-        { title: "4", tag: digitTag },
-        { title: "5", tag: digitTag },
-        { title: "6", tag: digitTag },
-        { title: "-", tag: signTag, name: qsTrId("Minus sign"), glyph: "\u2212" },
-        { title: "1", tag: digitTag },
-        { title: "2", tag: digitTag },
-        { title: "3", tag: digitTag },
-        { title: "π", tag: signTag, name: qsTrId("Pi") },
-        { title: "0", tag: digitTag },
-        { title: ".", tag: signTag, name: qsTrId("Decimal point") },
-        { name: qsTrId("Calculate"), icon: "calculateIcon", tag: calculateTag, span: 2,
-          action: () => controller.tappedCalculateButton() }
-    ]
+    readonly property var keys: [{
+            "title": "x",
+            "tag": signTag
+        }, {
+            "title": "y",
+            "tag": signTag
+        }, {
+            "title": "z",
+            "tag": signTag
+        }, {
+            "name": qsTrId("Delete"),
+            "icon": "deleteIcon",
+            "tag": deleteTag,
+            "repeats": true,
+            "action": () => controller.tappedDeleteButton()
+        }, {
+            "title": "7",
+            "tag": digitTag
+        }, {
+            "title": "8",
+            "tag": digitTag
+        }, {
+            "title": "9",
+            "tag": digitTag
+        }, {
+            "title": "/",
+            "tag": signTag,
+            "name": qsTrId("Fraction bar")
+        }, {
+            "title": "4",
+            "tag": digitTag
+        }, {
+            "title": "5",
+            "tag": digitTag
+        }, {
+            "title": "6",
+            "tag": digitTag
+        }, {
+            "title": "-",
+            "tag": signTag,
+            "name": qsTrId("Minus sign"),
+            "glyph": "\u2212"
+        }, {
+            "title": "1",
+            "tag": digitTag
+        }, {
+            "title": "2",
+            "tag": digitTag
+        }, {
+            "title": "3",
+            "tag": digitTag
+        }, {
+            "title": "π",
+            "tag": signTag,
+            "name": qsTrId("Pi")
+        }, {
+            "title": "0",
+            "tag": digitTag
+        }, {
+            "title": ".",
+            "tag": signTag,
+            "name": qsTrId("Decimal point")
+        }, {
+            "name": qsTrId("Calculate"),
+            "icon": "calculateIcon",
+            "tag": calculateTag,
+            "span": 2,
+            "action": () => controller.tappedCalculateButton()
+        }]
 
     View.kind: View.Stack
 
@@ -68,8 +114,7 @@ Item {
             focusPolicy: Qt.NoFocus
             autoRepeat: modelData.repeats ?? false
             Accessible.name: modelData.name ?? text
-            onClicked: modelData.action ? modelData.action()
-                                        : keypad.controller.tappedKeypadButton(modelData.title)
+            onClicked: modelData.action ? modelData.action() : keypad.controller.tappedKeypadButton(modelData.title)
         }
     }
 }

@@ -66,8 +66,12 @@ Rectangle {
         Keys.onPressed: event => {
             const page = height - 48;
             const ways = {
-                [Qt.Key_Down]: 48, [Qt.Key_Up]: -48, [Qt.Key_PageDown]: page, [Qt.Key_PageUp]: -page,
-                [Qt.Key_Home]: -contentHeight, [Qt.Key_End]: contentHeight
+                [Qt.Key_Down]: 48,
+                [Qt.Key_Up]: -48,
+                [Qt.Key_PageDown]: page,
+                [Qt.Key_PageUp]: -page,
+                [Qt.Key_Home]: -contentHeight,
+                [Qt.Key_End]: contentHeight
             };
             const way = ways[event.key];
             if (way === undefined)

@@ -15,8 +15,8 @@ class SolutionTable : public QAbstractListModel {
   /// Makes all rows anew.
   void reset(std::vector<SolutionRow> rows);
 
-  /// Takes these rows in place of the present ones. Those from the top on that are still the same stay as they
-  /// are, wherever they have been scrolled to.
+  /// Takes these rows in place of the present ones. Those from the top on that are still the same stay as
+  /// they are, wherever they have been scrolled to.
   void update(std::vector<SolutionRow> rows);
 
   const std::vector<SolutionRow>& rows() const { return rows_; }

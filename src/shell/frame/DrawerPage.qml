@@ -29,8 +29,18 @@ Item {
         onAboutToShow: page.controller.isLeftViewOpened = true
         onAboutToHide: page.controller.isLeftViewOpened = false
 
-        enter: Transition { NumberAnimation { duration: 250; easing.type: Easing.OutCubic } }
-        exit: Transition { NumberAnimation { duration: 250; easing.type: Easing.OutCubic } }
+        enter: Transition {
+            NumberAnimation {
+                duration: 250
+                easing.type: Easing.OutCubic
+            }
+        }
+        exit: Transition {
+            NumberAnimation {
+                duration: 250
+                easing.type: Easing.OutCubic
+            }
+        }
 
         T.Overlay.modal: Rectangle {
             color: Qt.rgba(0, 0, 0, 0.5)

@@ -69,8 +69,11 @@ Rectangle {
             height: 2
             color: Theme.pink
 
-            Behavior on position {
-                NumberAnimation { duration: 200; easing.type: Easing.OutCubic }
+            Behavior on position  {
+                NumberAnimation {
+                    duration: 200
+                    easing.type: Easing.OutCubic
+                }
             }
         }
     }

@@ -8,7 +8,9 @@ Item {
     Connections {
         target: ViewManager
         function onToastRequested(text) {
-            toast.createObject(toasts, { text: text });
+            toast.createObject(toasts, {
+                    "text": text
+                });
         }
     }
 
@@ -46,10 +48,18 @@ Item {
                 elide: Text.ElideRight
             }
 
-            SequentialAnimation on opacity {
-                PauseAnimation { duration: 3000 }
-                NumberAnimation { to: 0; duration: 2000; easing.type: Easing.OutQuad }
-                ScriptAction { script: box.destroy() }
+            SequentialAnimation on opacity  {
+                PauseAnimation {
+                    duration: 3000
+                }
+                NumberAnimation {
+                    to: 0
+                    duration: 2000
+                    easing.type: Easing.OutQuad
+                }
+                ScriptAction {
+                    script: box.destroy()
+                }
             }
         }
     }

@@ -52,7 +52,8 @@ Item {
 
     // The rows fall into place at once: they stand there already.
     function drop(isMoving) {
-        const [start, end] = [from, to];
+        const start = from;
+        const end = to;
         isActive = false;
         from = -1;
         to = -1;

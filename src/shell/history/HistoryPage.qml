@@ -32,8 +32,7 @@ Rectangle {
 
         function moveCurrent(way) {
             const to = currentIndex + way;
-            if (!page.controller.isEditing || currentIndex < 0 || to < 0 || to >= count
-                    || !page.controller.canMoveRow(currentIndex))
+            if (!page.controller.isEditing || currentIndex < 0 || to < 0 || to >= count || !page.controller.canMoveRow(currentIndex))
                 return;
             page.controller.moveRow(currentIndex, to);
             forceLayout();
@@ -62,7 +61,8 @@ Rectangle {
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("History")
         onMovementStarted: closeOpenRow()
-        onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0) currentIndex = 0
+        onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0)
+            currentIndex = 0
 
         delegate: HistoryRow {
             controller: page.controller
@@ -84,10 +84,18 @@ Rectangle {
         }
 
         remove: Transition {
-            NumberAnimation { property: "opacity"; to: 0; duration: 200 }
+            NumberAnimation {
+                property: "opacity"
+                to: 0
+                duration: 200
+            }
         }
         removeDisplaced: Transition {
-            NumberAnimation { property: "y"; duration: 200; easing.type: Easing.OutCubic }
+            NumberAnimation {
+                property: "y"
+                duration: 200
+                easing.type: Easing.OutCubic
+            }
         }
 
         Keys.onReturnPressed: select()
@@ -98,8 +106,12 @@ Rectangle {
             const page = Math.max(1, Math.floor(height / 72) - 1);
             const isMoving = event.modifiers & Qt.AltModifier;
             const ways = {
-                [Qt.Key_Up]: -1, [Qt.Key_Down]: 1, [Qt.Key_PageUp]: -page, [Qt.Key_PageDown]: page,
-                [Qt.Key_Home]: -count, [Qt.Key_End]: count
+                [Qt.Key_Up]: -1,
+                [Qt.Key_Down]: 1,
+                [Qt.Key_PageUp]: -page,
+                [Qt.Key_PageDown]: page,
+                [Qt.Key_Home]: -count,
+                [Qt.Key_End]: count
             };
             const way = ways[event.key];
             if (way === undefined || count === 0)

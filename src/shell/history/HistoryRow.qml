@@ -53,13 +53,17 @@ HistoryTableViewCell {
     height: Math.max(72, formula.implicitHeight + 12)
     opacity: isLifted ? 0 : 1
     Component.onCompleted: fill()
-    Component.onDestruction: if (table.openRow === cell) table.openRow = null
+    Component.onDestruction: if (table.openRow === cell)
+        table.openRow = null
     transform: Translate {
         y: cell.shift
 
-        Behavior on y {
+        Behavior on y  {
             enabled: cell.isShiftAnimated
-            NumberAnimation { duration: 120; easing.type: Easing.OutCubic }
+            NumberAnimation {
+                duration: 120
+                easing.type: Easing.OutCubic
+            }
         }
     }
 
@@ -100,8 +104,7 @@ HistoryTableViewCell {
         readonly property real formulaEndX: row.width - width
         readonly property real endX: contentWidth - width
         // A formula that leaves room for the delete button does not make way for it.
-        readonly property real stay: Math.max(0, Math.min(contentX - formulaEndX,
-                                                          row.width - formula.width - 32))
+        readonly property real stay: Math.max(0, Math.min(contentX - formulaEndX, row.width - formula.width - 32))
 
         objectName: "historyContent"
         x: cell.isEditing ? editX : 0
@@ -116,7 +119,8 @@ HistoryTableViewCell {
         clip: true
 
         // At rest the delete button is seen either whole or not at all.
-        onMovementStarted: if (cell.table.openRow !== cell) cell.table.closeOpenRow()
+        onMovementStarted: if (cell.table.openRow !== cell)
+            cell.table.closeOpenRow()
         onMovementEnded: {
             if (contentX > (formulaEndX + endX) / 2)
                 cell.open();
@@ -124,8 +128,11 @@ HistoryTableViewCell {
                 cell.settle();
         }
 
-        Behavior on x {
-            NumberAnimation { duration: 200; easing.type: Easing.OutCubic }
+        Behavior on x  {
+            NumberAnimation {
+                duration: 200
+                easing.type: Easing.OutCubic
+            }
         }
 
         NumberAnimation {

@@ -77,7 +77,8 @@ Rectangle {
             Accessible.onPressAction: row.clicked()
             Keys.onReturnPressed: row.clicked()
             Keys.onEnterPressed: row.clicked()
-            onActiveFocusChanged: if (activeFocus) table.currentIndex = index
+            onActiveFocusChanged: if (activeFocus)
+                table.currentIndex = index
             onClicked: page.controller.didSelectRow(section, rowInSection)
 
             // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
@@ -88,8 +89,7 @@ Rectangle {
             }
 
             background: Rectangle {
-                color: row.down ? Qt.darker(Theme.brightYellow, 1.2)
-                                : pointer.hovered ? Qt.darker(Theme.brightYellow, 1.06) : Theme.brightYellow
+                color: row.down ? Qt.darker(Theme.brightYellow, 1.2) : pointer.hovered ? Qt.darker(Theme.brightYellow, 1.06) : Theme.brightYellow
             }
             // The name of an application comes from afar: never as markup, never over the row's edge.
             contentItem: Text {

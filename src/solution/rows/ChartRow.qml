@@ -10,10 +10,9 @@ Item {
     required property var rowHeight
     required property real viewWidth
     readonly property Flickable table: ListView.view
-    readonly property bool isInSight: Window.window !== null && table !== null
-                                      && y + height > table.contentY && y < table.contentY + table.height
+    readonly property bool isInSight: Window.window !== null && table !== null && y + height > table.contentY && y < table.contentY + table.height
 
-    signal started()
+    signal started
 
     height: rowHeight.at(viewWidth)
 

@@ -13,8 +13,7 @@ Item {
     readonly property bool hasTitle: content.title !== ""
     readonly property real headHeight: hasTitle ? measures.padding + title.height + measures.gap : measures.gap
 
-    height: Math.max(rowHeight.at(viewWidth),
-                     headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + measures.padding)
+    height: Math.max(rowHeight.at(viewWidth), headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + measures.padding)
     Accessible.role: Accessible.StaticText
     Accessible.name: [content.title, content.message || formula.spokenText].filter(text => text).join(", ")
 

@@ -20,8 +20,8 @@ struct RowPalette {
   static RowPalette current();
 };
 
-/// One row of a table as a picture, on any painter and without a screen. Lengths are device-independent pixels.
-/// Main thread only.
+/// One row of a table as a picture, on any painter and without a screen. Lengths are device-independent
+/// pixels. Main thread only.
 class RowPainter {
  public:
   RowPainter() = default;

@@ -58,11 +58,12 @@ class StepRowPainter : public RowPainter {
     painter.setPen(palette.text);
     const TextBlock title = titleText(size.width());
     const bool isTitleAlone = row_.message.isEmpty() && row_.latex.isEmpty();
-    title.draw(painter, {measures.edge, isTitleAlone ? (size.height() - title.height()) / 2 : measures.padding});
+    title.draw(painter,
+               {measures.edge, isTitleAlone ? (size.height() - title.height()) / 2 : measures.padding});
     const double top = headHeight(size.width());
     const TextBlock message = messageText(size.width());
-    message.draw(painter, {measures.messageIndent,
-                           (top + size.height() - measures.padding - message.height()) / 2});
+    message.draw(painter,
+                 {measures.messageIndent, (top + size.height() - measures.padding - message.height()) / 2});
     paintFormula(painter, (top + size.height() - measures.gap - formulaHeight()) / 2, palette);
   }
 

@@ -29,10 +29,20 @@ Item {
         onClosed: page.controller.close()
 
         enter: Transition {
-            NumberAnimation { property: "risen"; to: 1; duration: 200; easing.type: Easing.OutCubic }
+            NumberAnimation {
+                property: "risen"
+                to: 1
+                duration: 200
+                easing.type: Easing.OutCubic
+            }
         }
         exit: Transition {
-            NumberAnimation { property: "risen"; to: 0; duration: 150; easing.type: Easing.InCubic }
+            NumberAnimation {
+                property: "risen"
+                to: 0
+                duration: 150
+                easing.type: Easing.InCubic
+            }
         }
 
         T.Overlay.modal: Rectangle {

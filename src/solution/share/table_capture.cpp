@@ -144,9 +144,8 @@ QCoro::Task<QImage> tableViewScreenshot(PicturedTable table, CaptureOptions opti
     co_await pace.breath();
   }
   const QFuture<QImage> whole = QtConcurrent::run(
-      [pictures = std::move(pictures), frame = static_cast<int>(margin * scale), ground = palette.page]() mutable {
-        return framed(mergedImage(std::move(pictures)), frame, ground);
-      });
+      [pictures = std::move(pictures), frame = static_cast<int>(margin * scale),
+       ground = palette.page]() mutable { return framed(mergedImage(std::move(pictures)), frame, ground); });
   co_return co_await whole;
 }
 

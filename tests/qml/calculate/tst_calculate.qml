@@ -17,186 +17,198 @@ Item {
         when: windowShown
 
         function init() {
-            page = stage.open(root)
-            waitForNextTap()
+            page = stage.open(root);
+            waitForNextTap();
         }
 
         function cleanup() {
-            stage.close()
+            stage.close();
         }
 
         function item(name) {
-            const found = findChild(page, name)
-            verify(found, name)
-            return found
+            const found = findChild(page, name);
+            verify(found, name);
+            return found;
         }
 
         function tap(name, x, y) {
-            const target = item(name)
-            const finger = touchEvent(target)
-            finger.press(0, target, x, y).commit()
-            finger.release(0, target, x, y).commit()
+            const target = item(name);
+            const finger = touchEvent(target);
+            finger.press(0, target, x, y).commit();
+            finger.release(0, target, x, y).commit();
         }
 
         // Two taps in quick succession would be a double tap.
         function waitForNextTap() {
-            wait(Qt.styleHints.mouseDoubleClickInterval + 20)
+            wait(Qt.styleHints.mouseDoubleClickInterval + 20);
         }
 
         function type(keys) {
             for (const key of keys)
-                tap("key " + key)
+                tap("key " + key);
         }
 
         function caret(name) {
-            const field = item(name)
-            return field.selectionStart === field.selectionEnd ? field.selectionStart
-                                                               : [field.selectionStart, field.selectionEnd]
+            const field = item(name);
+            return field.selectionStart === field.selectionEnd ? field.selectionStart : [field.selectionStart, field.selectionEnd];
         }
 
         function test_keypad_types_where_the_finger_was() {
-            type("12")
-            compare(item("baseField").text, "")
-            tap("baseField")
-            type("12/3")
-            tap("exponentField")
-            type("x-")
-            compare(item("baseField").text, "12/3")
-            compare(item("exponentField").text, "-x")
-            tap("key Delete")
-            compare(item("exponentField").text, "-")
-            compare(caret("exponentField"), 1)
+            type("12");
+            compare(item("baseField").text, "");
+            tap("baseField");
+            type("12/3");
+            tap("exponentField");
+            type("x-");
+            compare(item("baseField").text, "12/3");
+            compare(item("exponentField").text, "-x");
+            tap("key Delete");
+            compare(item("exponentField").text, "-");
+            compare(caret("exponentField"), 1);
         }
 
         function test_tap_puts_the_caret() {
-            tap("baseField")
-            type("123456")
-            waitForNextTap()
-            tap("baseField", 13)
-            compare(caret("baseField"), 0)
-            type("9")
-            compare(item("baseField").text, "9123456")
-            compare(caret("baseField"), 1)
-            waitForNextTap()
-            tap("baseField", 200)
-            compare(caret("baseField"), 7)
+            tap("baseField");
+            type("123456");
+            waitForNextTap();
+            tap("baseField", 13);
+            compare(caret("baseField"), 0);
+            type("9");
+            compare(item("baseField").text, "9123456");
+            compare(caret("baseField"), 1);
+            waitForNextTap();
+            tap("baseField", 200);
+            compare(caret("baseField"), 7);
         }
 
         function test_double_click_selects_and_a_key_replaces() {
-            tap("baseField")
-            type("123")
-            mouseDoubleClickSequence(item("baseField"), 20, 32)
-            compare(caret("baseField"), [0, 3])
-            type("7")
-            compare(item("baseField").text, "7")
-            compare(item("radicandField").text, "7")
+            tap("baseField");
+            type("123");
+            mouseDoubleClickSequence(item("baseField"), 20, 32);
+            compare(caret("baseField"), [0, 3]);
+            type("7");
+            compare(item("baseField").text, "7");
+            compare(item("radicandField").text, "7");
         }
 
         function test_minus_is_a_switch_that_is_off_at_the_start_of_a_signed_text() {
-            tap("baseField")
-            type("12-")
-            compare(item("baseField").text, "-12")
-            compare(caret("baseField"), 3)
-            keyClick(Qt.Key_Home)
-            compare(caret("baseField"), 0)
-            compare(item("key -").enabled, false)
-            type("-")
-            keyClick(Qt.Key_Minus)
-            compare(item("baseField").text, "-12")
-            keyClick(Qt.Key_Right)
-            compare(item("key -").enabled, true)
-            type("-")
-            compare(item("baseField").text, "12")
+            tap("baseField");
+            type("12-");
+            compare(item("baseField").text, "-12");
+            compare(caret("baseField"), 3);
+            keyClick(Qt.Key_Home);
+            compare(caret("baseField"), 0);
+            compare(item("key -").enabled, false);
+            type("-");
+            keyClick(Qt.Key_Minus);
+            compare(item("baseField").text, "-12");
+            keyClick(Qt.Key_Right);
+            compare(item("key -").enabled, true);
+            type("-");
+            compare(item("baseField").text, "12");
         }
 
         function test_segments_keep_the_texts_and_the_caret() {
-            tap("exponentField")
-            type("34")
-            keyClick(Qt.Key_Left)
-            tap("segment1")
-            compare(item("modeAView").visible, false)
-            compare(item("modeBView").visible, true)
-            compare(item("indexField").text, "34")
-            verify(item("indexField").activeFocus)
-            type("5")
-            tap("segment0")
-            compare(item("exponentField").text, "354")
-            compare(caret("exponentField"), 2)
+            tap("exponentField");
+            type("34");
+            keyClick(Qt.Key_Left);
+            tap("segment1");
+            compare(item("modeAView").visible, false);
+            compare(item("modeBView").visible, true);
+            compare(item("indexField").text, "34");
+            verify(item("indexField").activeFocus);
+            type("5");
+            tap("segment0");
+            compare(item("exponentField").text, "354");
+            compare(caret("exponentField"), 2);
         }
 
         function test_hardware_keys() {
-            tap("baseField")
+            tap("baseField");
             for (const key of "1.5/2xp")
-                keyClick(key)
-            compare(item("baseField").text, "1.5/2xπ")
-            keyClick("a")
-            keyClick(Qt.Key_V, Qt.ControlModifier)
-            compare(item("baseField").text, "1.5/2xπ")
-            keyClick(Qt.Key_Backspace)
-            compare(item("baseField").text, "1.5/2x")
-            keyClick(Qt.Key_Tab)
-            verify(item("exponentField").activeFocus)
-            keyClick("3")
-            compare(item("exponentField").text, "3")
-            keyClick(Qt.Key_Tab, Qt.ShiftModifier)
-            verify(item("baseField").activeFocus)
-            keyClick(Qt.Key_Return)
-            compare(stage.records, 1)
+                keyClick(key);
+            compare(item("baseField").text, "1.5/2xπ");
+            keyClick("a");
+            keyClick(Qt.Key_V, Qt.ControlModifier);
+            compare(item("baseField").text, "1.5/2xπ");
+            keyClick(Qt.Key_Backspace);
+            compare(item("baseField").text, "1.5/2x");
+            keyClick(Qt.Key_Tab);
+            verify(item("exponentField").activeFocus);
+            keyClick("3");
+            compare(item("exponentField").text, "3");
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier);
+            verify(item("baseField").activeFocus);
+            keyClick(Qt.Key_Return);
+            compare(stage.records, 1);
         }
 
         function test_calculate_tells_what_is_wrong_or_solves() {
-            tap("baseField")
-            type("2")
-            tap("key Calculate")
-            compare(stage.toasts.length, 1)
-            compare(stage.records, 0)
-            tap("exponentField")
-            type("3")
-            tap("key Calculate")
-            compare(stage.toasts.length, 1)
-            compare(stage.records, 1)
+            tap("baseField");
+            type("2");
+            tap("key Calculate");
+            compare(stage.toasts.length, 1);
+            compare(stage.records, 0);
+            tap("exponentField");
+            type("3");
+            tap("key Calculate");
+            compare(stage.toasts.length, 1);
+            compare(stage.records, 1);
         }
 
         // The caret is drawn though the field takes no typing of its own, and only in the field typed into.
         function test_caret_is_drawn() {
-            const color = String(item("baseField").style.caretColor)
+            const color = String(item("baseField").style.caretColor);
             function caretPixels() {
-                const field = item("baseField")
-                const place = field.mapToItem(page, 0, field.height / 2)
-                const image = grabImage(page)
-                let count = 0
+                const field = item("baseField");
+                const place = field.mapToItem(page, 0, field.height / 2);
+                const image = grabImage(page);
+                let count = 0;
                 for (let x = 0; x < field.width; ++x)
-                    count += String(image.pixel(place.x + x, place.y)) === color
-                return count
+                    count += String(image.pixel(place.x + x, place.y)) === color;
+                return count;
             }
-            compare(caretPixels(), 0)
-            tap("baseField")
-            compare(caretPixels(), 2)
-            tap("exponentField")
-            compare(caretPixels(), 0)
+            compare(caretPixels(), 0);
+            tap("baseField");
+            compare(caretPixels(), 2);
+            tap("exponentField");
+            compare(caretPixels(), 0);
         }
 
         function test_every_target_is_large_named_and_apart_data() {
-            return [{ tag: "phone", width: 412, height: 744 }, { tag: "small phone", width: 320, height: 480 },
-                    { tag: "landscape", width: 892, height: 284 }, { tag: "tablet", width: 1280, height: 672 }]
+            return [{
+                    "tag": "phone",
+                    "width": 412,
+                    "height": 744
+                }, {
+                    "tag": "small phone",
+                    "width": 320,
+                    "height": 480
+                }, {
+                    "tag": "landscape",
+                    "width": 892,
+                    "height": 284
+                }, {
+                    "tag": "tablet",
+                    "width": 1280,
+                    "height": 672
+                }];
         }
 
         function test_every_target_is_large_named_and_apart(row) {
-            page.width = row.width
-            page.height = row.height
-            waitForRendering(page)
-            const names = ["segment0", "segment1", "manualButton", "baseField", "exponentField", "key Delete",
-                           "key Calculate", ...Array.from("0123456789./-πxyz", key => "key " + key)]
-            const places = []
+            page.width = row.width;
+            page.height = row.height;
+            waitForRendering(page);
+            const names = ["segment0", "segment1", "manualButton", "baseField", "exponentField", "key Delete", "key Calculate", ...Array.from("0123456789./-πxyz", key => "key " + key)];
+            const places = [];
             for (const name of names) {
-                const target = item(name)
-                const place = target.mapToItem(page, 0, 0, target.width, target.height)
-                verify(place.width >= 48 && place.height >= 48, name + " " + place)
-                verify(place.x >= 0 && place.right <= row.width, name + " " + place)
+                const target = item(name);
+                const place = target.mapToItem(page, 0, 0, target.width, target.height);
+                verify(place.width >= 48 && place.height >= 48, name + " " + place);
+                verify(place.x >= 0 && place.right <= row.width, name + " " + place);
                 for (const other of places)
-                    verify(place.right <= other.x || other.right <= place.x || place.bottom <= other.y
-                           || other.bottom <= place.y, name + " " + place + " over " + other)
-                places.push(place)
+                    verify(place.right <= other.x || other.right <= place.x || place.bottom <= other.y || other.bottom <= place.y, name + " " + place + " over " + other);
+                places.push(place);
             }
         }
     }

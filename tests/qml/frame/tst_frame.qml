@@ -152,7 +152,6 @@ Item {
             verify(!hasSheet());
             keyClick(Qt.Key_Return);
             verify(hasSheet());
-
             keyClick(Qt.Key_Escape);
             tryVerify(() => !hasSheet());
             verify(stage.isDrawerOpen, "Escape closes the sheet and not the menu under it");

@@ -164,14 +164,18 @@ Item {
         }
 
         function test_a_finger_moves_the_list_up_and_down() {
-            open(Array.from({ length: 40 }, (_, row) => String(row)));
+            open(Array.from({
+                        "length": 40
+                    }, (_, row) => String(row)));
             draw(part(5, "historyRow5"), 0, -200);
             verify(table().contentY > 100);
             compare(stage.picked, "");
         }
 
         function test_only_rows_near_the_screen_are_typeset() {
-            open(Array.from({ length: 10000 }, (_, row) => String(row)));
+            open(Array.from({
+                        "length": 10000
+                    }, (_, row) => String(row)));
             verify(table().itemAtIndex(5));
             verify(!table().itemAtIndex(40));
             table().positionViewAtEnd();
@@ -218,7 +222,9 @@ Item {
         }
 
         function test_a_finger_drags_too_and_at_the_foot_the_list_goes_on() {
-            open(Array.from({ length: 40 }, (_, row) => String(row)));
+            open(Array.from({
+                        "length": 40
+                    }, (_, row) => String(row)));
             edit();
             const handles = item("dragHandles");
             const finger = touchEvent(handles);
