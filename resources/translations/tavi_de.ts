@@ -355,6 +355,10 @@
         <source>sharingSave</source>
         <translation>Bild speichern</translation>
     </message>
+    <message id="sharingSaveAs">
+        <source>sharingSaveAs</source>
+        <translation>Speichern unter …</translation>
+    </message>
     <message id="sharingSaveHere">
         <source>sharingSaveHere</source>
         <translation>Speichern</translation>
@@ -373,7 +377,7 @@
     </message>
     <message id="sharingSaved">
         <source>sharingSaved</source>
-        <translation>Bild gespeichert</translation>
+        <translation>Gespeichert unter %1</translation>
     </message>
     <message id="sharingCopied">
         <source>sharingCopied</source>

@@ -355,6 +355,10 @@
         <source>sharingSave</source>
         <translation>Save picture</translation>
     </message>
+    <message id="sharingSaveAs">
+        <source>sharingSaveAs</source>
+        <translation>Save as…</translation>
+    </message>
     <message id="sharingSaveHere">
         <source>sharingSaveHere</source>
         <translation>Save</translation>
@@ -373,7 +377,7 @@
     </message>
     <message id="sharingSaved">
         <source>sharingSaved</source>
-        <translation>Picture saved</translation>
+        <translation>Saved as %1</translation>
     </message>
     <message id="sharingCopied">
         <source>sharingCopied</source>

@@ -16,6 +16,9 @@
 #include "solution/share/share_sheet_controller.h"
 #include "solution/share/step_records.h"
 #include "solution/share/table_capture.h"
+#include "typeset/math_label.h"
+#include "typeset/parser.h"
+#include "typeset/spoken_math.h"
 
 namespace tavi {
 
@@ -96,9 +99,15 @@ PicturedTable SolutionViewController::picturedTable() {
   return table;
 }
 
+QString SolutionViewController::subject() const {
+  if (data_.solutionSteps.empty()) return {};
+  const typeset::Formula task = typeset::parse(data_.solutionSteps.front().latexString.value_or(""));
+  return QString::fromStdString(typeset::spokenMath(task.list, typeset::translatedPhrase));
+}
+
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
   if (items.empty()) return;
-  auto sheet = std::make_shared<ShareSheetController>(items.front());
+  auto sheet = std::make_shared<ShareSheetController>(items.front(), subject());
   if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
 }

@@ -87,6 +87,8 @@ class SolutionViewController : public AdHandlingViewController {
   void scrollToTop();
   QCoro::Task<> share();
   PicturedTable picturedTable();
+  /// The task in words.
+  QString subject() const;
   void presentShareSheet(const ShareItems& items);
 
   const RemoteConfigManager& remoteConfig_;

@@ -25,13 +25,13 @@ MathFont& sharedFont() {
   return font;
 }
 
+}  // namespace
+
 std::string translatedPhrase(std::string_view key) {
   const std::string id(key);
   const QString phrase = qtTrId(id.c_str());
   return phrase == QLatin1String(id) ? englishPhrase(key) : phrase.toStdString();
 }
-
-}  // namespace
 
 /// The part of a label that is seen. The label sets what it draws in the thread of the interface; the scene
 /// graph takes it over while that thread waits, and draws in its own.

@@ -1,6 +1,8 @@
 #pragma once
 
 #include <memory>
+#include <string>
+#include <string_view>
 #include <vector>
 
 #include <QtCore/QString>
@@ -13,6 +15,9 @@
 namespace tavi::typeset {
 
 class MathSlice;
+
+/// The phrase of a key of spoken mathematics in the language of the installed translations.
+std::string translatedPhrase(std::string_view key);
 
 /// A line of LaTeX as mathematics. Its implicit size is that of the line; it draws no more of a wide line
 /// than the viewport around it shows, and it tells assistive technology the line in words.

@@ -2,6 +2,7 @@
 #include <QClipboard>
 #include <QDir>
 #include <QFile>
+#include <QStandardPaths>
 #include <csignal>
 
 #include <sys/resource.h>
@@ -130,8 +131,8 @@ class ShareSheetTest : public testing::Test {
 };
 
 TEST_F(ShareSheetTest, SavesThePictureAsItIs) {
-  ShareSheetController sheet(picture);
-  sheet.savePicture(QUrl::fromLocalFile(folder.filePath("mine")));
+  ShareSheetController sheet(picture, "2 to the power of 3");
+  sheet.savePictureAs(QUrl::fromLocalFile(folder.filePath("mine")));
   EXPECT_TRUE(sheet.isBusy());
   waitUntilWritten(sheet);
   EXPECT_EQ(sheet.failure(), "");
@@ -142,8 +143,8 @@ TEST_F(ShareSheetTest, SaysWhenAFolderCannotBeWrittenTo) {
   for (const QUrl& file :
        {QUrl::fromLocalFile("/proc/no folder/x.png"), QUrl::fromLocalFile(folder.filePath("none/x.png")),
         QUrl("https://example.org/x.png"), QUrl()}) {
-    ShareSheetController sheet(picture);
-    sheet.savePicture(file);
+    ShareSheetController sheet(picture, "2 to the power of 3");
+    sheet.savePictureAs(file);
     waitUntilWritten(sheet);
     EXPECT_EQ(sheet.failure(), localized("sharingNotWritable"));
   }
@@ -160,8 +161,8 @@ TEST_F(ShareSheetTest, OnAFullDiskNoHalfFileRemains) {
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   const rlimit small{10'000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
-  ShareSheetController sheet(picture);
-  sheet.savePicture(QUrl::fromLocalFile(path));
+  ShareSheetController sheet(picture, "2 to the power of 3");
+  sheet.savePictureAs(QUrl::fromLocalFile(path));
   waitUntilWritten(sheet);
   setrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, handler);
@@ -180,7 +181,7 @@ TEST_F(ShareSheetTest, OpensACopyAndSaysWhenNothingCan) {
       opened = address;
       return canOpen;
     });
-    ShareSheetController sheet(picture, links);
+    ShareSheetController sheet(picture, {}, links);
     sheet.openPicture();
     waitUntilWritten(sheet);
     EXPECT_EQ(QImage(opened.toLocalFile()).size(), picture.size());
@@ -189,15 +190,32 @@ TEST_F(ShareSheetTest, OpensACopyAndSaysWhenNothingCan) {
 }
 
 TEST_F(ShareSheetTest, CopiesThePicture) {
-  ShareSheetController(picture).copyPicture();
+  ShareSheetController(picture, {}).copyPicture();
   EXPECT_EQ(QGuiApplication::clipboard()->image(), picture);
 }
 
-TEST_F(ShareSheetTest, ProposesAFileThatCanBeSaved) {
-  EXPECT_TRUE(QDir(ShareSheetController::picturesFolder().toLocalFile()).exists());
-  const QString name = ShareSheetController::proposedFile().fileName();
-  EXPECT_TRUE(name.endsWith(".png"));
-  EXPECT_FALSE(name.contains(':')) << "no file name everywhere";
+TEST_F(ShareSheetTest, OneTapSavesUnderASpeakingNameThatIsFree) {
+  qputenv("HOME", folder.path().toLocal8Bit());
+  const QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+  ASSERT_TRUE(pictures.path().startsWith(folder.path()) && pictures.mkpath("."));
+  QStringList toasts;
+  QObject context;
+  QObject::connect(&ViewManager::shared(), &ViewManager::toastRequested, &context,
+                   [&toasts](const QString& text) { toasts.append(text); });
+  const QString name = localized("sharingFileName") + " 3 over 2 to the power of minus 2";
+  for (const QString& ending : {QString(), QStringLiteral(" (2)")}) {
+    const QString path = pictures.filePath(name + ending + ".png");
+    ShareSheetController sheet(picture, "3 over 2, to the power of: minus/2");
+    EXPECT_EQ(sheet.proposedFile().toLocalFile(), path);
+    sheet.savePicture();
+    waitUntilWritten(sheet);
+    EXPECT_EQ(QImage(path).size(), picture.size());
+    EXPECT_TRUE(toasts.value(toasts.size() - 1).contains(localized("sharingSaved").section('%', 0, 0)))
+        << "says where";
+  }
+  const QString longName =
+      ShareSheetController(picture, QString("word ").repeated(100)).proposedFile().fileName();
+  EXPECT_LT(longName.size(), 100);
 }
 
 }  // namespace

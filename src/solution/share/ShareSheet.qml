@@ -98,6 +98,13 @@ Item {
                 focus: true
                 text: qsTrId("sharingSave")
                 iconText: Icons.save
+                onClicked: page.controller.savePicture()
+            }
+            SheetRow {
+                objectName: "savePictureAs"
+                visible: page.controller.hasSaveDialog
+                text: qsTrId("sharingSaveAs")
+                iconText: Icons.save
                 onClicked: fileDialog.active = true
             }
             SheetRow {
@@ -169,15 +176,14 @@ Item {
         active: false
         sourceComponent: FileDialog {
             fileMode: FileDialog.SaveFile
-            title: qsTrId("sharingSave")
-            currentFolder: page.controller.picturesFolder
+            title: qsTrId("sharingSaveAs")
             selectedFile: page.controller.proposedFile
             defaultSuffix: "png"
             acceptLabel: qsTrId("sharingSaveHere")
             rejectLabel: qsTrId("Cancel")
             Component.onCompleted: open()
             onAccepted: {
-                page.controller.savePicture(selectedFile);
+                page.controller.savePictureAs(selectedFile);
                 fileDialog.active = false;
             }
             onRejected: fileDialog.active = false

@@ -2,13 +2,17 @@
 
 #include <QClipboard>
 #include <QCoroFuture>
-#include <QDateTime>
 #include <QDir>
+#include <QFileInfo>
 #include <QGuiApplication>
 #include <QPointer>
 #include <QStandardPaths>
 #include <QtConcurrentRun>
 #include <utility>
+
+#include <private/qguiapplication_p.h>
+
+#include <qpa/qplatformtheme.h>
 
 #include "platform/localization.h"
 #include "platform/picture_file.h"
@@ -18,6 +22,21 @@
 namespace tavi {
 
 namespace {
+
+constexpr QLatin1StringView pictureEnding{".png"};
+
+/// The words as a file may be called everywhere: letters, digits and blanks, and no longer than is easily
+/// read.
+QString fileName(const QString& words) {
+  constexpr int longest = 60;
+  QString name;
+  for (const QChar character : words)
+    name += character.isLetterOrNumber() || character.isMark() ? character : u' ';
+  name = name.simplified();
+  if (name.size() > longest)
+    name.truncate(name.lastIndexOf(u' ', longest) > 0 ? name.lastIndexOf(u' ', longest) : longest);
+  return name.isEmpty() ? localized("sharingFileName") : localized("sharingFileName") + u' ' + name;
+}
 
 QString failureWords(WriteResult result) {
   switch (result) {
@@ -33,41 +52,50 @@ QString failureWords(WriteResult result) {
 
 }  // namespace
 
-ShareSheetController::ShareSheetController(QImage picture, const Links& links)
-    : picture_(std::move(picture)), links_(links) {}
+ShareSheetController::ShareSheetController(QImage picture, QString subject, const Links& links)
+    : picture_(std::move(picture)), subject_(std::move(subject)), links_(links) {}
 
-QUrl ShareSheetController::picturesFolder() {
-  const QString pictures = QStandardPaths::writableLocation(QStandardPaths::PicturesLocation);
-  return QUrl::fromLocalFile(QDir(pictures).exists() ? pictures : QDir::homePath());
+QUrl ShareSheetController::proposedFile() const {
+  const QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
+  const QDir folder = pictures.exists() ? pictures : QDir::home();
+  const QString name = fileName(subject_);
+  QString file = folder.filePath(name + pictureEnding);
+  for (int number = 2; QFileInfo::exists(file); ++number)
+    file = folder.filePath(QStringLiteral("%1 (%2)").arg(name).arg(number) + pictureEnding);
+  return QUrl::fromLocalFile(file);
 }
 
-QUrl ShareSheetController::proposedFile() {
-  const QString moment = QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd HH.mm.ss"));
-  const QString name = localized("sharingFileName") + ' ' + moment + QStringLiteral(".png");
-  return QUrl::fromLocalFile(QDir(picturesFolder().toLocalFile()).filePath(name));
+bool ShareSheetController::hasSaveDialog() {
+  const QPlatformTheme* theme = QGuiApplicationPrivate::platformTheme();
+  return theme && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
 }
 
 double ShareSheetController::pictureRatio() const {
   return static_cast<double>(picture_.width()) / std::max(1, picture_.height());
 }
 
-void ShareSheetController::savePicture(const QUrl& file) {
+void ShareSheetController::savePicture() {
+  savePictureAs(proposedFile());
+}
+
+void ShareSheetController::savePictureAs(const QUrl& file) {
   QString path = file.toLocalFile();
   if (path.isEmpty()) return setState(false, localized("sharingNotWritable"));
-  if (!path.endsWith(QStringLiteral(".png"), Qt::CaseInsensitive)) path += QStringLiteral(".png");
-  detached(write(path, [this] { goWith("sharingSaved"); }));
+  if (!path.endsWith(pictureEnding, Qt::CaseInsensitive)) path += pictureEnding;
+  detached(
+      write(path, [this, path] { goWith(localized("sharingSaved").arg(QDir::toNativeSeparators(path))); }));
 }
 
 void ShareSheetController::copyPicture() {
   QGuiApplication::clipboard()->setImage(picture_);
-  goWith("sharingCopied");
+  goWith(localized("sharingCopied"));
 }
 
 void ShareSheetController::openPicture() {
   // One file for all pictures, so that none are left behind.
   const QDir cache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation));
   cache.mkpath(QStringLiteral("."));
-  const QString path = cache.filePath(localized("sharingFileName") + QStringLiteral(".png"));
+  const QString path = cache.filePath(localized("sharingFileName") + pictureEnding);
   detached(write(path, [this, path] {
     if (links_.openFile(path))
       close();
@@ -98,9 +126,9 @@ void ShareSheetController::setState(bool isBusy, const QString& failure) {
   emit changed();
 }
 
-void ShareSheetController::goWith(const char* toastKey) {
+void ShareSheetController::goWith(const QString& toast) {
   close();
-  ViewManager::showToast(localized(toastKey));
+  ViewManager::showToast(toast);
 }
 
 }  // namespace tavi

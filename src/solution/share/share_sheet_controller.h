@@ -16,23 +16,30 @@ class ShareSheetController : public ViewController {
   QML_ELEMENT
   QML_UNCREATABLE("Made by the solution page")
   Q_PROPERTY(QUrl proposedFile READ proposedFile CONSTANT)
-  Q_PROPERTY(QUrl picturesFolder READ picturesFolder CONSTANT)
+  Q_PROPERTY(bool hasSaveDialog READ hasSaveDialog CONSTANT)
   Q_PROPERTY(double pictureRatio READ pictureRatio CONSTANT)
   Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
   Q_PROPERTY(QString failure READ failure NOTIFY changed)
 
  public:
-  explicit ShareSheetController(QImage picture, const Links& links = Links::shared());
+  /// The subject, in words, names the picture's file.
+  ShareSheetController(QImage picture, QString subject, const Links& links = Links::shared());
 
   const QImage& picture() const { return picture_; }
 
-  /// Where a save dialog begins: the user's pictures, and there a name with today's date.
-  static QUrl picturesFolder();
-  static QUrl proposedFile();
+  /// A file in the user's pictures that is not there yet, named after the subject.
+  QUrl proposedFile() const;
+
+  /// Whether the desktop has a dialog of its own to choose a place with. Qt's own is no stand-in: it follows
+  /// neither the style nor the language of the application.
+  static bool hasSaveDialog();
   double pictureRatio() const;  ///< Width to height.
 
-  /// Writes the picture there and goes, or says why it cannot. Only local files.
-  Q_INVOKABLE void savePicture(const QUrl& file);
+  /// Writes the picture to the proposed file and goes, telling where it is; or says why it cannot.
+  Q_INVOKABLE void savePicture();
+
+  /// The same to another file; only local ones.
+  Q_INVOKABLE void savePictureAs(const QUrl& file);
 
   /// Puts the picture on the clipboard and goes.
   Q_INVOKABLE void copyPicture();
@@ -53,9 +60,10 @@ class ShareSheetController : public ViewController {
  private:
   QCoro::Task<> write(QString path, std::function<void()> whenWritten);
   void setState(bool isBusy, const QString& failure);
-  void goWith(const char* toastKey);
+  void goWith(const QString& toast);
 
   QImage picture_;
+  QString subject_;
   const Links& links_;
   bool isBusy_ = false;
   QString failure_;
