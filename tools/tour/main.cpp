@@ -1,7 +1,9 @@
 #include <QCommandLineParser>
 #include <QDir>
 #include <QProcess>
+#include <QSaveFile>
 #include <QTemporaryDir>
+#include <QTextStream>
 #include <algorithm>
 #include <cstdio>
 #include <string_view>
@@ -78,6 +80,23 @@ bool hasStep(const Visit& visit, const QString& name) {
                              [&name](const Step& step) { return name == QLatin1StringView(step.name); });
 }
 
+/// A page that shows all pictures of the folder, each under the name of its station.
+void writeIndex(const QString& folder) {
+  QSaveFile page(QDir(folder).filePath(QStringLiteral("index.html")));
+  if (!page.open(QIODevice::WriteOnly)) throw Failure("cannot write into " + folder.toStdString());
+  QTextStream out(&page);
+  out << "<!doctype html><meta charset=\"utf-8\"><title>Tour</title>\n"
+         "<style>body { display: flex; flex-wrap: wrap; gap: 24px; font-family: sans-serif; background: #ddd "
+         "}\n"
+         "figure { margin: 0 } img { max-width: 412px; max-height: 870px; background: #fff }</style>\n";
+  for (const QString& name : QDir(folder).entryList({QStringLiteral("*.png")}, QDir::Files, QDir::Name))
+    out << QStringLiteral(
+               "<figure><figcaption>%1</figcaption><a href=\"%2\"><img src=\"%2\" alt=\"%1\"></a></figure>\n")
+               .arg(name.chopped(4), name);
+  out.flush();
+  if (!page.commit()) throw Failure("cannot write into " + folder.toStdString());
+}
+
 Options parse(const QStringList& arguments) {
   QCommandLineParser parser;
   parser.setApplicationDescription(
@@ -114,6 +133,7 @@ bool goThrough(const Options& options, Application& application) {
       isPassed = runInOwnProcess(visit, options) && isPassed;
     }
   }
+  if (options.visit.isEmpty()) writeIndex(options.folder);
   if (!isFound) std::fputs("no such visit or picture\n", stderr);
   return isPassed && isFound;
 }
