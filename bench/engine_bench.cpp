@@ -10,34 +10,31 @@
 namespace tavi {
 namespace {
 
-struct Task {
+struct Example {
   const char* name;
   std::string first, second;
-  int mode;
+  Mode mode;
 };
 
-const Task tasks[] = {
-    {"2^3", "3", "2", TaviExponentSolver::powerMode},
-    {"(3/2)^-2", "-2", "3/2", TaviExponentSolver::powerMode},
-    {"8^(2/3)", "2/3", "8", TaviExponentSolver::powerMode},
-    {"sqrt(2)", "", "2", TaviExponentSolver::rootMode},
-    {"sqrt[-2](9)", "-2", "9", TaviExponentSolver::rootMode},
-    {"0.5^2.5", "2.5", "0.5", TaviExponentSolver::powerMode},
+const Example tasks[] = {
+    {"2^3", "3", "2", Mode::power},         {"(3/2)^-2", "-2", "3/2", Mode::power},
+    {"8^(2/3)", "2/3", "8", Mode::power},   {"sqrt(2)", "", "2", Mode::root},
+    {"sqrt[-2](9)", "-2", "9", Mode::root}, {"0.5^2.5", "2.5", "0.5", Mode::power},
 };
 
-CalculationOutcome solve(const Task& task, TaviStringOutput& output, TaviMathOperation& operation) {
+CalculationOutcome solve(const Example& task, TaviStringOutput& output, TaviMathOperation& operation) {
   output.reset();
   return TaviExponentSolver(output, operation)
       .calculate(task.first, "aTextField", task.second, "xTextField", task.mode);
 }
 
-void calculate(benchmark::State& state, const Task& task) {
+void calculate(benchmark::State& state, const Example& task) {
   TaviStringOutput output;
   TaviMathOperation operation(output);
   for (auto _ : state) benchmark::DoNotOptimize(solve(task, output, operation));
 }
 
-std::string longestLine(const Task& task) {
+std::string longestLine(const Example& task) {
   TaviStringOutput output;
   TaviMathOperation operation(output);
   const SolutionSteps steps = *solve(task, output, operation).solutionSteps;
@@ -52,12 +49,12 @@ void display(benchmark::State& state, const std::string& line) {
 }
 
 // The power that is written out with so many copies of its base.
-Task expansion(std::int64_t copies) {
-  return {"", std::to_string(copies), "2", TaviExponentSolver::powerMode};
+Example expansion(std::int64_t copies) {
+  return {"", std::to_string(copies), "2", Mode::power};
 }
 
 void calculateExpansion(benchmark::State& state) {
-  const Task task = expansion(state.range());
+  const Example task = expansion(state.range());
   TaviStringOutput output;
   TaviMathOperation operation(output);
   for (auto _ : state) benchmark::DoNotOptimize(solve(task, output, operation));
@@ -82,7 +79,7 @@ void displayZeroFractions(benchmark::State& state) {
 BENCHMARK(displayZeroFractions)->RangeMultiplier(4)->Range(16, 1024)->Complexity();
 
 const int registered = [] {
-  for (const Task& task : tasks) {
+  for (const Example& task : tasks) {
     const std::string name = task.name;
     benchmark::RegisterBenchmark(("calculate/" + name).c_str(), calculate, task);
     benchmark::RegisterBenchmark(("display/" + name).c_str(), display, longestLine(task));

@@ -12,7 +12,6 @@
 #include "shell/frame/page_tab_bar_controller.h"
 #include "solution/share/step_records.h"
 #include "solution/solution_view_controller.h"
-#include "solver/exponent_solver.h"
 #include "solver/rehearsal.h"
 
 namespace tavi {
@@ -37,19 +36,16 @@ bool CalculateViewController::performCalculation() {
   const std::string& secondText = elementAt(texts, 1);
   const std::string& firstId = elementAt(allIds, 0);
   const std::string& secondId = elementAt(allIds, 1);
-  const int mode = this->mode();
+  const Task task{modeOf(mode()), firstText, secondText, firstId, secondId};
   outputHelper_.reset();
-
-  const Rehearsal rehearsal = rehearse(firstText, firstId, secondText, secondId, mode, copyLimit);
+  const Rehearsal rehearsal = rehearse(task, outputHelper_, basicOperationHelper_);
   if (std::holds_alternative<ExpansionTooLong>(rehearsal)) {
     return rejectCalculation(TaviError::calculationTooLong, {firstId});
   }
   if (std::holds_alternative<FatalStop>(rehearsal)) {
     return rejectCalculation(TaviError::calculationOutOfRange, {firstId, secondId});
   }
-
-  const CalculationOutcome outcome = TaviExponentSolver(outputHelper_, basicOperationHelper_)
-                                         .calculate(firstText, firstId, secondText, secondId, mode);
+  const auto& outcome = std::get<CalculationOutcome>(rehearsal);
   if (outcome.errorKey) {
     return rejectCalculation(*outcome.errorKey, required(outcome.errorFieldIds, "an error without fields"));
   }

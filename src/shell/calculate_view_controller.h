@@ -50,9 +50,6 @@ class CalculateViewController : public AdHandlingViewController {
                                    TaviStringOutput& outputHelper = TaviStringOutput::shared(),
                                    TaviMathOperation& basicOperationHelper = TaviMathOperation::shared());
 
-  /// Longer expansions of a power are refused.
-  static constexpr std::int64_t copyLimit = 10'000;
-
   /// Under which a record's set-up holds the mode.
   static constexpr QLatin1StringView modeKey{"inputCalculationSelection"};
 

@@ -9,15 +9,9 @@ namespace tavi {
 
 namespace {
 
-std::string inputFormat(int mode) {
-  switch (mode) {
-    case TaviExponentSolver::powerMode:
-      return "%1^{%0}";
-    case TaviExponentSolver::rootMode:
-      return "\\sqrt[%0]{%1}";
-    default:
-      return "";
-  }
+std::string inputFormat(std::optional<Mode> mode) {
+  if (!mode) return "";
+  return *mode == Mode::power ? "%1^{%0}" : "\\sqrt[%0]{%1}";
 }
 
 }  // namespace
@@ -28,9 +22,9 @@ TaviExponentSolver::TaviExponentSolver(TaviStringOutput& collector, TaviMathOper
 CalculationOutcome TaviExponentSolver::calculate(const std::optional<std::string>& firstText,
                                                  std::string_view firstId,
                                                  const std::optional<std::string>& secondText,
-                                                 std::string_view secondId, int mode) {
+                                                 std::string_view secondId, std::optional<Mode> mode) {
   std::string first = firstText.value_or("");
-  if (first.empty() && mode == rootMode) first = "2";
+  if (first.empty() && mode == Mode::root) first = "2";
 
   AnalysisRequest request;
   request.texts = {first, secondText.value_or("")};
@@ -46,8 +40,8 @@ CalculationOutcome TaviExponentSolver::calculate(const std::optional<std::string
     return {.errorKey = std::move(analysis.errorKey), .errorFieldIds = std::move(analysis.missingIds)};
   }
   operation.withFraction = true;
-  if (mode == powerMode) calculatePower();
-  if (mode == rootMode) calculateRoot();
+  if (mode == Mode::power) calculatePower();
+  if (mode == Mode::root) calculateRoot();
   return {.solutionSteps = output.solutionSteps, .latexString = task()};
 }
 

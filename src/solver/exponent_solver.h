@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "input/mode.h"
 #include "number/digit.h"
 #include "number/math_operation.h"
 #include "output/string_output.h"
@@ -31,18 +32,15 @@ struct ExpansionTooLong {
 /// The solver of powers and roots, made afresh for each calculation.
 class TaviExponentSolver {
  public:
-  static constexpr int powerMode = 0;
-  static constexpr int rootMode = 1;
-
   explicit TaviExponentSolver(TaviStringOutput& collector = TaviStringOutput::shared(),
                               TaviMathOperation& arithmetic = TaviMathOperation::shared());
 
-  /// Solves "first text over second text": exponent and base in mode 0, root index (2 by default) and
-  /// radicand in mode 1; any other mode runs the analysis alone. Writes the steps into the collector, which
-  /// the caller has emptied.
+  /// Solves "first text over second text": exponent and base of a power, index (2 by default) and radicand of
+  /// a root; without a mode it runs the analysis alone. Writes the steps into the collector, which the caller
+  /// has emptied.
   CalculationOutcome calculate(const std::optional<std::string>& firstText, std::string_view firstId,
                                const std::optional<std::string>& secondText, std::string_view secondId,
-                               int mode);
+                               std::optional<Mode> mode);
 
   TaviMathOperation& operation;
   TaviStringOutput& output;

@@ -2,20 +2,29 @@
 
 namespace tavi {
 
-Rehearsal rehearse(const std::optional<std::string>& firstText, std::string_view firstId,
-                   const std::optional<std::string>& secondText, std::string_view secondId, int mode,
-                   std::int64_t copyLimit) {
+Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation& operation,
+                   std::int64_t limit) {
+  const bool withFraction = operation.withFraction;
+  const auto undone = [&](Rehearsal ending) {
+    output.reset();
+    operation.withFraction = withFraction;
+    return ending;
+  };
+  TaviExponentSolver solver(output, operation);
+  solver.expansionLimit = limit;
+  try {
+    return solver.calculate(task.first, task.firstId, task.second, task.secondId, task.mode);
+  } catch (const FatalStop& stop) {
+    return undone(stop);
+  } catch (const ExpansionTooLong& expansion) {
+    return undone(expansion);
+  }
+}
+
+Rehearsal rehearse(const Task& task, std::int64_t limit) {
   TaviStringOutput output;
   TaviMathOperation operation(output);
-  TaviExponentSolver solver(output, operation);
-  solver.expansionLimit = copyLimit;
-  try {
-    return solver.calculate(firstText, firstId, secondText, secondId, mode);
-  } catch (const FatalStop& stop) {
-    return stop;
-  } catch (const ExpansionTooLong& expansion) {
-    return expansion;
-  }
+  return rehearse(task, output, operation, limit);
 }
 
 }  // namespace tavi

@@ -3,6 +3,7 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <variant>
 
 #include "number/fatal_stop.h"
@@ -10,15 +11,28 @@
 
 namespace tavi {
 
-/// How a task would end: in an outcome (a rejected input is one), in a fatal stop, or beyond the allowed
-/// length.
+/// How a task ends: in an outcome (a rejected input is one), in a fatal stop, or beyond the allowed length.
 using Rehearsal = std::variant<CalculationOutcome, FatalStop, ExpansionTooLong>;
 
-/// Carries a task out on a collector of its own and tells how it ends. The shared collector and arithmetic
-/// stay untouched, and no fatal stop leaves. `copyLimit` is the most copies of a base that a power may be
-/// written out with.
-Rehearsal rehearse(const std::optional<std::string>& firstText, std::string_view firstId,
-                   const std::optional<std::string>& secondText, std::string_view secondId, int mode,
-                   std::int64_t copyLimit);
+/// The most copies of a base that a power is written out with, wherever it is shown.
+inline constexpr std::int64_t copyLimit = 10'000;
+
+/// A task as `TaviExponentSolver::calculate` takes it.
+struct Task {
+  std::optional<Mode> mode;
+  std::optional<std::string> first{};
+  std::optional<std::string> second{};
+  std::string_view firstId = "aTextField";
+  std::string_view secondId = "xTextField";
+};
+
+/// Carries the task out in a collector, which is empty before, and tells how it ends; no fatal stop leaves.
+/// Where that is no outcome, the
+/// collector is empty again and the arithmetic as it was.
+Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation& operation,
+                   std::int64_t limit = copyLimit);
+
+/// The same in a collector of its own.
+Rehearsal rehearse(const Task& task, std::int64_t limit = copyLimit);
 
 }  // namespace tavi

@@ -4,19 +4,16 @@
 #include <string>
 #include <string_view>
 
+#include "solver/rehearsal.h"
+
 namespace tavi {
 
-/// Field texts and a mode made at random, most of them close to what a keypad can type.
-struct GeneratedTask {
-  std::string first, second;
-  int mode = 0;
-};
-
+/// Makes tasks at random, most of them close to what a keypad can type.
 class TaskGenerator {
  public:
   explicit TaskGenerator(unsigned seed) : random_(seed) {}
 
-  GeneratedTask next() { return {field(), field(), static_cast<int>(below(2))}; }
+  Task next() { return {modeOf(static_cast<std::int64_t>(below(2))), field(), field()}; }
 
  private:
   std::size_t below(std::size_t count) { return random_() % count; }

@@ -8,7 +8,6 @@
 #include "generated_task.h"
 #include "number/fatal_stop.h"
 #include "solution/display_latex.h"
-#include "solver/rehearsal.h"
 
 namespace tavi {
 namespace {
@@ -18,8 +17,7 @@ std::vector<std::string> everythingWritten() {
   std::vector<std::string> lines;
   TaskGenerator generator(44);
   for (int i = 0; i < 500; ++i) {
-    const GeneratedTask task = generator.next();
-    const Rehearsal ending = rehearse(task.first, "a", task.second, "x", task.mode, 100);
+    const Rehearsal ending = rehearse(generator.next(), 100);
     const auto* outcome = std::get_if<CalculationOutcome>(&ending);
     if (!outcome || !outcome->solutionSteps) continue;
     for (const SolutionStep& step : *outcome->solutionSteps) {

@@ -11,10 +11,7 @@ namespace tavi {
 namespace {
 
 constexpr int taskCount = 30000;
-
-Rehearsal solve(const GeneratedTask& task) {
-  return rehearse(task.first, "a", task.second, "x", task.mode, 2000);
-}
+constexpr std::int64_t fewCopies = 2000;
 
 TEST(SolverProperties, HoldForEveryGeneratedTask) {
   TaskGenerator generator(42);
@@ -22,9 +19,9 @@ TEST(SolverProperties, HoldForEveryGeneratedTask) {
   int rejected = 0;
   int stopped = 0;
   for (int i = 0; i < taskCount; ++i) {
-    const GeneratedTask task = generator.next();
-    SCOPED_TRACE(task.first + " | " + task.second + " | " + std::to_string(task.mode));
-    const Rehearsal ending = solve(task);
+    const Task task = generator.next();
+    SCOPED_TRACE(*task.first + " | " + *task.second + (task.mode == Mode::power ? " power" : " root"));
+    const Rehearsal ending = rehearse(task, fewCopies);
     const auto* outcome = std::get_if<CalculationOutcome>(&ending);
     if (!outcome) {
       ++stopped;
@@ -71,8 +68,8 @@ TEST(SolverProperties, ASecondCalculationAfterAResetWritesTheSameSteps) {
   TaviStringOutput& output = TaviStringOutput::shared();
   TaskGenerator generator(43);
   for (int i = 0; i < 2000; ++i) {
-    const GeneratedTask task = generator.next();
-    const Rehearsal expected = solve(task);
+    const Task task = generator.next();
+    const Rehearsal expected = rehearse(task, fewCopies);
     const auto* outcome = std::get_if<CalculationOutcome>(&expected);
     if (!outcome || !outcome->solutionSteps) continue;
     for (int run = 0; run < 2; ++run) {
@@ -85,30 +82,36 @@ TEST(SolverProperties, ASecondCalculationAfterAResetWritesTheSameSteps) {
   output.reset();
 }
 
-TEST(Solver, OtherModesRunTheAnalysisAlone) {
-  const Rehearsal ending = rehearse("2", "a", "0.5", "x", 7, 10);
+TEST(Solver, NoModeRunsTheAnalysisAlone) {
+  const Rehearsal ending = rehearse({modeOf(7), "2", "0.5"});
   const auto& outcome = std::get<CalculationOutcome>(ending);
   EXPECT_EQ(outcome.latexString, "");
   EXPECT_EQ(outcome.solutionSteps->back().title, "Modified Input");
 }
 
 TEST(Solver, AnEmptyFirstFieldIsASquareRootButNoExponent) {
-  const Rehearsal root = rehearse(std::nullopt, "a", "9", "x", TaviExponentSolver::rootMode, 10);
+  const Rehearsal root = rehearse({Mode::root, std::nullopt, "9"});
   EXPECT_EQ(std::get<CalculationOutcome>(root).latexString, "\\sqrt[2]{9}");
-  const Rehearsal power = rehearse("", "a", "9", "x", TaviExponentSolver::powerMode, 10);
+  const Rehearsal power = rehearse({Mode::power, "", "9"});
   EXPECT_EQ(std::get<CalculationOutcome>(power).errorKey, "notEnoughInputValues");
-  EXPECT_EQ(std::get<CalculationOutcome>(power).errorFieldIds, std::vector<std::string>{"a"});
+  EXPECT_EQ(std::get<CalculationOutcome>(power).errorFieldIds, std::vector<std::string>{"aTextField"});
 }
 
-TEST(Rehearsal, TellsHowATaskWouldEnd) {
-  EXPECT_EQ(std::get<ExpansionTooLong>(rehearse("1001", "a", "2", "x", 0, 1000)).copies, 1001);
-  EXPECT_EQ(std::get<ExpansionTooLong>(rehearse("9000000000000000000", "a", "2", "x", 0, 1000)).copies,
-            9000000000000000000);
-  EXPECT_TRUE(std::holds_alternative<CalculationOutcome>(rehearse("1000", "a", "2", "x", 0, 1000)));
+TEST(Rehearsal, TellsHowATaskEndsAndLeavesNothingOfWhatDoesNotEndWell) {
+  const std::string most = std::to_string(copyLimit);
+  EXPECT_TRUE(std::holds_alternative<CalculationOutcome>(rehearse({Mode::power, most, "2"})));
+  TaviStringOutput output;
+  TaviMathOperation operation(output);
+  for (const std::int64_t copies : {copyLimit + 1, std::int64_t{9'000'000'000'000'000'000}}) {
+    const Task task{Mode::power, std::to_string(copies), "3/2"};
+    EXPECT_EQ(std::get<ExpansionTooLong>(rehearse(task, output, operation)).copies, copies);
+    EXPECT_TRUE(output.solutionSteps.empty() && !operation.withFraction) << copies;
+  }
   for (const auto& [first, second] :
        {std::pair{"2", "1.000001/3"}, {"10000000000000000000", "2"}, {"365", "1.01"}, {"2", "()"}}) {
-    EXPECT_TRUE(std::holds_alternative<FatalStop>(rehearse(first, "a", second, "x", 0, 1000)))
+    EXPECT_TRUE(std::holds_alternative<FatalStop>(rehearse({Mode::power, first, second}, output, operation)))
         << first << ' ' << second;
+    EXPECT_TRUE(output.solutionSteps.empty() && !operation.withFraction) << first << ' ' << second;
   }
 }
 

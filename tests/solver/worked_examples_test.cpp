@@ -21,7 +21,7 @@ std::ostream& operator<<(std::ostream& out, const Line& line) {
 }
 
 struct Example {
-  int mode = 0;
+  Mode mode = Mode::power;
   std::string first, second;
   std::vector<Line> lines;
 };
@@ -50,8 +50,7 @@ std::vector<Example> readExamples() {
     if (line.starts_with("## ")) {
       const std::vector<std::string> operands = backticked(line);
       if (operands.size() != 2) throw std::runtime_error("no task: " + line);
-      const int mode =
-          line.starts_with("## root") ? TaviExponentSolver::rootMode : TaviExponentSolver::powerMode;
+      const Mode mode = line.starts_with("## root") ? Mode::root : Mode::power;
       examples.push_back({mode, operands[0], operands[1], {}});
     } else if (line.starts_with("| `") || line.starts_with("|  |")) {
       const std::size_t middle = line.find(" | ", 1);
@@ -65,7 +64,7 @@ TEST(WorkedExamples, ComeOutToTheLetter) {
   const std::vector<Example> examples = readExamples();
   ASSERT_GE(examples.size(), 25U);
   for (const Example& example : examples) {
-    SCOPED_TRACE((example.mode == 0 ? "power " : "root ") + example.first + " " + example.second);
+    SCOPED_TRACE((example.mode == Mode::power ? "power " : "root ") + example.first + " " + example.second);
     ASSERT_FALSE(example.lines.empty());
     TaviStringOutput output;
     TaviMathOperation operation(output);

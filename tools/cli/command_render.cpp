@@ -22,8 +22,6 @@
 namespace tavi::cli {
 namespace {
 
-// More copies of a base than this make no picture that anyone looks at.
-constexpr std::int64_t copyLimit = 1000;
 // A phone's page and its rows.
 constexpr double pageWidth = 412;
 constexpr double rowHeight = 100;
@@ -160,18 +158,13 @@ int renderCommand(Arguments arguments) {
   if (request.png.isEmpty() && request.svg.isEmpty() && request.pdf.isEmpty()) {
     return usageError("render needs a file to draw to", usage);
   }
-  const std::string_view mode = request.operands[0];
-  if (mode != "power" && mode != "root") return usageError("the mode is power or root", usage);
+  const std::optional<Mode> mode = readMode(request.operands[0]);
+  if (!mode) return usageError("the mode is power or root", usage);
 
   const Rehearsal ending =
-      rehearse(std::string(request.operands[1]), "aTextField", std::string(request.operands[2]), "xTextField",
-               mode == "power" ? TaviExponentSolver::powerMode : TaviExponentSolver::rootMode, copyLimit);
+      rehearse({*mode, std::string(request.operands[1]), std::string(request.operands[2])});
   const auto* outcome = std::get_if<CalculationOutcome>(&ending);
   if (outcome != nullptr && outcome->solutionSteps) return draw(request, *outcome->solutionSteps);
-  if (std::holds_alternative<ExpansionTooLong>(ending)) {
-    std::cerr << "This power would be written out with more than " << copyLimit << " copies of its base\n";
-    return tooLong;
-  }
   return solveCommand(request.operands);  // tells why there is no working
 }
 

@@ -16,10 +16,6 @@ namespace {
 
 using nlohmann::ordered_json;
 
-constexpr std::int64_t copyLimit = 100000;
-constexpr std::string_view firstId = "aTextField";
-constexpr std::string_view secondId = "xTextField";
-
 constexpr std::string_view usage = R"(Usage: tavi-cli solve [--raw | --json] power EXPONENT BASE
        tavi-cli solve [--raw | --json] root INDEX RADICAND
        tavi-cli solve --json-lines
@@ -36,12 +32,8 @@ begin with a minus; an empty INDEX is 2. Behind "--" nothing is an option.
                 {"fatal": true}, {"huge": copies} or {"malformed": true}
 
 Exit codes: 2 the input is rejected, 3 the task would end the process,
-4 the power would be written out with more than 100000 copies of its base.
+4 the power would be written out with more than 10000 copies of its base.
 )";
-
-Rehearsal solve(const std::optional<std::string>& first, const std::optional<std::string>& second, int mode) {
-  return rehearse(first, firstId, second, secondId, mode, copyLimit);
-}
 
 // What each ending of a task prints: as JSON, for a reader, and its exit code.
 
@@ -94,8 +86,8 @@ void printSteps(const SolutionSteps& steps, bool isRaw) {
   }
 }
 
-int solveOne(const std::string& first, const std::string& second, int mode, std::string_view form) {
-  const Rehearsal ending = solve(first, second, mode);
+int solveOne(const Task& task, std::string_view form) {
+  const Rehearsal ending = rehearse(task);
   if (form == "--json") {
     std::cout << jsonLine(ending) << '\n';
   } else if (const auto* outcome = std::get_if<CalculationOutcome>(&ending);
@@ -116,10 +108,7 @@ std::optional<Rehearsal> answer(const std::string& line) {
   const auto text = [](const ordered_json& value) {
     return value.is_null() ? std::nullopt : std::optional(value.get<std::string>());
   };
-  // All modes beyond the two are alike.
-  const auto mode = task["mode"].get<std::int64_t>();
-  return solve(text(task["first"]), text(task["second"]),
-               mode == 0 || mode == 1 ? static_cast<int>(mode) : -1);
+  return rehearse({modeOf(task["mode"].get<std::int64_t>()), text(task["first"]), text(task["second"])});
 }
 
 int solveLines() {
@@ -159,10 +148,9 @@ int solveCommand(Arguments arguments) {
     return operands.empty() ? solveLines() : usageError("--json-lines takes no operands", usage);
   }
   if (operands.size() != 3) return usageError("solve takes a mode and two operands", usage);
-  const std::string& mode = operands[0];
-  if (mode != "power" && mode != "root") return usageError("the mode is power or root", usage);
-  const int modeNumber = mode == "power" ? TaviExponentSolver::powerMode : TaviExponentSolver::rootMode;
-  return solveOne(operands[1], operands[2], modeNumber, form);
+  const std::optional<Mode> mode = readMode(operands[0]);
+  if (!mode) return usageError("the mode is power or root", usage);
+  return solveOne({*mode, operands[1], operands[2]}, form);
 }
 
 }  // namespace tavi::cli

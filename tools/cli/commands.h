@@ -1,7 +1,10 @@
 #pragma once
 
+#include <optional>
 #include <span>
 #include <string_view>
+
+#include "input/mode.h"
 
 namespace tavi::cli {
 
@@ -19,6 +22,9 @@ int solveCommand(Arguments arguments);
 int displayLatexCommand(Arguments arguments);
 int typesetCommand(Arguments arguments);
 int renderCommand(Arguments arguments);
+
+/// The mode of that name, "power" or "root".
+std::optional<Mode> readMode(std::string_view name);
 
 /// Prints what is wrong and the usage to standard error; the result is the exit code.
 int usageError(std::string_view problem, std::string_view usage);

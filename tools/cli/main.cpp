@@ -54,6 +54,12 @@ int run(Arguments arguments) {
 
 }  // namespace
 
+std::optional<Mode> readMode(std::string_view name) {
+  if (name == "power") return Mode::power;
+  if (name == "root") return Mode::root;
+  return std::nullopt;
+}
+
 int usageError(std::string_view problem, std::string_view usage) {
   std::cerr << "tavi-cli: " << problem << "\n\n" << usage;
   return wrongUsage;

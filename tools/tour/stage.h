@@ -8,6 +8,7 @@
 #include <functional>
 #include <stdexcept>
 
+#include "input/mode.h"
 #include "shell/launch/application.h"
 
 namespace tavi::tour {
@@ -17,8 +18,6 @@ class Failure : public std::runtime_error {
  public:
   using std::runtime_error::runtime_error;
 };
-
-enum class Mode { power = 0, root = 1 };
 
 /// Lets the application run until the state is reached.
 void waitUntil(const std::function<bool()>& isReached, const std::string& what);
