@@ -209,9 +209,9 @@ bool PreferenceStore::setValue(const QString& key, const QVariant& value) {
   return value.isValid() ? write(key, encodePreference(value)) : remove(key);
 }
 
-bool PreferenceStore::setArray(const QString& key, qsizetype count,
+bool PreferenceStore::setArray(const Preference<QVariantList>& preference, qsizetype count,
                                const std::function<QVariant(qsizetype)>& element) {
-  return write(key, encodePreferenceArray(count, element));
+  return write(preference.key, encodePreferenceArray(count, element));
 }
 
 bool PreferenceStore::remove(const QString& key) {

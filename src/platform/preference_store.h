@@ -7,6 +7,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <type_traits>
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -19,7 +20,15 @@ concept PreferenceValue =
     std::same_as<Value, QString> || std::same_as<Value, qlonglong> || std::same_as<Value, bool> ||
     std::same_as<Value, QDateTime> || std::same_as<Value, QVariantList> || std::same_as<Value, QVariantMap>;
 
-/// Settings and small records that survive the process, one value per key, in a database file.
+/// A setting: its key, its kind and what it reads as while nothing of that kind is stored.
+template <PreferenceValue Value>
+struct Preference {
+  QLatin1StringView key;
+  Value fallback{};
+};
+
+/// Settings and small records that survive the process, one value per key, in a database file. The
+/// application's own are listed in platform/preferences.h.
 ///
 /// Values are texts, integers, booleans, dates (UTC, to the millisecond), and arrays and maps of these.
 /// Integers of any width are read back as `qlonglong`. Each change is on the disk, atomically, when the
@@ -33,29 +42,50 @@ class PreferenceStore {
   /// Opens or creates the file at the path, and the folders above it.
   explicit PreferenceStore(const QString& path);
 
-  /// Whether a value is stored under the key.
-  bool contains(const QString& key) const;
-
-  /// The stored value; invalid when the key is absent or its text is none of ours (then with one console
-  /// line).
-  QVariant variant(const QString& key) const;
-
-  /// The stored value, or the fallback when the key is absent or holds a value of another kind.
+  /// The stored value; absent when there is none or one of another kind.
   template <PreferenceValue Value>
-  Value value(const QString& key, const Value& fallback) const {
-    const QVariant stored = variant(key);
-    return stored.typeId() == qMetaTypeId<Value>() ? stored.value<Value>() : fallback;
+  std::optional<Value> find(const Preference<Value>& preference) const {
+    const QVariant stored = variant(preference.key);
+    return stored.typeId() == qMetaTypeId<Value>() ? std::optional(stored.value<Value>()) : std::nullopt;
   }
 
-  /// Replaces the value; an invalid one clears the key. False, with one console line and the old value kept,
-  /// when the disk refuses. A value of another kind than those above is a fatal stop.
-  bool setValue(const QString& key, const QVariant& value);
+  /// The stored value or, without one of the kind, the fallback.
+  template <PreferenceValue Value>
+  Value value(const Preference<Value>& preference) const {
+    return find(preference).value_or(preference.fallback);
+  }
 
-  /// Sets an array whose elements are made one at a time, so that a long one is never held twice.
-  bool setArray(const QString& key, qsizetype count, const std::function<QVariant(qsizetype)>& element);
+  /// Replaces the value, an absent one clears the key. False, with one console line and the old value kept,
+  /// when the disk refuses.
+  template <PreferenceValue Value>
+  bool setValue(const Preference<Value>& preference,
+                const std::type_identity_t<std::optional<Value>>& value) {
+    return setValue(preference.key, value ? QVariant(*value) : QVariant());
+  }
+
+  /// Whether anything is stored under the key, of whatever kind.
+  template <PreferenceValue Value>
+  bool contains(const Preference<Value>& preference) const {
+    return contains(preference.key);
+  }
 
   /// Clears the key; clearing an absent one is no error. False as above.
+  template <PreferenceValue Value>
+  bool remove(const Preference<Value>& preference) {
+    return remove(preference.key);
+  }
+
+  // The same by key alone, as one who comes from outside sees the store.
+  bool contains(const QString& key) const;
+  /// Invalid when the key is absent or its text is none of ours (then with one console line).
+  QVariant variant(const QString& key) const;
+  /// An invalid value clears the key; one of another kind than those above is a fatal stop.
+  bool setValue(const QString& key, const QVariant& value);
   bool remove(const QString& key);
+
+  /// Sets an array whose elements are made one at a time, so that a long one is never held twice.
+  bool setArray(const Preference<QVariantList>& preference, qsizetype count,
+                const std::function<QVariant(qsizetype)>& element);
 
   /// False when the values live in memory only.
   bool isDurable() const { return isDurable_; }

@@ -6,15 +6,13 @@
 #include <QStandardPaths>
 
 #include "platform/bounded_get.h"
+#include "platform/preferences.h"
 
 namespace tavi {
 namespace {
 
 constexpr int statusNotModified = 304;
 constexpr qsizetype entityTagLimit = 256;
-
-// The whole state is one value, so that a set of texts and the tag that names it can never part.
-constexpr QLatin1StringView stateKey{"remoteConfig"};
 
 std::optional<QVariantMap> decodeTexts(const QByteArray& body) {
   const QJsonDocument document = QJsonDocument::fromJson(body);
@@ -48,7 +46,7 @@ RemoteConfigService& RemoteConfigService::shared() {
 RemoteConfigService::RemoteConfigService(RemoteConfigSettings settings, const QString& storePath,
                                          NetworkAccessFactory makeAccess)
     : settings_(std::move(settings)), makeAccess_(std::move(makeAccess)), store_(storePath) {
-  const QVariantMap state = store_.value(stateKey, QVariantMap());
+  const QVariantMap state = store_.value(preferences::remoteConfig);
   fetched_ = state.value("fetched").toMap();
   active_ = state.value("active").toMap();
   entityTag_ = state.value("entityTag").toString();
@@ -134,7 +132,7 @@ void RemoteConfigService::activate(ActivateCompletion completion) {
 void RemoteConfigService::save() {
   QVariantMap state{{"fetched", fetched_}, {"active", active_}, {"entityTag", entityTag_}};
   if (lastFetchAt_.isValid()) state.insert("lastFetchAt", lastFetchAt_);
-  store_.setValue(stateKey, state);
+  store_.setValue(preferences::remoteConfig, state);
 }
 
 }  // namespace tavi

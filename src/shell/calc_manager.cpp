@@ -4,14 +4,10 @@
 #include <algorithm>
 
 #include "number/fatal_stop.h"
+#include "platform/preferences.h"
 
 namespace tavi {
 namespace {
-
-constexpr QLatin1StringView calculationsKey{"Calculations"};
-constexpr QLatin1StringView currentCalculationKey{"CurrentCalculation"};
-constexpr QLatin1StringView currentSelectedCalculationKey{"CurrentSelectedCalculation"};
-constexpr QLatin1StringView firstAppStartAtKey{"firstAppStartAt"};
 
 bool isRecord(const QVariant& value) {
   return value.typeId() == QMetaType::QVariantMap;
@@ -33,8 +29,8 @@ CalcManager& CalcManager::shared() {
 
 CalcManager::CalcManager(PreferenceStore& userDefaults) : userDefaults_(userDefaults) {
   loadCalculations();
-  currentCalculation_ = stored(currentCalculationKey);
-  currentSelectedCalculation_ = stored(currentSelectedCalculationKey);
+  currentCalculation_ = stored(preferences::currentCalculation);
+  currentSelectedCalculation_ = stored(preferences::currentSelectedCalculation);
 }
 
 QString CalcManager::persistKey() const {
@@ -69,7 +65,7 @@ void CalcManager::swapCalculations(qsizetype first, qsizetype second) {
 }
 
 void CalcManager::clearCalculations() {
-  userDefaults_.remove(calculationsKey);
+  userDefaults_.remove(preferences::calculations);
   calculations_.clear();
   saveCalculations();
 }
@@ -85,14 +81,14 @@ void CalcManager::setCurrentSelectedCalculation(std::optional<Calculation> calcu
 }
 
 void CalcManager::runFirstStartStep() {
-  if (userDefaults_.contains(firstAppStartAtKey)) return;
-  userDefaults_.setValue(firstAppStartAtKey, QDateTime::currentDateTimeUtc());
+  if (userDefaults_.contains(preferences::firstAppStartAt)) return;
+  userDefaults_.setValue(preferences::firstAppStartAt, QDateTime::currentDateTimeUtc());
   clearCalculations();
   addCalculation(sample());
 }
 
 void CalcManager::loadCalculations() {
-  const QVariantList records = userDefaults_.value(calculationsKey, QVariantList());
+  const QVariantList records = userDefaults_.value(preferences::calculations);
   if (records.isEmpty() || !std::ranges::all_of(records, isRecord)) return clearCalculations();
   calculations_.clear();
   calculations_.reserve(records.size());
@@ -100,20 +96,20 @@ void CalcManager::loadCalculations() {
 }
 
 void CalcManager::saveCalculations() {
-  userDefaults_.setArray(calculationsKey, calculations_.size(),
+  userDefaults_.setArray(preferences::calculations, calculations_.size(),
                          [this](qsizetype index) { return calculations_[index].properties(); });
 }
 
-std::optional<Calculation> CalcManager::stored(const QString& key) const {
-  const QVariant record = userDefaults_.variant(key);
-  return isRecord(record) ? std::optional(Calculation(record.toMap())) : std::nullopt;
+std::optional<Calculation> CalcManager::stored(const Preference<QVariantMap>& preference) const {
+  const std::optional<QVariantMap> record = userDefaults_.find(preference);
+  return record ? std::optional(Calculation(*record)) : std::nullopt;
 }
 
 // Whichever of the two was assigned, it is the picked record that is written: a snapshot ends with its run.
 void CalcManager::persistSelection() {
-  userDefaults_.setValue(currentSelectedCalculationKey, currentSelectedCalculation_
-                                                            ? currentSelectedCalculation_->properties()
-                                                            : QVariant());
+  std::optional<QVariantMap> record;
+  if (currentSelectedCalculation_) record = currentSelectedCalculation_->properties();
+  userDefaults_.setValue(preferences::currentSelectedCalculation, record);
 }
 
 void CalcManager::requireIndex(qsizetype index) const {

@@ -66,7 +66,7 @@ class CalcManager : public Persistable {
   void saveCalculations() override;
 
  private:
-  std::optional<Calculation> stored(const QString& key) const;
+  std::optional<Calculation> stored(const Preference<QVariantMap>& preference) const;
   void persistSelection();
   void requireIndex(qsizetype index) const;
 

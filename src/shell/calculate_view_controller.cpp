@@ -11,7 +11,6 @@
 #include "output/localized_string.h"
 #include "platform/analytics.h"
 #include "platform/localization.h"
-#include "platform/notification_center.h"
 #include "remote/analytics_events.h"
 #include "shell/frame/is_calculating.h"
 #include "shell/frame/page_tab_bar_controller.h"
@@ -48,10 +47,11 @@ QString without(const QString& text, TextRange range) {
 
 }  // namespace
 
-CalculateViewController::CalculateViewController(CalcManager& store, ErrorManager& errorManager,
-                                                 TaviStringOutput& outputHelper,
+CalculateViewController::CalculateViewController(CalcManager& store, NotificationCenter& notifications,
+                                                 ErrorManager& errorManager, TaviStringOutput& outputHelper,
                                                  TaviMathOperation& basicOperationHelper)
     : store_(store),
+      notifications_(notifications),
       errorManager_(errorManager),
       outputHelper_(outputHelper),
       basicOperationHelper_(basicOperationHelper) {}
@@ -309,7 +309,7 @@ void CalculateViewController::clearAll() {
   if (solution) {
     solution->handleClearAllButton();
   } else {
-    NotificationCenter::shared().post(SolutionViewController::clearCurrentCalculation);
+    notifications_.post(SolutionViewController::clearCurrentCalculation);
   }
   for (DTTextField* field : allFields) field->setText("");
   basicOperationHelper_.withFraction = false;

@@ -13,6 +13,7 @@
 #include "input/error_manager.h"
 #include "number/math_operation.h"
 #include "output/string_output.h"
+#include "platform/notification_center.h"
 #include "shell/calc_manager.h"
 #include "shell/frame/toolbar.h"
 #include "shell/frame/view_controller.h"
@@ -46,6 +47,7 @@ class CalculateViewController : public AdHandlingViewController {
 
  public:
   explicit CalculateViewController(CalcManager& store = CalcManager::shared(),
+                                   NotificationCenter& notifications = NotificationCenter::shared(),
                                    ErrorManager& errorManager = ErrorManager::shared(),
                                    TaviStringOutput& outputHelper = TaviStringOutput::shared(),
                                    TaviMathOperation& basicOperationHelper = TaviMathOperation::shared());
@@ -138,6 +140,7 @@ class CalculateViewController : public AdHandlingViewController {
   bool rejectCalculation(std::string_view key, const std::vector<std::string>& fieldIds);
 
   CalcManager& store_;
+  NotificationCenter& notifications_;
   ErrorManager& errorManager_;
   TaviStringOutput& outputHelper_;
   TaviMathOperation& basicOperationHelper_;

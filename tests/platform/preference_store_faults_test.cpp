@@ -59,7 +59,7 @@ TEST_F(PreferenceStoreFaultsTest, AKilledProcessLosesNoAcknowledgedWrite) {
     acknowledged = numbers.value(numbers.size() - 2).toLongLong();
 
     const PreferenceStore store(path_);
-    const QVariantList list = store.value("list", QVariantList());
+    const QVariantList list = store.variant("list").toList();
     ASSERT_GE(list.size(), acknowledged);
     ASSERT_LE(list.size(), acknowledged + 1);
     for (qsizetype i = 0; i < list.size(); ++i) ASSERT_EQ(list[i].toMap().value("number"), list.size() - i);

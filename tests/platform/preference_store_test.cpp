@@ -37,12 +37,14 @@ TEST_F(PreferenceStoreTest, MakesTheFoldersAboveItsFile) {
 }
 
 TEST_F(PreferenceStoreTest, ReadsByKind) {
+  constexpr QLatin1StringView key("counter");
   PreferenceStore store(path());
-  EXPECT_TRUE(store.setValue("counter", 5));
-  EXPECT_EQ(store.value<qlonglong>("counter", 0), 5);
-  EXPECT_EQ(store.value("counter", QString("no text")), "no text");
-  EXPECT_FALSE(store.value("counter", false));
-  EXPECT_TRUE(store.value("absent", true));
+  EXPECT_EQ(store.value(Preference<qlonglong>{key, 7}), 7);
+  EXPECT_TRUE(store.setValue(Preference<qlonglong>{key}, 5));
+  EXPECT_EQ(store.value(Preference<qlonglong>{key, 7}), 5);
+  EXPECT_EQ(store.value(Preference<QString>{key, "no text"}), "no text");
+  EXPECT_EQ(store.find(Preference<bool>{key}), std::nullopt);
+  EXPECT_TRUE(store.contains(Preference<bool>{key}));
 }
 
 TEST_F(PreferenceStoreTest, AKeyIsThereUntilItIsCleared) {

@@ -35,7 +35,7 @@ int writeKinds(const QString& path) {
 // Tells each acknowledged write on the standard output, until it is killed.
 int countUp(const QString& path) {
   PreferenceStore store(path);
-  QVariantList list = store.value("list", QVariantList());
+  QVariantList list = store.variant("list").toList();
   for (qlonglong n = list.size() + 1;; ++n) {
     list.prepend(QVariantMap{{"number", n}});
     if (!store.setValue("list", list)) return fail("not written");

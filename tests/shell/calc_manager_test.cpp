@@ -44,7 +44,7 @@ TEST_F(CalcManagerTest, TheFirstStartLeavesTheSampleAlone) {
                 {"latexString", R"(\frac{3}{2}^{-2})"},
                 {"solutionSteps", QVariantList()},
                 {"setupParameter", QVariantMap{{"inputCalculationSelection", 0LL}, {"appKey", "QRX"}}}}}));
-  EXPECT_GT(store_.value("firstAppStartAt", QDateTime()), before);
+  EXPECT_GT(store_.variant("firstAppStartAt").toDateTime(), before);
 
   manager.clearCalculations();
   CalcManager later(store_);

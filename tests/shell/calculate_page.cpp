@@ -15,7 +15,8 @@ CalculatePage::CalculatePage() {
 
 void CalculatePage::rebuild() {
   if (controller) controller->disappear();
-  controller = std::make_unique<CalculateViewController>(store, errorManager, output, operation);
+  controller =
+      std::make_unique<CalculateViewController>(store, notifications, errorManager, output, operation);
   controller->setPage(engine, "shell/CalculatePage.qml");
   controller->beginAppearance();
   controller->view()->setParentItem(window.contentItem());

@@ -30,6 +30,7 @@ class CalculatePage {
   QTemporaryDir folder;
   PreferenceStore preferences{folder.filePath("preferences.sqlite")};
   CalcManager store{preferences};
+  NotificationCenter notifications;
   QStringList toasts;
   ErrorManager errorManager{{[this](const QString& text) { toasts.append(text); }, {}}};
   TaviStringOutput output;

@@ -306,8 +306,8 @@ TEST_F(CalculateViewControllerTest, AStoredModeIsAnIntegerButNeedNotBeAMode) {
 
 TEST_F(CalculateViewControllerTest, ClearingWithoutTabsIsToldToWhoeverHoldsTheSolution) {
   int told = 0;
-  NotificationCenter::shared().observe(SolutionViewController::clearCurrentCalculation, &controller(),
-                                       [&told] { ++told; });
+  page_.notifications.observe(SolutionViewController::clearCurrentCalculation, &controller(),
+                              [&told] { ++told; });
   page_.type("baseField", u"12");
   controller().clearAll();
   EXPECT_EQ(told, 1);

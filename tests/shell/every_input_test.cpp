@@ -116,7 +116,8 @@ class BarePage {
   CalcManager store{preferences_};
   QStringList toasts;
   ErrorManager errorManager{{[this](const QString& text) { toasts.append(text); }, {}}};
-  CalculateViewController controller{store, errorManager, output_, operation_};
+  NotificationCenter notifications;
+  CalculateViewController controller{store, notifications, errorManager, output_, operation_};
 };
 
 TEST(EveryInput, EndsInASolutionOrInWords) {

@@ -3,6 +3,7 @@
 #include <QGuiApplication>
 
 #include "input/error_manager.h"
+#include "platform/preferences.h"
 #include "shell/frame/page_loader.h"
 #include "shell/frame/window_messages.h"
 
@@ -61,15 +62,15 @@ void AppDelegate::openWindow() {
 
 /// Introduction and consent have no pages yet: what would call for them is read, and nothing is shown.
 void AppDelegate::presentFirstRun() {
-  const bool needsOnboarding =
-      !services_.userDefaults.value<bool>(QStringLiteral("isOnboardingFinished"), false);
-  const bool needsConsent = !services_.userDefaults.value<bool>(QStringLiteral("isDsgvoAccepted"), false);
+  const bool needsOnboarding = !services_.userDefaults.value(preferences::isOnboardingFinished);
+  const bool needsConsent = !services_.userDefaults.value(preferences::isDsgvoAccepted);
   std::ignore = needsOnboarding || needsConsent;
 }
 
 const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewController() {
   if (!calculateViewController_)
-    build(calculateViewController_, engine_, "shell/CalculatePage.qml", services_.calcManager);
+    build(calculateViewController_, engine_, "shell/CalculatePage.qml", services_.calcManager,
+          services_.notifications);
   return calculateViewController_;
 }
 
@@ -84,7 +85,8 @@ const std::shared_ptr<LeftViewController>& AppDelegate::leftViewController() {
 
 const std::shared_ptr<SolutionViewController>& AppDelegate::solutionViewController() {
   if (!solutionViewController_)
-    build(solutionViewController_, engine_, "solution/SolutionPage.qml", services_.remoteConfigManager);
+    build(solutionViewController_, engine_, "solution/SolutionPage.qml", services_.remoteConfigManager,
+          services_.notifications);
   return solutionViewController_;
 }
 

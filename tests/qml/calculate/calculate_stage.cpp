@@ -15,7 +15,8 @@ QQuickItem* CalculateStage::open(QQuickItem* holder) {
   toasts_.clear();
   store_.clearCalculations();
   store_.setCurrentCalculation(std::nullopt);
-  controller_ = std::make_unique<CalculateViewController>(store_, errorManager_, output_, operation_);
+  controller_ =
+      std::make_unique<CalculateViewController>(store_, notifications_, errorManager_, output_, operation_);
   controller_->setPage(*engine_, "shell/CalculatePage.qml");
   controller_->beginAppearance();
   controller_->view()->setParentItem(holder);

@@ -36,6 +36,7 @@ class CalculateStage : public QObject {
   QTemporaryDir folder_;
   PreferenceStore preferences_{folder_.filePath("preferences.sqlite")};
   CalcManager store_{preferences_};
+  NotificationCenter notifications_;
   QStringList toasts_;
   ErrorManager errorManager_{{[this](const QString& text) { toasts_.append(text); }, {}}};
   TaviStringOutput output_;
