@@ -104,7 +104,7 @@ TEST(Commands, ExitCodesTellWhatWentWrong) {
       {{"render", "cube", "2", "3", "--png", "x.png"}, 64},
       {{"render", "power", "2", "3", "--png", "x.png", "--scale", "0"}, 64},
       {{"render", "power", "1/", "3", "--png", "x.png"}, 2},
-      {{"render", "power", "1001", "3", "--png", "x.png"}, 4},
+      {{"render", "power", "10001", "3", "--png", "x.png"}, 4},
       {{"render", "power", "900", "12345", "--png", "x.png", "--scale", "20"}, 73},
       {{"render", "power", "2", "3", "--png", "/no/such/folder/x.png"}, 73},
   };
