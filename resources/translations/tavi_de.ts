@@ -353,7 +353,15 @@
     </message>
     <message id="sharingSave">
         <source>sharingSave</source>
-        <translation>Bild speichern</translation>
+        <translation>Speichern</translation>
+    </message>
+    <message id="sharingPicture">
+        <source>sharingPicture</source>
+        <translation>Bild</translation>
+    </message>
+    <message id="sharingCopyLatex">
+        <source>sharingCopyLatex</source>
+        <translation>Als LaTeX kopieren</translation>
     </message>
     <message id="sharingSaveAs">
         <source>sharingSaveAs</source>
@@ -365,11 +373,11 @@
     </message>
     <message id="sharingCopy">
         <source>sharingCopy</source>
-        <translation>Bild kopieren</translation>
+        <translation>Kopieren</translation>
     </message>
     <message id="sharingOpen">
         <source>sharingOpen</source>
-        <translation>Bild öffnen</translation>
+        <translation>Öffnen</translation>
     </message>
     <message id="sharingFileName">
         <source>sharingFileName</source>
@@ -381,7 +389,7 @@
     </message>
     <message id="sharingCopied">
         <source>sharingCopied</source>
-        <translation>Bild kopiert</translation>
+        <translation>Kopiert</translation>
     </message>
     <message id="sharingNoRoom">
         <source>sharingNoRoom</source>

@@ -353,7 +353,15 @@
     </message>
     <message id="sharingSave">
         <source>sharingSave</source>
-        <translation>Save picture</translation>
+        <translation>Save</translation>
+    </message>
+    <message id="sharingPicture">
+        <source>sharingPicture</source>
+        <translation>Picture</translation>
+    </message>
+    <message id="sharingCopyLatex">
+        <source>sharingCopyLatex</source>
+        <translation>Copy as LaTeX</translation>
     </message>
     <message id="sharingSaveAs">
         <source>sharingSaveAs</source>
@@ -365,11 +373,11 @@
     </message>
     <message id="sharingCopy">
         <source>sharingCopy</source>
-        <translation>Copy picture</translation>
+        <translation>Copy</translation>
     </message>
     <message id="sharingOpen">
         <source>sharingOpen</source>
-        <translation>Open picture</translation>
+        <translation>Open</translation>
     </message>
     <message id="sharingFileName">
         <source>sharingFileName</source>
@@ -381,7 +389,7 @@
     </message>
     <message id="sharingCopied">
         <source>sharingCopied</source>
-        <translation>Picture copied</translation>
+        <translation>Copied</translation>
     </message>
     <message id="sharingNoRoom">
         <source>sharingNoRoom</source>

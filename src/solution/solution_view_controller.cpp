@@ -95,7 +95,8 @@ PicturedTable SolutionViewController::picturedTable() {
   const double viewWidth = view() ? view()->width() : 0;
   PicturedTable table{.width = tableView_ ? tableView_->width() : viewWidth, .sections = {{}}};
   for (const SolutionRow& row : table_.rows())
-    table.sections.front().rows.emplace_back([row, viewWidth] { return makePainter(row, viewWidth); });
+    table.sections.front().rows.emplace_back(
+        [row, viewWidth] { return makePainter(row, RowTarget{.viewWidth = viewWidth}); });
   return table;
 }
 
@@ -107,7 +108,8 @@ QString SolutionViewController::subject() const {
 
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
   if (items.empty()) return;
-  auto sheet = std::make_shared<ShareSheetController>(items.front(), subject());
+  auto sheet = std::make_shared<ShareSheetController>(
+      SharedWorking{items.front(), table_.rows(), view() ? view()->width() : 0, subject()});
   if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
 }

@@ -94,7 +94,7 @@ TEST_F(ShareTest, TheKeyboardWalksTheSheetAndEscapeClosesIt) {
     QTest::keyClick(&window, key);
     way.append(focused());
   }
-  EXPECT_EQ(way, (QStringList{"savePicture", "copyPicture", "openPicture", "closeSheet", "openPicture"}));
+  EXPECT_EQ(way, (QStringList{"save", "copy", "open", "copyLatex", "open"}));
   QTest::keyClick(&window, Qt::Key_Escape);
   EXPECT_TRUE(QTest::qWaitFor([this] { return !sheet(); }));
 }
@@ -103,7 +103,7 @@ TEST_F(ShareTest, TheSheetStandsAtTheFootWithRowsLargeEnoughForAFinger) {
   openSheet();
   QTest::qWait(300);
   double foot = 0;
-  for (const char* name : {"savePicture", "copyPicture", "openPicture", "closeSheet"}) {
+  for (const char* name : {"save", "copy", "open", "copyLatex", "closeSheet"}) {
     const auto* row = sheet()->view()->findChild<QQuickItem*>(name);
     ASSERT_TRUE(row) << name;
     EXPECT_GE(row->height(), 48) << name;
@@ -131,8 +131,8 @@ class ShareSheetTest : public testing::Test {
 };
 
 TEST_F(ShareSheetTest, SavesThePictureAsItIs) {
-  ShareSheetController sheet(picture, "2 to the power of 3");
-  sheet.savePictureAs(QUrl::fromLocalFile(folder.filePath("mine")));
+  ShareSheetController sheet({.picture = picture, .subject = "2 to the power of 3"});
+  sheet.saveAs(QUrl::fromLocalFile(folder.filePath("mine")));
   EXPECT_TRUE(sheet.isBusy());
   waitUntilWritten(sheet);
   EXPECT_EQ(sheet.failure(), "");
@@ -143,8 +143,8 @@ TEST_F(ShareSheetTest, SaysWhenAFolderCannotBeWrittenTo) {
   for (const QUrl& file :
        {QUrl::fromLocalFile("/proc/no folder/x.png"), QUrl::fromLocalFile(folder.filePath("none/x.png")),
         QUrl("https://example.org/x.png"), QUrl()}) {
-    ShareSheetController sheet(picture, "2 to the power of 3");
-    sheet.savePictureAs(file);
+    ShareSheetController sheet({.picture = picture, .subject = "2 to the power of 3"});
+    sheet.saveAs(file);
     waitUntilWritten(sheet);
     EXPECT_EQ(sheet.failure(), localized("sharingNotWritable"));
   }
@@ -161,8 +161,8 @@ TEST_F(ShareSheetTest, OnAFullDiskNoHalfFileRemains) {
   const auto handler = std::signal(SIGXFSZ, SIG_IGN);
   const rlimit small{10'000, before.rlim_max};
   setrlimit(RLIMIT_FSIZE, &small);
-  ShareSheetController sheet(picture, "2 to the power of 3");
-  sheet.savePictureAs(QUrl::fromLocalFile(path));
+  ShareSheetController sheet({.picture = picture, .subject = "2 to the power of 3"});
+  sheet.saveAs(QUrl::fromLocalFile(path));
   waitUntilWritten(sheet);
   setrlimit(RLIMIT_FSIZE, &before);
   std::signal(SIGXFSZ, handler);
@@ -181,8 +181,8 @@ TEST_F(ShareSheetTest, OpensACopyAndSaysWhenNothingCan) {
       opened = address;
       return canOpen;
     });
-    ShareSheetController sheet(picture, {}, links);
-    sheet.openPicture();
+    ShareSheetController sheet({.picture = picture}, links);
+    sheet.open();
     waitUntilWritten(sheet);
     EXPECT_EQ(QImage(opened.toLocalFile()).size(), picture.size());
     EXPECT_EQ(sheet.failure(), canOpen ? "" : localized("sharingNoViewer"));
@@ -190,7 +190,7 @@ TEST_F(ShareSheetTest, OpensACopyAndSaysWhenNothingCan) {
 }
 
 TEST_F(ShareSheetTest, CopiesThePicture) {
-  ShareSheetController(picture, {}).copyPicture();
+  ShareSheetController({.picture = picture}).copy();
   EXPECT_EQ(QGuiApplication::clipboard()->image(), picture);
 }
 
@@ -205,16 +205,18 @@ TEST_F(ShareSheetTest, OneTapSavesUnderASpeakingNameThatIsFree) {
   const QString name = localized("sharingFileName") + " 3 over 2 to the power of minus 2";
   for (const QString& ending : {QString(), QStringLiteral(" (2)")}) {
     const QString path = pictures.filePath(name + ending + ".png");
-    ShareSheetController sheet(picture, "3 over 2, to the power of: minus/2");
+    ShareSheetController sheet({.picture = picture, .subject = "3 over 2, to the power of: minus 2"});
     EXPECT_EQ(sheet.proposedFile().toLocalFile(), path);
-    sheet.savePicture();
+    sheet.save();
     waitUntilWritten(sheet);
     EXPECT_EQ(QImage(path).size(), picture.size());
     EXPECT_TRUE(toasts.value(toasts.size() - 1).contains(localized("sharingSaved").section('%', 0, 0)))
         << "says where";
   }
   const QString longName =
-      ShareSheetController(picture, QString("word ").repeated(100)).proposedFile().fileName();
+      ShareSheetController({.picture = picture, .subject = QString("word ").repeated(100)})
+          .proposedFile()
+          .fileName();
   EXPECT_LT(longName.size(), 100);
 }
 

@@ -166,7 +166,7 @@ QImage pictureOf(const SolutionTableData& data) {
   table.width = 396;
   table.sections.resize(1);
   for (const SolutionRow& each : data.rows())
-    table.sections.front().rows.emplace_back([each] { return makePainter(each, 412); });
+    table.sections.front().rows.emplace_back([each] { return makePainter(each, {.viewWidth = 412}); });
   return pictureOf(tableViewScreenshot(table));
 }
 

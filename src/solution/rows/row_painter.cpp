@@ -13,4 +13,12 @@ RowPalette RowPalette::current() {
           .accent = KeypadPalette::make().pink};
 }
 
+RowPalette RowPalette::printed() {
+  return {.page = Qt::white,
+          .card = Qt::white,
+          .text = Qt::black,
+          .hairline = QColor::fromRgb(0xd1d1d6),
+          .accent = QColor::fromRgbF(0.93F, 0.25F, 0.48F)};
+}
+
 }  // namespace tavi

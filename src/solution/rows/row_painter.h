@@ -18,6 +18,17 @@ struct RowPalette {
 
   /// The colours of the appearance in force.
   static RowPalette current();
+
+  /// Black on white.
+  static RowPalette printed();
+};
+
+/// What a row is drawn for. Lengths are device-independent pixels.
+struct RowTarget {
+  double viewWidth = 0;  ///< Of the page.
+  /// A formula that is wider goes on in further lines. A picture of twice as many pixels is as wide as
+  /// viewers open.
+  double widestLine = 8000;
 };
 
 /// One row of a table as a picture, on any painter and without a screen. Lengths are device-independent

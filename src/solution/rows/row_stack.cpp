@@ -9,7 +9,7 @@ namespace tavi {
 
 RowStack::RowStack(const std::vector<SolutionRow>& rows, double viewWidth)
     : rowWidth_(viewWidth - 2 * rowMeasures.pageMargin) {
-  for (const SolutionRow& row : rows) painters_.push_back(makePainter(row, viewWidth));
+  for (const SolutionRow& row : rows) painters_.push_back(makePainter(row, {.viewWidth = viewWidth}));
   for (const auto& painter : painters_) rowWidth_ = std::max(rowWidth_, painter->width());
   double height = 2 * rowMeasures.pageMargin;
   for (const auto& painter : painters_) height += painter->height(rowWidth_);

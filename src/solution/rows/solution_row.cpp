@@ -1,7 +1,5 @@
 #include "solution/rows/solution_row.h"
 
-#include "solution/rows/row_measures.h"
-
 namespace tavi {
 
 namespace {
@@ -19,12 +17,10 @@ const char* kindOf(const SolutionRow& row) {
   return std::visit([](const auto& content) { return content.kind; }, row.content);
 }
 
-std::unique_ptr<RowPainter> makePainter(const SolutionRow& row, double viewWidth) {
-  const double height = row.height.at(viewWidth);
+std::unique_ptr<RowPainter> makePainter(const SolutionRow& row, const RowTarget& target) {
+  const double height = row.height.at(target.viewWidth);
   return std::visit(
-      Overloaded{[&](const SolutionStepTableViewCell& step) {
-                   return makePainter(step, height, rowMeasures.formulaSize(viewWidth));
-                 },
+      Overloaded{[&](const SolutionStepTableViewCell& step) { return makePainter(step, height, target); },
                  [&](const ChartTableViewCell& charts) { return makePainter(charts, height); },
                  [](const VideoCollectionTableViewCell& videos) { return makePainter(videos); }},
       row.content);

@@ -33,7 +33,7 @@ struct SolutionRow {
 /// The name of the row's kind, such as "step".
 const char* kindOf(const SolutionRow& row);
 
-/// The row in a picture of a page of that width.
-std::unique_ptr<RowPainter> makePainter(const SolutionRow& row, double viewWidth);
+/// The row in a picture.
+std::unique_ptr<RowPainter> makePainter(const SolutionRow& row, const RowTarget& target);
 
 }  // namespace tavi

@@ -21,8 +21,6 @@ namespace {
 
 constexpr const RowMeasures& measures = rowMeasures;
 constexpr double lineGap = 8;  // between the lines of a parted formula
-// Two thousand factors and more; a picture of twice as many pixels is as wide as viewers open.
-constexpr double widestLine = 8000;
 
 typeset::MathFont& mathFont() {
   static typeset::MathFont font = typeset::MathFont::open(typeset::bundledMathFont()).value();
@@ -31,12 +29,13 @@ typeset::MathFont& mathFont() {
 
 class StepRowPainter : public RowPainter {
  public:
-  StepRowPainter(const SolutionStepTableViewCell& row, double leastHeight, double formulaSize)
+  StepRowPainter(const SolutionStepTableViewCell& row, double leastHeight, const RowTarget& target)
       : row_(row), leastHeight_(leastHeight) {
     if (row_.latex.isEmpty()) return;
+    const double formulaSize = measures.formulaSize(target.viewWidth);
     const typeset::Layout layout = typeset::typeset(row_.latex.toStdString(), mathFont(), formulaSize);
     formula_ = typeset::MathPicture(layout);
-    lines_ = typeset::parted(layout, widestLine);
+    lines_ = typeset::parted(layout, target.widestLine - 2 * measures.edge);
     ascent_ = layout.height;
     lineHeight_ = layout.height + layout.depth;
   }
@@ -145,8 +144,8 @@ void SolutionStepTableViewCell::setStepContent(const SolutionStep& step) {
 }
 
 std::unique_ptr<RowPainter> makePainter(const SolutionStepTableViewCell& row, double leastHeight,
-                                        double formulaSize) {
-  return std::make_unique<StepRowPainter>(row, leastHeight, formulaSize);
+                                        const RowTarget& target) {
+  return std::make_unique<StepRowPainter>(row, leastHeight, target);
 }
 
 }  // namespace tavi

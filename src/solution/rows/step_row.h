@@ -42,9 +42,8 @@ struct SolutionStepTableViewCell {
   bool operator==(const SolutionStepTableViewCell&) const = default;
 };
 
-/// The row with its whole formula to be seen, in further lines where it is wider than some thousands. It is
-/// at least `leastHeight` high; `formulaSize` is the em.
+/// The row with its whole formula to be seen. It is at least `leastHeight` high.
 std::unique_ptr<RowPainter> makePainter(const SolutionStepTableViewCell& row, double leastHeight,
-                                        double formulaSize);
+                                        const RowTarget& target);
 
 }  // namespace tavi

@@ -93,31 +93,66 @@ Item {
                 Accessible.name: text
             }
 
+            Item {
+                width: parent.width
+                height: formats.height + 8
+
+                SegmentedControl {
+                    id: formats
+
+                    objectName: "formats"
+                    x: 24
+                    width: parent.width - 48
+                    selectedSegmentIndex: page.controller.format
+                    segments: [
+                        {
+                            name: qsTrId("sharingPicture"),
+                            picture: pictureName
+                        },
+                        {
+                            name: "PDF",
+                            picture: pdfName
+                        },
+                        {
+                            name: "SVG",
+                            picture: svgName
+                        }
+                    ]
+                    onValueChanged: index => page.controller.format = index
+                }
+            }
+
             SheetRow {
-                objectName: "savePicture"
+                objectName: "save"
                 focus: true
                 text: qsTrId("sharingSave")
                 iconText: Icons.save
-                onClicked: page.controller.savePicture()
+                onClicked: page.controller.save()
             }
             SheetRow {
-                objectName: "savePictureAs"
+                objectName: "saveAs"
                 visible: page.controller.hasSaveDialog
                 text: qsTrId("sharingSaveAs")
                 iconText: Icons.save
                 onClicked: fileDialog.active = true
             }
             SheetRow {
-                objectName: "copyPicture"
+                objectName: "copy"
                 text: qsTrId("sharingCopy")
                 iconText: Icons.copy
-                onClicked: page.controller.copyPicture()
+                onClicked: page.controller.copy()
             }
             SheetRow {
-                objectName: "openPicture"
+                objectName: "open"
                 text: qsTrId("sharingOpen")
                 iconText: Icons.open
-                onClicked: page.controller.openPicture()
+                onClicked: page.controller.open()
+            }
+            SheetRow {
+                objectName: "copyLatex"
+                text: qsTrId("sharingCopyLatex")
+                iconText: Icons.copy
+                onClicked: page.controller.copyLatex()
             }
             SheetRow {
                 objectName: "closeSheet"
@@ -125,6 +160,35 @@ Item {
                 iconText: Icons.close
                 onClicked: sheet.close()
             }
+        }
+    }
+
+    component FormatName: Text {
+        font: Theme.medium(14)
+        color: parent.color
+        horizontalAlignment: Text.AlignHCenter
+        verticalAlignment: Text.AlignVCenter
+        Accessible.ignored: true
+    }
+    Component {
+        id: pictureName
+
+        FormatName {
+            text: qsTrId("sharingPicture")
+        }
+    }
+    Component {
+        id: pdfName
+
+        FormatName {
+            text: "PDF"
+        }
+    }
+    Component {
+        id: svgName
+
+        FormatName {
+            text: "SVG"
         }
     }
 
@@ -178,12 +242,11 @@ Item {
             fileMode: FileDialog.SaveFile
             title: qsTrId("sharingSaveAs")
             selectedFile: page.controller.proposedFile
-            defaultSuffix: "png"
             acceptLabel: qsTrId("sharingSaveHere")
             rejectLabel: qsTrId("Cancel")
             Component.onCompleted: open()
             onAccepted: {
-                page.controller.savePictureAs(selectedFile);
+                page.controller.saveAs(selectedFile);
                 fileDialog.active = false;
             }
             onRejected: fileDialog.active = false

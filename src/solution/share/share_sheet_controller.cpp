@@ -5,9 +5,11 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGuiApplication>
+#include <QMimeData>
 #include <QPointer>
 #include <QStandardPaths>
 #include <QtConcurrentRun>
+#include <memory>
 #include <utility>
 
 #include <private/qguiapplication_p.h>
@@ -18,12 +20,31 @@
 #include "platform/picture_file.h"
 #include "shell/frame/detached_task.h"
 #include "shell/frame/view_manager.h"
+#include "solution/share/working_copies.h"
 
 namespace tavi {
 
 namespace {
 
-constexpr QLatin1StringView pictureEnding{".png"};
+/// How files of a format are named and where they are kept.
+struct FileKind {
+  QLatin1StringView ending;
+  QLatin1StringView mimeType;
+  QStandardPaths::StandardLocation location;
+};
+
+FileKind fileKind(ShareSheetController::Format format) {
+  switch (format) {
+    case ShareSheetController::Format::Pdf:
+      return {QLatin1StringView(".pdf"), QLatin1StringView("application/pdf"),
+              QStandardPaths::DocumentsLocation};
+    case ShareSheetController::Format::Svg:
+      return {QLatin1StringView(".svg"), QLatin1StringView("image/svg+xml"),
+              QStandardPaths::PicturesLocation};
+    default:
+      return {QLatin1StringView(".png"), QLatin1StringView("image/png"), QStandardPaths::PicturesLocation};
+  }
+}
 
 /// The words as a file may be called everywhere: letters, digits and blanks, and no longer than is easily
 /// read.
@@ -52,16 +73,22 @@ QString failureWords(WriteResult result) {
 
 }  // namespace
 
-ShareSheetController::ShareSheetController(QImage picture, QString subject, const Links& links)
-    : picture_(std::move(picture)), subject_(std::move(subject)), links_(links) {}
+ShareSheetController::ShareSheetController(SharedWorking working, const Links& links)
+    : working_(std::move(working)), links_(links) {}
+
+void ShareSheetController::setFormat(Format format) {
+  format_ = format;
+  setState(isBusy_, {});
+}
 
 QUrl ShareSheetController::proposedFile() const {
-  const QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
-  const QDir folder = pictures.exists() ? pictures : QDir::home();
-  const QString name = fileName(subject_);
-  QString file = folder.filePath(name + pictureEnding);
+  const FileKind kind = fileKind(format_);
+  const QDir own(QStandardPaths::writableLocation(kind.location));
+  const QDir folder = own.exists() ? own : QDir::home();
+  const QString name = fileName(working_.subject);
+  QString file = folder.filePath(name + kind.ending);
   for (int number = 2; QFileInfo::exists(file); ++number)
-    file = folder.filePath(QStringLiteral("%1 (%2)").arg(name).arg(number) + pictureEnding);
+    file = folder.filePath(QStringLiteral("%1 (%2)").arg(name).arg(number) + kind.ending);
   return QUrl::fromLocalFile(file);
 }
 
@@ -70,32 +97,41 @@ bool ShareSheetController::hasSaveDialog() {
   return theme && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
 }
 
-double ShareSheetController::pictureRatio() const {
-  return static_cast<double>(picture_.width()) / std::max(1, picture_.height());
+void ShareSheetController::save() {
+  saveAs(proposedFile());
 }
 
-void ShareSheetController::savePicture() {
-  savePictureAs(proposedFile());
-}
-
-void ShareSheetController::savePictureAs(const QUrl& file) {
+void ShareSheetController::saveAs(const QUrl& file) {
   QString path = file.toLocalFile();
   if (path.isEmpty()) return setState(false, localized("sharingNotWritable"));
-  if (!path.endsWith(pictureEnding, Qt::CaseInsensitive)) path += pictureEnding;
+  const QLatin1StringView ending = fileKind(format_).ending;
+  if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
   detached(
       write(path, [this, path] { goWith(localized("sharingSaved").arg(QDir::toNativeSeparators(path))); }));
 }
 
-void ShareSheetController::copyPicture() {
-  QGuiApplication::clipboard()->setImage(picture_);
+void ShareSheetController::copy() {
+  QClipboard& clipboard = *QGuiApplication::clipboard();
+  if (format_ == Format::Picture) {
+    clipboard.setImage(working_.picture);
+  } else {
+    auto data = std::make_unique<QMimeData>();
+    data->setData(fileKind(format_).mimeType, bytes()());
+    clipboard.setMimeData(data.release());  // which takes it over
+  }
   goWith(localized("sharingCopied"));
 }
 
-void ShareSheetController::openPicture() {
-  // One file for all pictures, so that none are left behind.
+void ShareSheetController::copyLatex() {
+  QGuiApplication::clipboard()->setText(latexOfWorking(working_.rows));
+  goWith(localized("sharingCopied"));
+}
+
+void ShareSheetController::open() {
+  // One file of each kind for all workings, so that none are left behind.
   const QDir cache(QStandardPaths::writableLocation(QStandardPaths::CacheLocation));
   cache.mkpath(QStringLiteral("."));
-  const QString path = cache.filePath(localized("sharingFileName") + pictureEnding);
+  const QString path = cache.filePath(localized("sharingFileName") + fileKind(format_).ending);
   detached(write(path, [this, path] {
     if (links_.openFile(path))
       close();
@@ -108,11 +144,22 @@ void ShareSheetController::close() {
   dismiss();
 }
 
+std::function<QByteArray()> ShareSheetController::bytes() const {
+  switch (format_) {
+    case Format::Pdf:
+      return [bytes = pdfOfWorking(working_.rows)] { return bytes; };
+    case Format::Svg:
+      return [bytes = svgOfWorking(working_.rows, working_.viewWidth)] { return bytes; };
+    default:
+      return [picture = working_.picture] { return pngBytes(picture); };
+  }
+}
+
 QCoro::Task<> ShareSheetController::write(QString path, std::function<void()> whenWritten) {
   if (isBusy_) co_return;
   setState(true, {});
   const QPointer<ShareSheetController> self(this);
-  const auto work = [picture = picture_, path] { return writeWhole(path, pngBytes(picture)); };
+  const auto work = [bytes = bytes(), path] { return writeWhole(path, bytes()); };
   const QFuture<WriteResult> written = QtConcurrent::run(work);
   const WriteResult result = co_await written;
   if (!self) co_return;
