@@ -17,22 +17,32 @@ struct Extent {
   [[nodiscard]] double total() const { return height + depth; }
 };
 
-/// Sets a tree into a Layout. Each function sets its construct with the origin at (0, 0) behind what is in
-/// the layout already and gives its box; the caller then moves it into place. A function stands in the file
-/// of its construct.
+/// Sets a tree into a Layout. What sets something puts it behind what is in the layout already, with its
+/// origin at (0, 0), and gives its box; who asked for it then moves it into place.
 class Compositor {
  public:
   Compositor(MathFont& font, double size, Layout& layout);
 
+  [[nodiscard]] const MathConstants& constants() const { return constants_; }
+  /// The length of a value in ems of the style.
+  [[nodiscard]] double em(double value, Style style) const {
+    return value * sizes_[static_cast<std::size_t>(style.level)];
+  }
+  /// An em of the whole line: for the lengths that TeX takes from its page and not from the style.
+  [[nodiscard]] double rootEm(double value) const { return value * sizes_.front(); }
+
   /// `isFenced`: a closing delimiter follows behind the list.
   Extent list(const List& atoms, Style style, bool isFenced = false);
-  Extent fraction(const Fraction& fraction, Style style);
-  Extent radical(const Radical& radical, Style style);
-  Extent fence(const Fence& fence, Style style);
-  Extent scripts(const Scripts& scripts, Style style);
+  Extent atom(const Atom& atom, Style style);
+  /// The character at `x` on the baseline; `position` is its place in the line, should the font lack it.
+  Extent character(char32_t character, double x, Style style, std::uint32_t position);
+  /// The smallest shape of the delimiter at least `total` tall, with its glyph's baseline, or the bottom of
+  /// its assembly, at 0. Nothing for the delimiter 0 but its blank.
+  Extent delimiter(char32_t character, double total, Style style);
+  /// A bar with its lower left corner.
+  void addRule(double x, double y, double width, double height);
 
- private:
-  // How much of the layout is set; what comes after it can be moved.
+  /// How much of the layout is set; what comes after it can be moved.
   struct Mark {
     std::size_t glyphs = 0;
     std::size_t rules = 0;
@@ -40,29 +50,19 @@ class Compositor {
   [[nodiscard]] Mark mark() const { return {layout_.glyphs.size(), layout_.rules.size()}; }
   void move(Mark from, double dx, double dy) { move(from, mark(), dx, dy); }
   void move(Mark from, Mark to, double dx, double dy);
-
-  // The length of a value in ems of the style.
-  [[nodiscard]] double em(double value, Style style) const {
-    return value * sizes_[static_cast<std::size_t>(style.level)];
-  }
-  // An em of the whole line: for the two lengths that TeX takes from its page and not from the style.
-  [[nodiscard]] double rootEm(double value) const { return value * sizes_.front(); }
-
-  Extent atom(const Atom& atom, Style style);
-  Extent symbol(const Symbol& symbol, Style style);
-  Extent text(const Text& text, Style style);
-  Extent group(const Group& group, Style style);
-  // The smallest shape of the delimiter at least `total` tall, with its glyph's baseline, or the bottom of
-  // its assembly, at 0. Nothing for the delimiter 0 but its blank.
-  Extent delimiter(char32_t character, double total, Style style);
-  Extent assembly(const VerticalShapes& shapes, char32_t character, double total, Style style);
-  // Sets the character at x on the baseline; `position` is its place in the line, should the font lack it.
-  const GlyphMetrics& character(char32_t character, double x, Style style, std::uint32_t position);
-  void addGlyph(std::uint32_t id, char32_t character, double x, double y, Style style);
-  // What is set since `from` becomes one figure.
+  /// What is set since `from` becomes one figure.
   void join(Mark from);
-  void addRule(double x, double y, double width, double height);
+
+  /// The colour of what is set next.
+  [[nodiscard]] Color color() const { return color_; }
+  void setColor(Color color) { color_ = color; }
+
+  /// What a letter leans over its width; 0 for all other atoms.
   [[nodiscard]] double italicCorrection(const Atom& atom, Style style);
+
+ private:
+  Extent assembly(const VerticalShapes& shapes, char32_t character, double total, Style style);
+  void addGlyph(std::uint32_t id, char32_t character, double x, double y, Style style);
 
   MathFont& font_;
   const MathConstants& constants_;

@@ -11,7 +11,6 @@
 
 #include "typeset/bundled_font.h"
 #include "typeset/parser.h"
-#include "typeset/spoken_math.h"
 
 namespace tavi::typeset {
 namespace {
@@ -27,10 +26,10 @@ MathFont& sharedFont() {
 
 }  // namespace
 
-std::string translatedPhrase(std::string_view key) {
-  const std::string id(key);
-  const QString phrase = qtTrId(id.c_str());
-  return phrase == QLatin1String(id) ? englishPhrase(key) : phrase.toStdString();
+std::string translatedPhrase(const Phrase& phrase) {
+  const std::string id(phrase.key);
+  const QString translated = qtTrId(id.c_str());
+  return translated == QLatin1String(id) ? englishPhrase(phrase) : translated.toStdString();
 }
 
 /// The part of a label that is seen. The label sets what it draws in the thread of the interface; the scene

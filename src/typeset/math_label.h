@@ -2,7 +2,6 @@
 
 #include <memory>
 #include <string>
-#include <string_view>
 #include <vector>
 
 #include <QtCore/QString>
@@ -11,13 +10,14 @@
 
 #include "typeset/math_font.h"
 #include "typeset/math_painter.h"
+#include "typeset/spoken_math.h"
 
 namespace tavi::typeset {
 
 class MathSlice;
 
-/// The phrase of a key of spoken mathematics in the language of the installed translations.
-std::string translatedPhrase(std::string_view key);
+/// The phrase in the language of the installed translations.
+std::string translatedPhrase(const Phrase& phrase);
 
 /// A line of LaTeX as mathematics. Its implicit size is that of the line; it draws no more of a wide line
 /// than the viewport around it shows, and it tells assistive technology the line in words.

@@ -34,6 +34,17 @@ enum class AtomClass : std::uint8_t {
   inner
 };
 
+// The constructs of a line: each type below is what one is made of. What it does stands in the file of its
+// name in constructs/: `read` puts it into a list when its command is met, `set` lays it out, `say` gives its
+// words.
+
+class Reader;
+struct CommandInLine;
+class Compositor;
+struct Extent;
+struct Style;
+class Speaker;
+
 struct Atom;
 using List = std::vector<Atom>;
 
@@ -44,11 +55,23 @@ struct Symbol {
   AtomClass atomClass = AtomClass::ordinary;
   bool isUpright = false;      ///< asked for by `\mathrm`; such letters have no italic correction
   std::uint32_t position = 0;  ///< index of the character in the line
+
+  /// How `character` is set in mathematics: letters and small Greek letters become mathematical italic,
+  /// unless `isUpright`; a hyphen becomes a minus sign, a colon the sign of a ratio.
+  static Symbol of(char32_t character, bool isUpright);
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
 };
 
 /// A blank of the writer's; it stands between atoms without parting them.
 struct Space {
   double mu = 0;  ///< eighteenths of the em of the style
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  static std::string say(const Speaker& speaker);
 };
 
 /// Upright running text: `\text{…}`, the name of a function, or a piece of the line that could not be read.
@@ -57,22 +80,41 @@ struct Text {
   AtomClass atomClass = AtomClass::ordinary;
   bool isUnreadable = false;
   std::uint32_t position = 0;
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  static void readFunction(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
 };
 
 /// `{…}`, `\mathrm{…}` and `\color{…}{…}`: one ordinary atom.
 struct Group {
   List content;
   Color color = std::nullopt;
+
+  static void readUpright(Reader& reader, const CommandInLine& command, List& into);
+  static void readColored(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
 };
 
 struct Fraction {
   List numerator;
   List denominator;
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  /// `hasScripts`: where it ends is said, for what follows belongs to the whole.
+  [[nodiscard]] std::string say(const Speaker& speaker, bool hasScripts = false) const;
 };
 
 struct Radical {
   List index;  ///< empty for a square root
   List radicand;
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
 };
 
 /// `\left … \right`; the delimiter 0 is the invisible one, written as a point.
@@ -80,6 +122,11 @@ struct Fence {
   char32_t opening = 0;
   char32_t closing = 0;
   List content;
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  static void readStrayRight(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
 };
 
 /// A nucleus, always exactly one atom, with an exponent, an index or both.
@@ -87,6 +134,11 @@ struct Scripts {
   List nucleus;
   std::optional<List> superscript;
   std::optional<List> subscript;
+
+  /// Reads `^` or `_`, which stands at the reader's place, onto the last atom.
+  static void read(Reader& reader, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
 };
 
 struct Atom {

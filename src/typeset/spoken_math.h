@@ -8,11 +8,16 @@
 
 namespace tavi::typeset {
 
-/// Gives the phrase of a key in the language of the user, %1 and %2 in the places of its parts.
-using PhraseLookup = std::function<std::string(std::string_view key)>;
+/// A phrase of the spoken mathematics, %1 and %2 in the places of its parts.
+struct Phrase {
+  std::string_view key;  ///< of its translations: "mathFraction"
+  std::string_view english;
+};
 
-/// The English phrase of a key: "%1 over %2" of "mathFraction". A key without a phrase gives itself.
-std::string englishPhrase(std::string_view key);
+/// Gives a phrase in the language of the user.
+using PhraseLookup = std::function<std::string(const Phrase& phrase)>;
+
+std::string englishPhrase(const Phrase& phrase);
 
 /// What a line says, as words for assistive technology: "square root of 2", "3 over 4", "2 to the power of
 /// 3".

@@ -39,10 +39,10 @@ TEST(SpokenMath, SaysWhatALineSays) {
 }
 
 TEST(SpokenMath, SpeaksTheLanguageOfItsPhrases) {
-  const auto german = [](std::string_view key) -> std::string {
-    if (key == "mathFraction") return "%1 durch %2";
-    if (key == "mathEquals") return "gleich";
-    return englishPhrase(key);
+  const auto german = [](const Phrase& phrase) -> std::string {
+    if (phrase.key == "mathFraction") return "%1 durch %2";
+    if (phrase.key == "mathEquals") return "gleich";
+    return englishPhrase(phrase);
   };
   EXPECT_EQ(spokenMath(parse("\\frac{3}{4}=0.75").list, german), "3 durch 4 gleich 0.75");
 }

@@ -3,15 +3,10 @@
 #include <vector>
 
 #include "typeset/compositor.h"
-#include "typeset/symbols.h"
 
 namespace tavi::typeset {
 namespace {
 
-// TeX's \delimiterfactor and \delimitershortfall, the second in ems of the line: how much of the inside a
-// fence covers.
-constexpr double delimiterFactor = 0.901;
-constexpr double delimiterShortfall = 0.5;
 // TeX's \nulldelimiterspace in place of the invisible delimiter, in ems of the line.
 constexpr double invisibleDelimiterWidth = 0.12;
 
@@ -99,35 +94,10 @@ Extent Compositor::delimiter(char32_t character, double total, Style style) {
   if (variant == shapes.variants.end() && !shapes.assembly.empty()) {
     return assembly(shapes, character, total, style);
   }
-  if (shapes.variants.empty()) return symbol(symbolFor(character, true), style);
+  if (shapes.variants.empty()) return Symbol::of(character, true).set(*this, style);
   const GlyphMetrics& glyph = variant == shapes.variants.end() ? shapes.variants.back() : *variant;
   addGlyph(glyph.id, character, 0, 0, style);
   return {em(glyph.width, style), em(glyph.height, style), em(glyph.depth, style)};
-}
-
-Extent Compositor::fence(const Fence& fence, Style style) {
-  const double axis = em(constants_.axisHeight, style);
-  const Mark start = mark();
-  Extent box = list(fence.content, style, true);
-  const Mark contentEnd = mark();
-  const double half = std::max(box.height - axis, box.depth + axis);
-  const double total = std::max(delimiterFactor * 2 * half, 2 * half - rootEm(delimiterShortfall));
-
-  // Centred on the axis at the given place; gives the width.
-  const auto place = [&](char32_t character, double x) {
-    const Mark delimiterStart = mark();
-    const Extent extent = delimiter(character, total, style);
-    const double up = character == 0 ? 0 : axis + (extent.depth - extent.height) / 2;
-    move(delimiterStart, x, up);
-    box.height = std::max(box.height, up + extent.height);
-    box.depth = std::max(box.depth, extent.depth - up);
-    return extent.width;
-  };
-  const double openingWidth = place(fence.opening, 0);
-  move(start, contentEnd, openingWidth, 0);
-  const double closingWidth = place(fence.closing, openingWidth + box.width);
-  box.width += openingWidth + closingWidth;
-  return box;
 }
 
 }  // namespace tavi::typeset

@@ -1,9 +1,8 @@
-#include "typeset/layout.h"
+#include "typeset/compositor.h"
 
 #include <algorithm>
 #include <string_view>
 
-#include "typeset/compositor.h"
 #include "typeset/utf8.h"
 
 namespace tavi::typeset {
@@ -24,6 +23,9 @@ constexpr std::array<std::string_view, 8> blankTable = {
 
 // Stands where the font lacks a character: its own sign for that is blank.
 constexpr char32_t substituteCharacter = U'□';
+
+// Most lines of a working are set without the list of glyphs having to grow.
+constexpr std::size_t usualGlyphs = 16;
 
 double blankInMu(AtomClass left, AtomClass right, Style style) {
   switch (blankTable[static_cast<std::size_t>(left)][static_cast<std::size_t>(right)]) {
@@ -113,19 +115,19 @@ void Compositor::join(Mark from) {
   }
 }
 
-const GlyphMetrics& Compositor::character(char32_t character, double x, Style style, std::uint32_t position) {
-  const GlyphMetrics& glyph = font_.glyph(character, style.shape());
-  if (glyph.id != 0) {
-    if (character != U' ') addGlyph(glyph.id, character, x, 0, style);
-    return glyph;
+Extent Compositor::character(char32_t character, double x, Style style, std::uint32_t position) {
+  const GlyphMetrics* glyph = &font_.glyph(character, style.shape());
+  const bool isMissing = glyph->id == 0;
+  if (isMissing) {
+    if (!layout_.error) {
+      layout_.error =
+          Error{.message = "the font has no " + encodeUtf8({&character, 1}), .position = position};
+    }
+    glyph = &font_.glyph(substituteCharacter, style.shape());
   }
-  if (!layout_.error) {
-    layout_.error = Error{.message = "the font has no " + encodeUtf8({&character, 1}), .position = position};
-  }
-  const GlyphMetrics& substitute = font_.glyph(substituteCharacter, style.shape());
-  addGlyph(substitute.id, character, x, 0, style);
-  layout_.glyphs.back().color = errorColor;
-  return substitute;
+  if (isMissing || character != U' ') addGlyph(glyph->id, character, x, 0, style);
+  if (isMissing) layout_.glyphs.back().color = errorColor;
+  return {em(glyph->width, style), em(glyph->height, style), em(glyph->depth, style)};
 }
 
 Extent Compositor::list(const List& atoms, Style style, bool isFenced) {
@@ -134,7 +136,7 @@ Extent Compositor::list(const List& atoms, Style style, bool isFenced) {
   for (std::size_t index = 0; index < atoms.size(); ++index) {
     const Atom& current = atoms[index];
     if (const auto* space = std::get_if<Space>(&current.content)) {
-      box.width += em(space->mu / 18, style);
+      box.width += space->set(*this, style).width;
       continue;
     }
     AtomClass atomClass = classOf(current);
@@ -169,50 +171,12 @@ double Compositor::italicCorrection(const Atom& atom, Style style) {
 }
 
 Extent Compositor::atom(const Atom& atom, Style style) {
-  struct Setter {
-    Compositor& compositor;
-    Style style;
-    Extent operator()(const Symbol& symbol) const { return compositor.symbol(symbol, style); }
-    Extent operator()(const Space& space) const { return {.width = compositor.em(space.mu / 18, style)}; }
-    Extent operator()(const Text& text) const { return compositor.text(text, style); }
-    Extent operator()(const Group& group) const { return compositor.group(group, style); }
-    Extent operator()(const Fraction& fraction) const { return compositor.fraction(fraction, style); }
-    Extent operator()(const Radical& radical) const { return compositor.radical(radical, style); }
-    Extent operator()(const Fence& fence) const { return compositor.fence(fence, style); }
-    Extent operator()(const Scripts& scripts) const { return compositor.scripts(scripts, style); }
-  };
-  return std::visit(Setter{*this, style}, atom.content);
-}
-
-Extent Compositor::symbol(const Symbol& symbol, Style style) {
-  const GlyphMetrics& glyph = character(symbol.drawn, 0, style, symbol.position);
-  return {em(glyph.width, style), em(glyph.height, style), em(glyph.depth, style)};
-}
-
-Extent Compositor::text(const Text& text, Style style) {
-  const Color outer = color_;
-  if (text.isUnreadable) color_ = errorColor;
-  Extent box;
-  for (const char32_t next : text.characters) {
-    const GlyphMetrics& glyph = character(next, box.width, style, text.position);
-    box.width += em(glyph.width, style);
-    box.height = std::max(box.height, em(glyph.height, style));
-    box.depth = std::max(box.depth, em(glyph.depth, style));
-  }
-  color_ = outer;
-  return box;
-}
-
-Extent Compositor::group(const Group& group, Style style) {
-  const Color outer = color_;
-  if (group.color) color_ = group.color;
-  const Extent box = list(group.content, style);
-  color_ = outer;
-  return box;
+  return std::visit([&](const auto& construct) { return construct.set(*this, style); }, atom.content);
 }
 
 Layout layOut(const List& list, MathFont& font, double size) {
   Layout layout;
+  layout.glyphs.reserve(usualGlyphs);
   const Extent box = Compositor(font, size, layout).list(list, {});
   layout.width = box.width;
   layout.height = box.height;
