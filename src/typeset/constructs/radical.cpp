@@ -71,6 +71,7 @@ Extent Radical::set(Compositor& compositor, Style style) const {
   const double before = compositor.em(constants.radicalKernBeforeDegree, style);
   const double after = compositor.em(constants.radicalKernAfterDegree, style);
   const double signStart = std::max(0.0, before + degree.width + after);
+  // The baseline is raised, not the bottom: a fraction reaches into the sign, as it does in TeX.
   const double raise = signBottom + constants.radicalDegreeBottomRaisePercent * sign.total();
   compositor.move(start, rootEnd, signStart, 0);
   compositor.move(rootEnd, before, raise);
