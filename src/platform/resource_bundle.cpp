@@ -22,4 +22,10 @@ std::optional<QByteArray> ResourceBundle::data(const QString& name, const QStrin
   return file.open(QFile::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
 }
 
+std::optional<std::string> readResource(std::string_view name, std::string_view extension) {
+  const auto text = [](std::string_view utf8) { return QString::fromUtf8(utf8.data(), std::ssize(utf8)); };
+  const std::optional<QByteArray> content = ResourceBundle::main().data(text(name), text(extension));
+  return content ? std::optional(content->toStdString()) : std::nullopt;
+}
+
 }  // namespace tavi

@@ -3,6 +3,8 @@
 #include <QByteArray>
 #include <QString>
 #include <optional>
+#include <string>
+#include <string_view>
 
 namespace tavi {
 
@@ -24,5 +26,8 @@ class ResourceBundle {
  private:
   QString root_;
 };
+
+/// A file of the application's own resources, for the engine, which knows of no Qt; absent as above.
+std::optional<std::string> readResource(std::string_view name, std::string_view extension);
 
 }  // namespace tavi

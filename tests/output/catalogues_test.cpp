@@ -1,11 +1,11 @@
 #include "output/catalogues.h"
 
 #include <algorithm>
-#include <fstream>
-#include <iterator>
 
 #include <gtest/gtest.h>
 #include <nlohmann/json.hpp>
+
+#include "platform/resource_bundle.h"
 
 namespace tavi {
 namespace {
@@ -14,12 +14,6 @@ using nlohmann::json;
 
 ResourceReader always(const std::optional<std::string>& content) {
   return [content](std::string_view, std::string_view) { return content; };
-}
-
-std::optional<std::string> readResource(std::string_view name, std::string_view extension) {
-  std::ifstream file(std::string(TAVI_SOURCE_DIR "/resources/").append(name).append(".").append(extension));
-  if (!file) return std::nullopt;
-  return std::string(std::istreambuf_iterator<char>(file), {});
 }
 
 TEST(Catalogues, RecordsAreCodedUnderTheirFieldNames) {

@@ -3,7 +3,9 @@
 #include <QGuiApplication>
 
 #include "input/error_manager.h"
+#include "output/catalogues.h"
 #include "platform/preferences.h"
+#include "platform/resource_bundle.h"
 #include "shell/frame/page_loader.h"
 #include "shell/frame/window_messages.h"
 
@@ -27,6 +29,7 @@ AppDelegate::AppDelegate(QQmlEngine& engine, const AppServices& services)
 AppDelegate::~AppDelegate() = default;
 
 void AppDelegate::didFinishLaunching() {
+  TaviFormulaUnit::installReader(readResource);
   ErrorManager::shared().setPresenter(messagesOverWindow());
   services_.remoteConfigManager.reload();
   services_.calcManager.runFirstStartStep();

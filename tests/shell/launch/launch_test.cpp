@@ -1,3 +1,4 @@
+#include "output/catalogues.h"
 #include "shell/launch/launch_fixture.h"
 
 namespace tavi {
@@ -11,6 +12,7 @@ TEST_F(LaunchTest, OpensTheInputPageWithTheSampleTaskInTheHistory) {
   EXPECT_FALSE(delegate->solutionViewController()->tabItem()->isEnabled());
   EXPECT_EQ(calcManager.calculations().size(), 1);
   EXPECT_EQ(delegate->appToolbarController()->toolbar()->rightViews().size(), 1);
+  EXPECT_FALSE(TaviFormulaUnit::shared().units.empty()) << "the engine finds the catalogues";
 }
 
 TEST_F(LaunchTest, ShowsNothingOverThePagesWhateverTheFirstRunFlagsSay) {
