@@ -8,6 +8,7 @@
 namespace tavi {
 namespace {
 
+constexpr qint64 readBuffer = 64 * 1024;
 constexpr int redirectLimit = 5;
 constexpr int statusOk = 200;
 constexpr int statusNotModified = 304;
@@ -17,6 +18,9 @@ class Exchange : public QObject {
  public:
   Exchange(QNetworkReply* reply, const HttpBounds& bounds, std::function<void(const HttpAnswer&)> completion)
       : QObject(reply), reply_(reply), bounds_(bounds), completion_(std::move(completion)) {
+    // Beyond this the network waits until something was taken: an answer without a length or end fills no
+    // memory.
+    reply->setReadBufferSize(readBuffer);
     connect(reply, &QNetworkReply::redirected, this, &Exchange::judgeRedirect);
     connect(reply, &QNetworkReply::readyRead, this, &Exchange::collect);
     connect(reply, &QNetworkReply::finished, this, &Exchange::finish);
@@ -32,7 +36,7 @@ class Exchange : public QObject {
   }
 
   void collect() {
-    answer_.body += reply_->readAll();
+    answer_.body += reply_->read(bounds_.bodyLimit + 1 - answer_.body.size());
     if (answer_.body.size() > bounds_.bodyLimit) abort(QStringLiteral("the answer is too long"));
   }
 

@@ -2,7 +2,10 @@
 
 #include <QDir>
 #include <QFile>
+#include <QThread>
 #include <QTimer>
+#include <atomic>
+#include <future>
 
 #include <gtest/gtest.h>
 
@@ -218,6 +221,52 @@ TEST_F(RemoteConfigServiceTest, ASlowServerIsGivenUp) {
     drip->start(10);
   });
   EXPECT_EQ(fetch(service).status, FetchStatus::failure) << "dripping";
+}
+
+TEST_F(RemoteConfigServiceTest, AnAnswerUpToTheLimitComesWhole) {
+  RemoteConfigService service(settings(), path());
+  const qsizetype frame = qstrlen(R"({"apps":""})");
+  const QByteArray text(settings().bodyLimit - frame, 'x');
+  const QByteArray body = R"({"apps":")" + text + R"("})";
+  for (const QByteArray& head :
+       {"Content-Length: " + QByteArray::number(body.size()) + "\r\n", QByteArray()}) {
+    server_.setHandler([&](const QByteArray&, QTcpSocket& socket) {
+      socket.write("HTTP/1.1 200 OK\r\n" + head + "\r\n" + body);
+      socket.disconnectFromHost();
+    });
+    EXPECT_EQ(fetch(service).status, FetchStatus::success);
+    activate(service);
+    EXPECT_EQ(service.dataValue("apps").size(), text.size());
+    serve("200 OK", "{}");
+    fetch(service);
+    activate(service);
+  }
+}
+
+TEST_F(RemoteConfigServiceTest, AnAnswerWithoutEndIsReadToTheLimitOnly) {
+  constexpr qint64 enough = 512LL * 1024 * 1024;
+  std::promise<quint16> port;
+  std::atomic<qint64> sent = 0;
+  // A server that is as fast as it can be, in a thread of its own.
+  const std::unique_ptr<QThread> thread(QThread::create([&] {
+    QTcpServer server;
+    server.listen(QHostAddress::LocalHost);
+    port.set_value(server.serverPort());
+    if (!server.waitForNewConnection(10'000)) return;
+    QTcpSocket* socket = server.nextPendingConnection();
+    socket->waitForReadyRead(10'000);
+    socket->write("HTTP/1.1 200 OK\r\n\r\n");
+    const QByteArray block(1024 * 1024, 'x');
+    while (sent < enough && socket->write(block) > 0 && socket->waitForBytesWritten(10'000))
+      sent += block.size();
+  }));
+  thread->start();
+  RemoteConfigSettings endless = settings();
+  endless.endpoint.setPort(port.get_future().get());
+  RemoteConfigService service(endless, path());
+  EXPECT_EQ(fetch(service).status, FetchStatus::failure);
+  thread->wait();
+  EXPECT_LT(sent, 32 * 1024 * 1024) << "the limit, and what the system holds on the way";
 }
 
 TEST_F(RemoteConfigServiceTest, NothingGoesOutWithoutASecureAddress) {
