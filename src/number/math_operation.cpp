@@ -74,14 +74,18 @@ std::vector<NaturalConstant> TaviMathOperation::commonConstantsRemoved(
   return rest;
 }
 
-RoundedValue TaviMathOperation::roundedIfNearlyExact(int places, double value) {
+double TaviMathOperation::rounded(int places, double value) {
   const double factor = std::pow(10.0, places);
-  const double rounded = std::round(value * factor) / factor;
+  return std::round(value * factor) / factor;
+}
+
+RoundedValue TaviMathOperation::roundedIfNearlyExact(int places, double value) {
+  const double roundedValue = rounded(places, value);
   const std::string text = doubleText(value);
   std::string_view tail = lastPiece(text, '.');
   tail.remove_prefix(std::min(tail.size(), static_cast<std::size_t>(places)));
-  const bool isExact = rounded == value || tail.starts_with("0000") || tail.starts_with("9999");
-  return {rounded, !isExact};
+  const bool isExact = roundedValue == value || tail.starts_with("0000") || tail.starts_with("9999");
+  return {roundedValue, !isExact};
 }
 
 std::shared_ptr<Digit> TaviMathOperation::raised(const Digit& digit, double exponent) {

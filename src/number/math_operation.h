@@ -42,8 +42,11 @@ class TaviMathOperation {
   static std::vector<NaturalConstant> commonConstantsRemoved(std::span<const NaturalConstant> constants,
                                                              std::span<const NaturalConstant> common);
 
-  /// `value` rounded to `places` (not negative) decimal places, halves away from zero. A run of four zeros or
-  /// nines directly behind the kept places counts as noise and the value as exact.
+  /// `value` rounded to `places` (not negative) decimal places, halves away from zero.
+  static double rounded(int places, double value);
+
+  /// The same, telling whether it lost anything. A run of four zeros or nines directly behind the kept places
+  /// counts as noise and the value as exact.
   static RoundedValue roundedIfNearlyExact(int places, double value);
 
   /// Numerator and denominator raised to `exponent`; constants and variables are taken over as they are. `z`
