@@ -22,6 +22,7 @@ int solveCommand(Arguments arguments);
 int displayLatexCommand(Arguments arguments);
 int typesetCommand(Arguments arguments);
 int renderCommand(Arguments arguments);
+int chartCommand(Arguments arguments);
 
 /// The mode of that name, "power" or "root".
 std::optional<Mode> readMode(std::string_view name);

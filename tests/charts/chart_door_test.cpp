@@ -1,0 +1,114 @@
+// What tavi-cli chart answers to other programs. An example is a file of a request beside one of its answer.
+#include <algorithm>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <vector>
+
+#include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
+
+#include <QtCore/QProcess>
+
+namespace tavi {
+namespace {
+
+using nlohmann::json;
+
+std::vector<json> answers(const std::string& lines) {
+  QProcess process;
+  process.start(QStringLiteral(TAVI_CLI), {"chart", "--json-lines"});
+  process.write(lines.data(), static_cast<qsizetype>(lines.size()));
+  process.closeWriteChannel();
+  process.waitForFinished();
+  EXPECT_EQ(process.exitCode(), 0);
+  std::vector<json> read;
+  for (const QByteArray& line : process.readAllStandardOutput().split('\n')) {
+    if (!line.isEmpty()) read.push_back(json::parse(line.toStdString()));
+  }
+  return read;
+}
+
+// Alike but for the last digits of numbers, where the libraries of mathematics differ.
+bool areAlike(const json& first, const json& second) {
+  if (first.is_number() && second.is_number()) {
+    const auto number = first.get<double>();
+    return std::abs(number - second.get<double>()) <= 1e-9 * std::max(1.0, std::abs(number));
+  }
+  if (!first.is_structured() || first.type() != second.type()) return first == second;
+  const auto left = first.items();
+  const auto right = second.items();
+  return std::equal(left.begin(), left.end(), right.begin(), right.end(), [](const auto& a, const auto& b) {
+    return a.key() == b.key() && areAlike(a.value(), b.value());
+  });
+}
+
+TEST(ChartDoor, AnswersTheExamples) {
+  constexpr std::string_view answerEnding = ".expected.json";
+  std::vector<std::filesystem::path> files;
+  for (const auto& entry : std::filesystem::directory_iterator(TAVI_CHART_EXAMPLES)) {
+    if (!entry.path().string().ends_with(answerEnding)) files.push_back(entry.path());
+  }
+  ASSERT_GE(files.size(), 13U);
+  std::string lines;
+  for (const auto& file : files) lines += json::parse(std::ifstream(file)).dump() + '\n';
+  const std::vector<json> read = answers(lines);
+  ASSERT_EQ(read.size(), files.size());
+  for (std::size_t index = 0; index < files.size(); ++index) {
+    std::filesystem::path answer = files[index];
+    const json expected = json::parse(std::ifstream(answer.replace_extension(answerEnding)));
+    EXPECT_TRUE(areAlike(read[index], expected)) << files[index] << '\n' << read[index];
+  }
+}
+
+TEST(ChartDoor, GoesOnBehindLinesThatAreNoRequests) {
+  const std::string line = R"({"id":0,"width":1,"charts":[]})";
+  const std::string deep = R"({"id":)" + std::string(100000, '[') + std::string(100000, ']') + '}';
+  const auto chart = [](const std::string& fields) {
+    return R"({"id":0,"width":1,"charts":[{"frameRatio":1,)" + fields + "}]}";
+  };
+  const std::string wrong[] = {
+      "",
+      "{",
+      "[]",
+      "\xff",
+      deep,
+      R"({"id":0,"charts":[]})",
+      R"({"id":0,"width":true,"charts":[]})",
+      R"({"id":0,"width":1e999,"charts":[]})",
+      R"({"id":0,"width":1,"charts":{}})",
+      R"({"id":0,"width":1,"charts":[[]]})",
+      chart(R"("kind":"PieChartData")"),
+      chart(R"("kind":"LineChartData")"),
+      chart(R"("kind":"TrigonometricChartData","offset":0,"periodLength":1,"amplitude":1,"type":"cot")"),
+      chart(R"("kind":"UnitCircleChartData","quadrant":"V")"),
+      chart(R"("kind":"UnitCircleChartData","fullCircles":1.5)"),
+      chart(R"("kind":"UnitCircleChartData","fullCircles":9223372036854775808)"),
+      chart(R"("kind":"HistogramChartData","chartTitle":"","dataName":"","xAxisName":"",)"
+            R"("dataSetWithColorTheme":[{"hexColor":"","dataValues":[[0,"1"]]}])"),
+  };
+  for (const std::string& text : wrong) {
+    const std::vector<json> read = answers(text + '\n' + line + '\n');
+    ASSERT_EQ(read.size(), 2U) << text;
+    EXPECT_EQ(read[0].value("id", json(0)), nullptr) << text;
+    EXPECT_TRUE(read[0].contains("error")) << text;
+    EXPECT_EQ(read[1], json::parse(R"({"id":0,"frame":null,"view":null})"));
+  }
+}
+
+TEST(ChartDoor, TellsAFatalStopAndGoesOn) {
+  const std::vector<json> read = answers(
+      R"({"id":{"a":[1]},"width":1,"charts":[{"kind":"BernoulliDistributionTreeChartData","frameRatio":1,)"
+      R"("chartTitle":"","chartColorHexCode":"","probabilityOfSuccess":0.5,"hits":1,"trials":21}]})"
+      "\n"
+      R"({"width":100,"charts":[{"kind":"ChartData","frameRatio":2}]})"
+      "\n");
+  ASSERT_EQ(read.size(), 2U);
+  EXPECT_EQ(read[0]["id"], json::parse(R"({"a":[1]})"));
+  EXPECT_TRUE(read[0].contains("fatal"));
+  EXPECT_EQ(read[1], json::parse(R"({"id":null,"frame":[5,2.5,90,45],"view":null})"));
+}
+
+}  // namespace
+}  // namespace tavi
