@@ -2,18 +2,17 @@
 
 #include <QDebug>
 #include <QJsonObject>
-#include <array>
+#include <algorithm>
 
 #include "number/fatal_stop.h"
 #include "platform/property_list.h"
+#include "remote/content_language.h"
 
 namespace tavi {
 namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr std::array linkLanguages{"de"_L1, "zh"_L1, "ja"_L1, "en"_L1, "es"_L1, "ko"_L1,
-                                   "pt"_L1, "ru"_L1, "fr"_L1, "id"_L1, "hi"_L1};
 constexpr QLatin1StringView english = "en"_L1;
 
 QString key(VideoTopic topic) {
@@ -22,11 +21,6 @@ QString key(VideoTopic topic) {
       return QStringLiteral("QRX");
   }
   fatalStop("a video topic without a key");
-}
-
-QString linkLanguage(const std::optional<QString>& languageCode) {
-  const bool isKnown = languageCode && std::ranges::find(linkLanguages, *languageCode) != linkLanguages.end();
-  return isKnown ? *languageCode : QString(english);
 }
 
 void print(const QString& line) {
@@ -143,7 +137,7 @@ const std::optional<AppMetaData>& RemoteConfigManager::currentApp() {
 QStringList RemoteConfigManager::videoLinks(VideoTopic topic) const {
   if (!videoTutorials_) return {};
   const QMap<QString, QStringList> byLanguage = videoTutorials_->value(key(topic));
-  const QString language = linkLanguage(context_().languageCode);
+  const QString language = contentLanguage(context_().languageCode);
   QStringList links = byLanguage.value(language);
   if (language != english) links += byLanguage.value(english);
   return links;
