@@ -295,6 +295,14 @@
         <source>calculationOutOfRange</source>
         <translation>Diese Zahlen sind mir zu groß oder zu genau. Bitte nimm kleinere oder kürzere.</translation>
     </message>
+    <message id="Kind of task">
+        <source>Kind of task</source>
+        <translation>Art der Aufgabe</translation>
+    </message>
+    <message id="Invalid entry">
+        <source>Invalid entry</source>
+        <translation>Ungültige Eingabe</translation>
+    </message>
     <message id="Base">
         <source>Base</source>
         <translation>Basis</translation>

@@ -295,6 +295,14 @@
         <source>calculationOutOfRange</source>
         <translation>These numbers are too large or too exact for me. Please use smaller or shorter ones.</translation>
     </message>
+    <message id="Kind of task">
+        <source>Kind of task</source>
+        <translation>Kind of task</translation>
+    </message>
+    <message id="Invalid entry">
+        <source>Invalid entry</source>
+        <translation>Invalid entry</translation>
+    </message>
     <message id="Base">
         <source>Base</source>
         <translation>Base</translation>

@@ -24,11 +24,11 @@ DTTextFieldItem {
 
     Text {
         x: field.isLabelOut ? 2 : input.x
-        y: field.isLabelOut ? field.style.labelOffset : (field.height - height) / 2
+        y: field.isLabelOut ? Math.min(field.style.labelOffset, 1 - height) : (field.height - height) / 2
         width: parent.width - 2 * x
         text: field.label
         font.family: field.isLabelOut ? field.style.labelFont.family : Theme.book(16).family
-        font.pixelSize: field.isLabelOut ? field.style.labelFont.pixelSize : 16
+        font.pixelSize: field.isLabelOut ? Math.max(12, field.style.labelFont.pixelSize) : 16
         color: field.isLabelOut ? field.style.labelColor : Theme.label
         opacity: field.isLabelOut ? 1 : 0.65
         elide: Text.ElideRight
@@ -54,6 +54,7 @@ DTTextFieldItem {
         }
         Accessible.role: Accessible.EditableText
         Accessible.name: field.label
+        Accessible.description: field.fault === "" ? "" : qsTrId("Invalid entry") + ": " + field.fault
         Keys.forwardTo: field // Before this input takes a Backspace without deleting anything.
 
         // Field and input tell each other their changes, one at a time.

@@ -6,6 +6,7 @@ import Tavi
 Rectangle {
     id: control
 
+    property string name
     property int selectedSegmentIndex: 0
     property var segments: [] // of { name, picture }
 
@@ -18,46 +19,48 @@ Rectangle {
     radius: 8
     color: Theme.background
     Accessible.role: Accessible.Grouping
+    Accessible.name: name
 
-    Row {
-        anchors.fill: parent
+    Repeater {
+        model: control.segments
 
-        Repeater {
-            model: control.segments
+        T.AbstractButton {
+            id: segment
 
-            T.AbstractButton {
-                id: segment
+            required property int index
+            required property var modelData
+            readonly property bool isChosen: index === control.selectedSegmentIndex
+            property int accessibleRole: Accessible.RadioButton // As `Accessible.role` gets lost in the template.
 
-                required property int index
-                required property var modelData
-                readonly property bool isChosen: index === control.selectedSegmentIndex
+            objectName: "segment" + index
+            x: index * width
+            width: control.width / control.segments.length
+            height: control.height
+            focusPolicy: Qt.TabFocus
+            hoverEnabled: true
+            text: modelData.name
+            Accessible.role: accessibleRole
+            Accessible.name: text
+            Accessible.checkable: true
+            Accessible.checked: isChosen
+            Keys.onReturnPressed: segment.clicked()
+            Keys.onEnterPressed: segment.clicked()
+            onClicked: if (!isChosen)
+                control.valueChanged(index)
+            background: Rectangle {
+                radius: control.radius
+                color: segment.isChosen ? Theme.strongYellow : segment.down ? Theme.groupedBackground : "transparent"
+            }
+            contentItem: Loader {
+                property color color: segment.isChosen ? Theme.darkTitle : Theme.label
 
-                objectName: "segment" + index
-                width: control.width / control.segments.length
-                height: control.height
-                focusPolicy: Qt.TabFocus
-                hoverEnabled: true
-                text: modelData.name
-                Accessible.role: Accessible.RadioButton
-                Accessible.name: text
-                Accessible.checked: isChosen
-                onClicked: if (!isChosen)
-                    control.valueChanged(index)
-                background: Rectangle {
-                    radius: control.radius
-                    color: segment.isChosen ? Theme.strongYellow : segment.down ? Theme.groupedBackground : "transparent"
-                }
-                contentItem: Loader {
-                    property color color: segment.isChosen ? Theme.darkTitle : Theme.label
+                sourceComponent: segment.modelData.picture
+            }
 
-                    sourceComponent: segment.modelData.picture
-                }
-
-                FocusRing {
-                    control: segment
-                    ground: segment.isChosen ? Theme.strongYellow : Theme.background
-                    radius: 8
-                }
+            FocusRing {
+                control: segment
+                ground: segment.isChosen ? Theme.strongYellow : Theme.background
+                radius: 8
             }
         }
     }

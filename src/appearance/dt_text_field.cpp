@@ -23,6 +23,7 @@ void DTTextField::setText(const QString& text) {
   if (text == text_) return;
   text_ = text;
   if (selection_) selection_ = TextRange{text.size(), text.size()};
+  setFault({});
   emit textChanged();
   if (selection_) emit selectionChanged();
 }
@@ -53,6 +54,12 @@ void DTTextField::setBorderColor(const QColor& color) {
   if (color == borderColor_) return;
   borderColor_ = color;
   emit appearanceChanged();
+}
+
+void DTTextField::setFault(const QString& words) {
+  if (words == fault_) return;
+  fault_ = words;
+  emit faultChanged();
 }
 
 QColor DTTextField::backgroundColor() const {

@@ -49,6 +49,7 @@ class DTTextField : public QQuickItem {
   Q_PROPERTY(int selectionEnd READ selectionEnd NOTIFY selectionChanged)
   Q_PROPERTY(bool isHidden READ isHidden WRITE setHidden NOTIFY isHiddenChanged)
   Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor NOTIFY appearanceChanged)
+  Q_PROPERTY(QString fault READ fault WRITE setFault NOTIFY faultChanged)
   Q_PROPERTY(tavi::FieldStyle style READ style WRITE setStyle NOTIFY appearanceChanged)
 
  public:
@@ -56,7 +57,7 @@ class DTTextField : public QQuickItem {
 
   QString text() const { return text_; }
 
-  /// A changed text has the caret behind it.
+  /// A changed text has the caret behind it and is no longer at fault.
   void setText(const QString& text);
 
   /// Absent until the user has first begun to edit here.
@@ -82,6 +83,10 @@ class DTTextField : public QQuickItem {
   QColor borderColor() const { return borderColor_; }
   void setBorderColor(const QColor& color);
 
+  /// What is wrong with the text, in words; empty when nothing is.
+  QString fault() const { return fault_; }
+  void setFault(const QString& words);
+
   /// The background lies in the attached view, where styling writes it as well.
   QColor backgroundColor() const;
   void setBackgroundColor(const QColor& color);
@@ -97,6 +102,7 @@ class DTTextField : public QQuickItem {
   void selectionChanged();
   void isHiddenChanged();
   void appearanceChanged();
+  void faultChanged();
 
   /// The user is about to edit here.
   void shouldBeginEditing(tavi::DTTextField* field);
@@ -113,6 +119,7 @@ class DTTextField : public QQuickItem {
   std::optional<TextRange> selection_;
   bool isHidden_ = false;
   QColor borderColor_;
+  QString fault_;
   FieldStyle style_;
 };
 

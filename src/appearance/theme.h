@@ -32,6 +32,8 @@ class Theme : public QObject {
   Q_PROPERTY(QColor pink READ pink CONSTANT)
   Q_PROPERTY(QColor darkMagenta READ darkMagenta CONSTANT)
   Q_PROPERTY(int tabletWidth READ tabletWidth CONSTANT)
+  Q_PROPERTY(int lowHeight READ lowHeight CONSTANT)
+  Q_PROPERTY(int lowBarHeight READ lowBarHeight CONSTANT)
   Q_PROPERTY(int touchTarget READ touchTarget CONSTANT)
 
  public:
@@ -57,7 +59,10 @@ class Theme : public QObject {
 
   /// Windows from this width on are laid out as a tablet's.
   int tabletWidth() const { return 840; }
-  /// Smallest side of what a finger taps.
+  /// Windows below this height go without the status strip and have bars of the height below.
+  int lowHeight() const { return 560; }
+  int lowBarHeight() const { return 40; }
+  /// Smallest side of what a finger taps, but in a low window.
   int touchTarget() const { return 48; }
 
   /// The text's colour, changed as little as it takes to be read on the ground.

@@ -30,6 +30,24 @@ constexpr std::array numberedKeys{
     NumberedKey{TaviError::mustBeLessThanX, 1},
 };
 
+QStringList pieces(const QString& key) {
+  return key.split(u'§', Qt::SkipEmptyParts);
+}
+
+// Empty for a key with the wrong count of numbers.
+QString errorWords(const QString& key) {
+  const QStringList parts = pieces(key);
+  if (parts.isEmpty()) return {};
+  QString words = localized(qUtf8Printable(parts.front()));
+  const auto* const numbered =
+      std::find_if(numberedKeys.begin(), numberedKeys.end(),
+                   [&](const NumberedKey& row) { return text(row.key) == parts.front(); });
+  if (numbered == numberedKeys.end()) return words;
+  if (parts.size() != 1 + numbered->numbers) return {};
+  for (qsizetype i = 0; i < numbered->numbers; ++i) words.replace(u'%' + QString::number(i), parts[i + 1]);
+  return words;
+}
+
 }  // namespace
 
 ErrorManager& ErrorManager::shared() {
@@ -66,26 +84,19 @@ void ErrorManager::reportInputError(const QString& key, const QList<DTTextField*
   qInfo().noquote() << (isMissing ? QString("INPUT: NOT ENOUGH INPUT VALUES") : "INPUT ERROR: " + key);
   for (DTTextField* field : fields) {
     field->setBorderColor(isMissing ? InterfaceColor::orange() : InterfaceColor::red());
+    field->setFault(errorWords(key));
   }
   showErrorMessage(key);
 }
 
 void ErrorManager::showErrorMessage(const QString& key) const {
-  const QStringList pieces = key.split(u'§', Qt::SkipEmptyParts);
-  if (pieces.isEmpty()) return;
-  QString words = localized(qUtf8Printable(pieces.front()));
-  if (pieces.front() == text(TaviError::oppositionError)) {
+  const QString words = errorWords(key);
+  if (words.isEmpty()) return;
+  if (pieces(key).front() == text(TaviError::oppositionError)) {
     presenter_.presentAlert(QString::fromStdString(LocalizedString::error.text()), words);
-    return;
+  } else {
+    presenter_.showToast(words);
   }
-  const auto* const numbered =
-      std::find_if(numberedKeys.begin(), numberedKeys.end(),
-                   [&](const NumberedKey& row) { return text(row.key) == pieces.front(); });
-  if (numbered != numberedKeys.end()) {
-    if (pieces.size() != 1 + numbered->numbers) return;
-    for (qsizetype i = 0; i < numbered->numbers; ++i) words.replace(u'%' + QString::number(i), pieces[i + 1]);
-  }
-  presenter_.showToast(words);
 }
 
 }  // namespace tavi

@@ -26,8 +26,8 @@ class ErrorManager {
   /// Fields of a hidden holder neither count nor change.
   void refreshFields();
 
-  /// Logs the key, then marks the fields (orange for a missing value, red for a wrong one), then shows the
-  /// words.
+  /// Logs the key, then marks the fields (orange for a missing value, red for a wrong one; the words are
+  /// their fault), then shows the words.
   void reportInputError(const QString& key, const QList<DTTextField*>& fields);
 
   /// Shows the words of a key, which may carry numbers behind it: mustBeLessThanX§5. A key with the wrong

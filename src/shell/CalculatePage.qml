@@ -1,35 +1,47 @@
 import QtQuick
 import Tavi
 
-// The fields as the formula itself, over the keypad; in a wide window they stand side by side. The keypad is
-// always seen whole; what stands by it scrolls where the window is too small.
+// The fields as the formula itself, over the keypad; in a wide window they stand side by side. What stands by the
+// keypad comes down to its least height first, then the keys do; only then the page scrolls.
 FocusScope {
     id: page
 
     required property CalculateViewController controller
 
+    readonly property bool isWide: width >= Theme.tabletWidth || (width > height && width >= leastWideWidth)
+    readonly property int leastWideWidth: 540
+
     readonly property int margin: 16
     readonly property int columnWidth: 480
-    readonly property bool isWide: width > height || width >= Theme.tabletWidth
-    readonly property real visibleHeight: height - controller.bottomBannerInset
+    readonly property int leastColumnHeight: 160
+    readonly property int mostColumnHeight: 232
+
+    // All of it, and the part of that which the column by the keypad has.
+    readonly property real room: Math.max(height - controller.bottomBannerInset, keypad.leastHeight + 8 + (isWide ? 0 : leastColumnHeight))
+    readonly property real columnRoom: isWide ? keypad.height : keypad.y
+
+    // From 0, where the column is as low as it can be, to 1.
+    readonly property real ease: Math.max(0, Math.min(1, (columnRoom - leastColumnHeight) / (mostColumnHeight - leastColumnHeight)))
+
+    readonly property real columnGap: Math.max(margin, Math.min(64, width - 2 * margin - 2 * columnWidth))
+    readonly property real column: Math.floor(Math.min(columnWidth, isWide ? (width - 2 * margin - columnGap) / 2 : width - 2 * margin))
+    readonly property real columnX: Math.floor((width - column - (isWide ? columnGap + column : 0)) / 2)
+
+    function between(least, most) {
+        return Math.round(least + ease * (most - least));
+    }
 
     View.kind: View.Plain
 
     Component.onCompleted: {
         controller.segmentedControl = modeSwitch;
-        controller.modeAView = powerFields;
-        controller.modeBView = rootFields;
-        controller.aTextField = [exponentField, indexField];
-        controller.xTextField = [baseField, radicandField];
+        controller.modeAView = fields.powerFields;
+        controller.modeBView = fields.rootFields;
+        controller.aTextField = [fields.exponentField, fields.indexField];
+        controller.xTextField = [fields.baseField, fields.radicandField];
     }
     Keys.onReturnPressed: controller.tappedCalculateButton()
     Keys.onEnterPressed: controller.tappedCalculateButton()
-
-    component KeypadField: DTTextField {
-        Keys.onPressed: event => event.accepted = page.controller.pressedHardwareKey(event.key, event.modifiers, event.text)
-        onActiveFocusChanged: if (activeFocus)
-            task.show(this)
-    }
 
     Rectangle {
         anchors.fill: parent
@@ -37,233 +49,100 @@ FocusScope {
     }
 
     Flickable {
-        id: task
+        id: flickable
 
-        readonly property real columnX: (width - column) / 2
-        readonly property real column: Math.min(width - 2 * page.margin, page.columnWidth)
-        readonly property real smallestHeight: fillInLabel.height + modeSwitch.height + fields.height + 72
+        objectName: "flickable"
+        readonly property real reach: Math.max(0, contentHeight - height)
 
-        property Item current
-
-        // Where not all of it can be seen, the fields come first, and of them the one that is typed into.
-        function showFields() {
-            contentY = contentHeight - height;
-            if (current)
-                show(current);
+        function show(item) {
+            const top = item.mapToItem(contentItem, 0, 0).y;
+            contentY = Math.max(0, Math.min(reach, top - page.margin, Math.max(contentY, top + item.height + page.margin - height)));
         }
 
-        function show(field) {
-            current = field;
-            const top = field.mapToItem(contentItem, 0, 0).y;
-            contentY = Math.max(0, Math.min(Math.max(contentY, top + field.height + page.margin - height), top - page.margin));
-        }
-
-        width: page.isWide ? keypad.x : page.width
-        height: page.isWide ? page.visibleHeight : keypad.y - page.margin
+        anchors.fill: parent
+        anchors.bottomMargin: page.controller.bottomBannerInset
         contentWidth: width
-        contentHeight: Math.max(height, smallestHeight)
+        contentHeight: page.room
         boundsBehavior: Flickable.StopAtBounds
-        interactive: contentHeight > height
-        clip: interactive
-        onContentHeightChanged: showFields()
-        onHeightChanged: showFields()
+        interactive: reach > 0
+        onReachChanged: contentY = Math.min(contentY, reach)
 
         Text {
             id: fillInLabel
 
+            objectName: "fillInLabel"
             View.kind: View.Label
 
-            x: task.columnX
-            y: page.isWide ? Math.max(0, Math.min(keypad.y, task.height - task.smallestHeight) - 8) : 8
-            width: task.column - manualButton.width
-            height: Theme.touchTarget
+            x: page.columnX
+            y: page.isWide ? keypad.y : page.between(2, 8)
+            width: page.column
+            height: page.between(20, 24)
             text: page.controller.fillInText
             font: Theme.book(16)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 12
             color: Theme.label
             verticalAlignment: Text.AlignVCenter
-            wrapMode: Text.WordWrap
+            elide: Text.ElideRight
+        }
+
+        ModeSwitch {
+            id: modeSwitch
+
+            objectName: "modeSwitch"
+            x: page.columnX
+            y: fillInLabel.y + fillInLabel.height + page.between(2, 8)
+            width: page.column - manualButton.width
+            height: page.between(40, 48)
+            onValueChanged: index => page.controller.segmentedControlValueChanged(index)
         }
 
         IconButton {
             id: manualButton
 
             objectName: "manualButton"
-            x: task.columnX + task.column - width
-            y: fillInLabel.y
+            anchors.left: modeSwitch.right
+            anchors.leftMargin: 12 // its icon ends where the column does
+            anchors.verticalCenter: modeSwitch.verticalCenter
+            height: modeSwitch.height
             text: qsTrId("manualButton")
             iconText: Icons.manual
             onClicked: page.controller.tappedManualButton()
         }
 
-        SegmentedControl {
-            id: modeSwitch
-
-            objectName: "modeSwitch"
-            x: task.columnX
-            y: fillInLabel.y + fillInLabel.height + 8
-            width: task.column
-            segments: [{
-                    "name": qsTrId("Power"),
-                    "picture": powerPicture
-                }, {
-                    "name": qsTrId("Root"),
-                    "picture": rootPicture
-                }]
-            onValueChanged: index => page.controller.segmentedControlValueChanged(index)
-        }
-
-        // The two formulas lie on top of each other, in the middle of what is left.
-        Item {
+        TaskFields {
             id: fields
 
-            readonly property real upperEdge: modeSwitch.y + modeSwitch.height + 32
-            readonly property real lowerEdge: page.isWide ? keypad.y + keypad.height : task.height
+            readonly property real upperEdge: modeSwitch.y + modeSwitch.height + page.between(14, 24)
+            readonly property real lowerEdge: page.isWide ? keypad.y + keypad.height : keypad.y - page.between(6, 16)
 
-            x: task.columnX
-            y: Math.max(upperEdge, (upperEdge + lowerEdge - height) / 2)
-            width: task.column
-            height: 112
-
-            Item {
-                id: powerFields
-
-                View.kind: View.Plain
-
-                objectName: "modeAView"
-                anchors.fill: parent
-
-                KeypadField {
-                    id: baseField
-
-                    objectName: "baseField"
-                    y: 40
-                    width: parent.width - exponentField.width - 8
-                    height: 64
-                    label: qsTrId("Base")
-                }
-                KeypadField {
-                    id: exponentField
-
-                    objectName: "exponentField"
-                    x: parent.width - width
-                    width: Math.min(160, parent.width * 0.36)
-                    height: 52
-                    label: qsTrId("Exponent")
-                }
-            }
-
-            Item {
-                id: rootFields
-
-                View.kind: View.Plain
-
-                objectName: "modeBView"
-                anchors.fill: parent
-                visible: false
-
-                Radical {
-                    x: indexField.width * 0.6
-                    y: 16
-                    width: parent.width - x
-                    height: parent.height - y
-                    hookWidth: indexField.width - x + 32
-                    hookHeight: 40
-                    lineWidth: 2
-                    color: Theme.label
-                }
-                KeypadField {
-                    id: indexField
-
-                    objectName: "indexField"
-                    width: Math.min(120, parent.width * 0.28)
-                    height: 52
-                    label: qsTrId("Root index")
-                }
-                KeypadField {
-                    id: radicandField
-
-                    objectName: "radicandField"
-                    x: indexField.width + 40
-                    y: 40
-                    width: parent.width - x
-                    height: 64
-                    label: qsTrId("Radicand")
-                }
-            }
+            controller: page.controller
+            x: page.columnX
+            y: Math.floor((upperEdge + lowerEdge - height) / 2)
+            width: page.column
+            height: page.between(76, 104)
+            onFocused: field => flickable.show(field)
         }
-    }
 
-    Keypad {
-        id: keypad
+        Keypad {
+            id: keypad
 
-        // Keys are at least 56 high; only a window too low for that makes do with the size of a touch target.
-        readonly property real room: (page.isWide ? page.visibleHeight : page.visibleHeight - task.smallestHeight) - 2 * page.margin - (rows - 1) * gap
-        readonly property real roomBelow: page.visibleHeight - height
+            readonly property int leastKeyHeight: 40
+            readonly property int usualKeyHeight: 56
+            readonly property real leastHeight: rows * (leastKeyHeight + gap) - gap
+            readonly property real edge: Math.round(Math.max(4, Math.min(page.margin, (page.room - (page.isWide ? 200 : 360)) / 10)))
 
-        controller: page.controller
-        x: page.isWide ? page.width - width - page.margin : (page.width - width) / 2
-        y: page.isWide ? roomBelow / 2 : roomBelow - Math.min(page.margin, roomBelow / 2)
-        width: Math.min(page.columnWidth, page.isWide ? (page.width - 3 * page.margin) / 2 : page.width - 2 * page.margin)
-        height: implicitHeight
-        keyHeight: Math.max(Theme.touchTarget, Math.min(page.isWide ? 72 : 64, room / rows))
-    }
-
-    Component {
-        id: powerPicture
-
-        Item {
-            Text {
-                id: powerBase
-
-                anchors.centerIn: parent
-                anchors.horizontalCenterOffset: -5
-                text: "x"
-                font: Theme.medium(26)
-                color: parent.parent.color
+            // How high its keys are where the rest of the page takes so much.
+            function keyHeightBeside(rest) {
+                return Math.floor((page.room - rest - rows * gap + gap) / rows);
             }
-            Text {
-                anchors.left: powerBase.right
-                anchors.bottom: powerBase.verticalCenter
-                anchors.leftMargin: 1
-                text: "n"
-                font: Theme.medium(16)
-                color: powerBase.color
-            }
-        }
-    }
 
-    Component {
-        id: rootPicture
-
-        Item {
-            Radical {
-                id: sign
-
-                anchors.centerIn: parent
-                width: 36
-                height: 30
-                hookWidth: 14
-                hookHeight: 12
-                lineWidth: 1.5
-                color: parent.parent.color
-            }
-            Text {
-                anchors.right: sign.left
-                anchors.rightMargin: -7
-                y: sign.y - 4
-                text: "n"
-                font: Theme.medium(14)
-                color: sign.color
-            }
-            Text {
-                anchors.right: sign.right
-                anchors.rightMargin: 3
-                anchors.baseline: sign.bottom
-                anchors.baselineOffset: -3
-                text: "x"
-                font: Theme.medium(24)
-                color: sign.color
-            }
+            controller: page.controller
+            x: page.isWide ? page.columnX + page.column + page.columnGap : page.columnX
+            y: page.isWide ? Math.floor((page.room - height) / 2) : page.room - edge - height
+            width: page.column
+            height: implicitHeight
+            keyHeight: page.isWide ? Math.max(leastKeyHeight, Math.min(72, keyHeightBeside(2 * edge))) : Math.max(leastKeyHeight, Math.min(usualKeyHeight, keyHeightBeside(edge + page.leastColumnHeight)), Math.min(64, keyHeightBeside(edge + page.mostColumnHeight + 96)))
         }
     }
 }

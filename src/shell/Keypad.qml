@@ -1,7 +1,8 @@
 import QtQuick
 import Tavi
 
-// The keys of the calculate page, four in a row. A key takes no focus, so that the field keeps its caret.
+// The keys of the calculate page, four in a row. No key takes the focus from
+// the field when it is tapped.
 Item {
     id: keypad
 
@@ -111,7 +112,7 @@ Item {
             text: modelData.glyph ?? modelData.title ?? modelData.name
             iconText: Icons[keypad.controller[modelData.icon]] ?? ""
             enabled: modelData.title !== "-" || keypad.controller.isMinusKeyEnabled
-            focusPolicy: Qt.NoFocus
+            focusPolicy: modelData.tag === keypad.calculateTag ? Qt.TabFocus : Qt.NoFocus
             autoRepeat: modelData.repeats ?? false
             Accessible.name: modelData.name ?? text
             onClicked: modelData.action ? modelData.action() : keypad.controller.tappedKeypadButton(modelData.title)

@@ -26,10 +26,7 @@ QString qString(std::string_view text) {
 
 bool CalculateViewController::performCalculation() {
   isCalculating = true;
-  for (const auto& field : errorManager_.allFields) {
-    if (field) field->setBorderColor(InterfaceColor::fieldNeutral());
-  }
-
+  wipeMarks();
   std::vector<std::string> texts;
   for (const std::string& identifier : allIds) texts.push_back(visibleText(identifier));
   const std::string& firstText = elementAt(texts, 0);

@@ -230,6 +230,9 @@ bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const Q
     case Qt::Key_Backspace:
       tappedDeleteButton();
       return true;
+    case Qt::Key_Delete:
+      deleteForward();
+      return true;
     case Qt::Key_Return:
     case Qt::Key_Enter:
       tappedCalculateButton();
@@ -279,12 +282,23 @@ void CalculateViewController::insertKeypadValue(const QString& title) {
 
 void CalculateViewController::deleteBackward() {
   if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
-  if (currentTextField->text().isEmpty()) return;
   TextRange selection = *currentTextField->selectedTextRange();
   if (selection.end == 0) return;
   if (selection.start == selection.end) --selection.start;
-  setText(without(currentTextField->text(), selection));
-  currentTextField->setSelectedTextRange({selection.start, selection.start});
+  deleteRange(selection);
+}
+
+void CalculateViewController::deleteForward() {
+  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  TextRange selection = *currentTextField->selectedTextRange();
+  if (selection.start == currentTextField->text().size()) return;
+  if (selection.start == selection.end) ++selection.end;
+  deleteRange(selection);
+}
+
+void CalculateViewController::deleteRange(TextRange range) {
+  setText(without(currentTextField->text(), range));
+  currentTextField->setSelectedTextRange({range.start, range.start});
   errorManager_.refreshFields();
 }
 
@@ -296,11 +310,18 @@ void CalculateViewController::setText(const QString& text) {
   }
 }
 
+// What is left of an earlier failed attempt.
+void CalculateViewController::wipeMarks() {
+  for (const auto& field : errorManager_.allFields) {
+    if (!field) continue;
+    field->setBorderColor(InterfaceColor::fieldNeutral());
+    field->setFault({});
+  }
+}
+
 void CalculateViewController::clearAll() {
   Analytics::logEvent(events::tappedClear);
-  for (const auto& field : errorManager_.allFields) {
-    if (field) field->setBorderColor(InterfaceColor::fieldNeutral());
-  }
+  wipeMarks();
   if (isCalculating) return;
 
   auto* tabs = ancestor<AppPageTabBarController>();

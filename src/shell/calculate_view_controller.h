@@ -76,6 +76,9 @@ class CalculateViewController : public AdHandlingViewController {
   /// Deletes what is selected, or the character before the caret.
   void deleteBackward();
 
+  /// Deletes what is selected, or the character behind the caret.
+  void deleteForward();
+
   /// Empties fields and solution, forgets snapshot and picked record, and opens this page.
   void clearAll();
 
@@ -131,6 +134,8 @@ class CalculateViewController : public AdHandlingViewController {
   void refillFields();
   void fillFrom(const Calculation& calculation);
   void buildToolbar();
+  void wipeMarks();
+  void deleteRange(TextRange range);
   void setText(const QString& text);
   void moveEditingToVisibleTwin();
   bool textFieldShouldBeginEditing(DTTextField* field);

@@ -92,6 +92,9 @@ TEST_F(ErrorManagerTest, AReportIsLoggedThenColouredThenShown) {
   Analytics::setSink({});
   EXPECT_EQ(order, QStringList({"tavi_got_error fractionIncomplete", "coloured", "shown"}));
   EXPECT_EQ(fields_[0]->borderColor(), InterfaceColor::red());
+  EXPECT_EQ(fields_[0]->fault(), "fractionIncomplete");
+  fields_[0]->setText("1/2");
+  EXPECT_EQ(fields_[0]->fault(), "");
 
   manager_.reportInputError("notEnoughInputValues", {fields_[2].get()});
   EXPECT_EQ(fields_[2]->borderColor(), InterfaceColor::orange());

@@ -1,5 +1,6 @@
 #include "shell/calculate_view_controller.h"
 
+#include <QAccessible>
 #include <QInputMethodQueryEvent>
 #include <QStringList>
 
@@ -245,13 +246,44 @@ TEST_F(CalculateViewControllerTest, RejectedInputIsToldAndLeavesTheHistory) {
     EXPECT_EQ(page_.toasts.size(), 1) << each.key;
     std::string marked;
     for (const char* name : {"exponentField", "baseField", "indexField", "radicandField"}) {
-      marked += page_.field(name).borderColor() == InterfaceColor::fieldNeutral() ? ' ' : *name;
+      const bool isMarked = page_.field(name).borderColor() != InterfaceColor::fieldNeutral();
+      marked += isMarked ? *name : ' ';
+      EXPECT_EQ(page_.field(name).fault().isEmpty(), !isMarked) << each.key;
     }
     EXPECT_EQ(marked, each.marked) << each.key;
     EXPECT_FALSE(isCalculating);
   }
   EXPECT_TRUE(page_.store.calculations().isEmpty());
   EXPECT_EQ(events_, QStringList(std::size(cases), "tavi_got_error"));
+}
+
+// What assistive technology is told of an item and of all below it, a line each.
+QStringList told(const QAccessibleInterface& item) {
+  QStringList lines;
+  if (const QString name = item.text(QAccessible::Name); !name.isEmpty()) {
+    const QAccessible::State state = item.state();
+    const QString description = item.text(QAccessible::Description);
+    lines.append(name + (state.checkable ? state.checked ? " +" : " -" : "") +
+                 (description.isEmpty() ? "" : " (" + description + ")"));
+  }
+  for (int i = 0; i < item.childCount(); ++i) {
+    if (!item.child(i)->state().invisible) lines += told(*item.child(i));
+  }
+  return lines;
+}
+
+TEST_F(CalculateViewControllerTest, AssistiveTechnologyIsToldModeFieldsAndFaults) {
+  page_.type("baseField", u"9/");
+  page_.type("exponentField", u"2");
+  EXPECT_FALSE(controller().performCalculation());
+  const QStringList expected = {"Kind of task",
+                                "Power +",
+                                "Root -",
+                                "manualButton",
+                                "Fill in your given numbers:",
+                                "Base (Invalid entry: fractionIncomplete)",
+                                "Exponent"};
+  EXPECT_EQ(told(*QAccessible::queryAccessibleInterface(&page_.window)).first(expected.size()), expected);
 }
 
 TEST_F(CalculateViewControllerTest, AnEmptyRootIndexIsASquareRootAndStoredEmpty) {

@@ -130,6 +130,20 @@ void shareNoSolution(Stage& stage) {
   stage.share();
 }
 
+// A task typed in a window of another size than before. Nothing of its controls may be cut.
+template <Mode mode, int width, int height>
+void typingAt(Stage& stage) {
+  stage.resize({width, height});
+  stage.prepare(mode, u"-2/3", u"3/2");
+  for (const char* name :
+       {"segment0", "segment1", "manualButton", mode == Mode::power ? "exponentField" : "radicandField",
+        "key x", "key Calculate"}) {
+    const QQuickItem& item = stage.item(QString::fromLatin1(name));
+    if (!QRectF(0, 0, width, height).contains(item.mapRectToScene(item.boundingRect())))
+      throw Failure(std::string(name) + " is cut");
+  }
+}
+
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 
@@ -163,11 +177,26 @@ constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
 constexpr auto shareSteps = std::to_array<Step>({{"28-share", shareManySteps}});
 constexpr auto darkShareSteps = std::to_array<Step>({{"29-dark-share", shareWideLine}});
 constexpr auto tabletShareSteps = std::to_array<Step>({{"30-tablet-share", shareNoSolution}});
+constexpr auto sizeSteps = std::to_array<Step>({{"31-input-320x480", typingAt<Mode::power, 320, 480>},
+                                                {"32-input-360x640", typingAt<Mode::power, 360, 640>},
+                                                {"33-input-568x320", typingAt<Mode::power, 568, 320>},
+                                                {"34-input-800x360", typingAt<Mode::root, 800, 360>},
+                                                {"35-input-2560x1440", typingAt<Mode::power, 2560, 1440>},
+                                                {"36-input-412x870", typingAt<Mode::root, 412, 870>}});
+constexpr auto darkSizeSteps =
+    std::to_array<Step>({{"37-dark-input-320x480", typingAt<Mode::root, 320, 480>},
+                         {"38-dark-input-360x640", typingAt<Mode::root, 360, 640>},
+                         {"39-dark-input-568x320", typingAt<Mode::root, 568, 320>},
+                         {"40-dark-input-800x360", typingAt<Mode::power, 800, 360>},
+                         {"41-dark-input-1280x800", typingAt<Mode::root, 1280, 800>},
+                         {"42-dark-input-412x870", typingAt<Mode::power, 412, 870>}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps},
                                               {"share", phone, false, shareSteps},
                                               {"dark-share", phone, true, darkShareSteps},
+                                              {"sizes", phone, false, sizeSteps},
+                                              {"dark-sizes", phone, true, darkSizeSteps},
                                               {"tablet-share", tablet, false, tabletShareSteps}});
 
 }  // namespace

@@ -11,7 +11,7 @@ Window {
     width: 412
     height: 870
     minimumWidth: 320
-    minimumHeight: 480
+    minimumHeight: 320
     color: Theme.page
 
     ControllerHost {

@@ -14,7 +14,7 @@ Rectangle {
         id: bar
 
         width: parent.width
-        height: 48
+        height: page.Window.height < Theme.lowHeight ? Theme.lowBarHeight : 48
         color: Theme.strongYellow
 
         Row {

@@ -7,13 +7,14 @@ Item {
 
     required property BasicToolbarController controller
     readonly property Toolbar toolbar: controller.toolbar
+    readonly property bool isLow: Window.height < Theme.lowHeight
 
     Rectangle {
         id: statusStrip
 
         width: parent.width
         height: visible ? 24 : 0
-        visible: page.toolbar.statusBarColor.a > 0
+        visible: page.toolbar.statusBarColor.a > 0 && !page.isLow
         color: page.toolbar.statusBarColor
     }
 
@@ -22,12 +23,12 @@ Item {
 
         anchors.top: statusStrip.bottom
         width: parent.width
-        height: page.toolbar.height
+        height: page.isLow ? Theme.lowBarHeight : page.toolbar.height
         color: page.toolbar.backgroundColor
 
         Item {
             anchors.fill: parent
-            anchors.topMargin: page.toolbar.topInset
+            anchors.topMargin: page.isLow ? 0 : page.toolbar.topInset
 
             Row {
                 id: left
@@ -75,6 +76,7 @@ Item {
             required property ToolbarButton modelData
 
             objectName: modelData.accessibilityIdentifier
+            height: Math.min(implicitHeight, bar.height)
             text: modelData.title
             iconText: modelData.icon ? Icons[modelData.icon] : ""
             tintColor: Theme.legible(modelData.tintColor, bar.color)

@@ -133,6 +133,16 @@ Item {
             compare(item("baseField").text, "1.5/2xπ");
             keyClick(Qt.Key_Backspace);
             compare(item("baseField").text, "1.5/2x");
+            keyClick(Qt.Key_Delete);
+            keyClick(Qt.Key_Home);
+            keyClick(Qt.Key_Delete);
+            compare(item("baseField").text, ".5/2x");
+            keyClick(Qt.Key_Right, Qt.ShiftModifier);
+            keyClick(Qt.Key_Right, Qt.ShiftModifier);
+            keyClick(Qt.Key_Delete);
+            compare(item("baseField").text, "/2x");
+            compare(caret("baseField"), 0);
+            keyClick("7");
             keyClick(Qt.Key_Tab);
             verify(item("exponentField").activeFocus);
             keyClick("3");
@@ -175,41 +185,92 @@ Item {
             compare(caretPixels(), 0);
         }
 
-        function test_every_target_is_large_named_and_apart_data() {
+        // Where everything stands that can be touched or read.
+        function places(mode) {
+            const fields = mode === "segment0" ? ["baseField", "exponentField"] : ["indexField", "radicandField"];
+            const names = ["fillInLabel", "segment0", "segment1", "manualButton", ...fields, "key Delete", "key Calculate", ...Array.from("0123456789./-πxyz", key => "key " + key)];
+            return names.map(name => {
+                    const target = item(name);
+                    return {
+                        "name": name,
+                        "place": target.mapToItem(page, 0, 0, target.width, target.height)
+                    };
+                });
+        }
+
+        // Pages of windows from 320 x 480 and 568 x 320 on, one after the other and back again.
+        function test_nothing_is_cut_or_overlaps_in_any_window_data() {
             return [{
-                    "tag": "phone",
-                    "width": 412,
-                    "height": 744
+                    "tag": "segment0"
                 }, {
-                    "tag": "small phone",
-                    "width": 320,
-                    "height": 480
-                }, {
-                    "tag": "landscape",
-                    "width": 892,
-                    "height": 284
-                }, {
-                    "tag": "tablet",
-                    "width": 1280,
-                    "height": 672
+                    "tag": "segment1"
                 }];
         }
 
-        function test_every_target_is_large_named_and_apart(row) {
-            page.width = row.width;
-            page.height = row.height;
-            waitForRendering(page);
-            const names = ["segment0", "segment1", "manualButton", "baseField", "exponentField", "key Delete", "key Calculate", ...Array.from("0123456789./-πxyz", key => "key " + key)];
-            const places = [];
-            for (const name of names) {
-                const target = item(name);
-                const place = target.mapToItem(page, 0, 0, target.width, target.height);
-                verify(place.width >= 48 && place.height >= 48, name + " " + place);
-                verify(place.x >= 0 && place.right <= row.width, name + " " + place);
-                for (const other of places)
-                    verify(place.right <= other.x || other.right <= place.x || place.bottom <= other.y || other.bottom <= place.y, name + " " + place + " over " + other);
-                places.push(place);
+        function test_nothing_is_cut_or_overlaps_in_any_window(row) {
+            const sizes = [[320, 400], [412, 742], [568, 240], [360, 512], [800, 280], [2560, 1312], [540, 300], [1280, 672], [539, 500]];
+            const seen = {};
+            tap(row.tag);
+            for (const [width, height] of [...sizes, ...sizes.reverse()]) {
+                page.width = width;
+                page.height = height;
+                const all = places(row.tag);
+                const isLow = height < 560;
+                for (let index = 0; index < all.length; ++index) {
+                    const name = all[index].name;
+                    const place = all[index].place;
+                    const what = `${name} ${place} in ${width}x${height}`;
+                    verify(place.x >= 0 && place.y >= 0 && place.right <= width && place.bottom <= height, what);
+                    verify(name === "fillInLabel" || (place.width >= (isLow ? 40 : 48) && place.height >= (isLow ? 40 : 48)), what);
+                    for (const other of all.slice(0, index))
+                        verify(place.right <= other.place.x || other.place.right <= place.x || place.bottom <= other.place.y || other.place.bottom <= place.y, `${what} over ${other.name} ${other.place}`);
+                }
+                const now = JSON.stringify(all);
+                compare(now, seen[[width, height]] ?? now);
+                seen[[width, height]] = now;
             }
+        }
+
+        // In a window that is too low for all of it the field typed into is brought into sight, and growing undoes that.
+        function test_page_scrolls_only_where_it_must() {
+            page.height = 300;
+            page.width = 320;
+            tap("baseField");
+            const flickable = item("flickable");
+            verify(flickable.contentY > 0 || item("baseField").mapToItem(page, 0, 64).y <= 300);
+            flickable.contentY = flickable.contentHeight - flickable.height;
+            page.height = 744;
+            page.width = 412;
+            compare(flickable.contentY, 0);
+            compare(flickable.interactive, false);
+        }
+
+        function focused() {
+            let found = root.Window.activeFocusItem;
+            while (found && found.objectName === "")
+                found = found.parent;
+            return found ? found.objectName : "";
+        }
+
+        function test_tab_reaches_every_control_once_round() {
+            tap("baseField");
+            const round = [];
+            do {
+                round.push(focused());
+                keyClick(Qt.Key_Tab);
+            } while (focused() !== "baseField" && round.length < 20)
+            compare(round, ["baseField", "exponentField", "key Calculate", "segment0", "segment1", "manualButton"]);
+            keyClick(Qt.Key_Tab, Qt.ShiftModifier);
+            compare(focused(), "manualButton");
+        }
+
+        function test_return_switches_the_mode_from_its_segment() {
+            item("segment1").forceActiveFocus(Qt.TabFocusReason);
+            keyClick(Qt.Key_Return);
+            compare(item("modeSwitch").selectedSegmentIndex, 1);
+            compare(stage.toasts, []);
+            keyClick(Qt.Key_Return);
+            compare(stage.toasts, []);
         }
     }
 }
