@@ -41,15 +41,6 @@ class Writer {
     }
   }
 
-  void array(qsizetype count, const std::function<QVariant(qsizetype)>& element) {
-    out_ += '[';
-    for (qsizetype i = 0; i < count; ++i) {
-      if (i > 0) out_ += ',';
-      value(element(i));
-    }
-    out_ += ']';
-  }
-
   QByteArray take() { return std::move(out_); }
 
  private:
@@ -72,7 +63,12 @@ class Writer {
   }
 
   void list(const QVariantList& list) {
-    array(list.size(), [&](qsizetype index) { return list[index]; });
+    char separator = '[';
+    for (const QVariant& element : list) {
+      out_ += std::exchange(separator, ',');
+      value(element);
+    }
+    out_ += list.isEmpty() ? "[]" : "]";
   }
 
   void object(const QVariantMap& map) {
@@ -89,13 +85,17 @@ class Writer {
   QByteArray out_;
 };
 
-std::optional<QVariant> decoded(const QJsonValue& json);
+// How a value stands to a record: its entries fall back alone, while any other value is right as a whole or
+// not at all.
+enum class Place { recordOrRecords, record, inside };
 
-std::optional<QVariant> decodedArray(const QJsonArray& array) {
+std::optional<QVariant> decoded(const QJsonValue& json, Place place);
+
+std::optional<QVariant> decodedArray(const QJsonArray& array, Place place) {
   QVariantList list;
   list.reserve(array.size());
   for (const QJsonValue element : array) {
-    std::optional<QVariant> value = decoded(element);
+    std::optional<QVariant> value = decoded(element, place);
     if (!value) return std::nullopt;
     list.append(*std::move(value));
   }
@@ -109,23 +109,26 @@ std::optional<QVariant> decodedDate(const QJsonValue& milliseconds) {
   return date.isValid() ? std::optional<QVariant>(date) : std::nullopt;
 }
 
-std::optional<QVariant> decodedObject(const QJsonObject& object) {
+std::optional<QString> decodedKey(const QString& key) {
+  if (!key.startsWith(escape)) return key;
+  return key.size() > 1 && key[1] == escape ? std::optional(key.sliced(1)) : std::nullopt;
+}
+
+std::optional<QVariant> decodedObject(const QJsonObject& object, bool isRecord) {
   if (object.size() == 1 && object.begin().key() == dateKey) return decodedDate(object.begin().value());
   QVariantMap map;
   for (auto entry = object.begin(); entry != object.end(); ++entry) {
-    QString key = entry.key();
-    if (key.startsWith(escape)) {
-      key.remove(0, 1);
-      if (!key.startsWith(escape)) return std::nullopt;
-    }
-    std::optional<QVariant> value = decoded(entry.value());
-    if (!value) return std::nullopt;
-    map.insert(key, *std::move(value));
+    const std::optional<QString> key = decodedKey(entry.key());
+    std::optional<QVariant> value = decoded(entry.value(), Place::inside);
+    if (key && value)
+      map.insert(*key, *std::move(value));
+    else if (!isRecord)
+      return std::nullopt;
   }
   return map;
 }
 
-std::optional<QVariant> decoded(const QJsonValue& json) {
+std::optional<QVariant> decoded(const QJsonValue& json, Place place) {
   switch (json.type()) {
     case QJsonValue::String:
       return json.toString();
@@ -136,9 +139,9 @@ std::optional<QVariant> decoded(const QJsonValue& json) {
       return number.typeId() == QMetaType::LongLong ? std::optional(number) : std::nullopt;
     }
     case QJsonValue::Array:
-      return decodedArray(json.toArray());
+      return decodedArray(json.toArray(), place == Place::recordOrRecords ? Place::record : Place::inside);
     case QJsonValue::Object:
-      return decodedObject(json.toObject());
+      return decodedObject(json.toObject(), place != Place::inside);
     case QJsonValue::Null:
     case QJsonValue::Undefined:
       break;
@@ -155,15 +158,9 @@ QByteArray encodePreference(const QVariant& value) {
   return '[' + writer.take() + ']';
 }
 
-QByteArray encodePreferenceArray(qsizetype count, const std::function<QVariant(qsizetype)>& element) {
-  Writer writer;
-  writer.array(count, element);
-  return '[' + writer.take() + ']';
-}
-
 std::optional<QVariant> decodePreference(const QByteArray& text) {
   const QJsonArray wrapper = QJsonDocument::fromJson(text).array();
-  return wrapper.size() == 1 ? decoded(wrapper.first()) : std::nullopt;
+  return wrapper.size() == 1 ? decoded(wrapper.first(), Place::recordOrRecords) : std::nullopt;
 }
 
 }  // namespace tavi

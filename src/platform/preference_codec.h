@@ -2,7 +2,6 @@
 
 #include <QByteArray>
 #include <QVariant>
-#include <functional>
 #include <optional>
 
 namespace tavi {
@@ -12,10 +11,8 @@ namespace tavi {
 /// any other kind is a fatal stop.
 QByteArray encodePreference(const QVariant& value);
 
-/// The same of an array whose elements are made one at a time, so that a long one is never held twice.
-QByteArray encodePreferenceArray(qsizetype count, const std::function<QVariant(qsizetype)>& element);
-
-/// The value of such a text; absent for any other text.
+/// The value of such a text; absent for any other text. In a record, which is a map that is the whole value
+/// or an element of an array that is, an entry of no such kind is left out alone.
 std::optional<QVariant> decodePreference(const QByteArray& text);
 
 }  // namespace tavi

@@ -5,12 +5,11 @@
 #include <QVariant>
 #include <concepts>
 #include <functional>
-#include <memory>
 #include <optional>
 #include <type_traits>
+#include <vector>
 
-struct sqlite3;
-struct sqlite3_stmt;
+#include "platform/sqlite_file.h"
 
 namespace tavi {
 
@@ -31,9 +30,10 @@ struct Preference {
 /// application's own are listed in platform/preferences.h.
 ///
 /// Values are texts, integers, booleans, dates (UTC, to the millisecond), and arrays and maps of these.
-/// Integers of any width are read back as `qlonglong`. Each change is on the disk, atomically, when the
-/// operation answers true. A file that cannot be read is renamed to "<path>.unreadable-<n>" and a fresh one
-/// begun; if no file can be had at all, the values live in memory until the process ends. Main thread only.
+/// Integers of any width are read back as `qlonglong`. An array is kept one row an element, so that a long
+/// one can be changed at one place at the price of a short one. Each change is on the disk, atomically, when
+/// the operation answers true. Main thread only. What becomes of files that cannot be read or written tells
+/// platform/sqlite_file.h.
 class PreferenceStore {
  public:
   /// The user's store, in the data directory that the system gives the application.
@@ -83,32 +83,61 @@ class PreferenceStore {
   bool setValue(const QString& key, const QVariant& value);
   bool remove(const QString& key);
 
-  /// Sets an array whose elements are made one at a time, so that a long one is never held twice.
-  bool setArray(const Preference<QVariantList>& preference, qsizetype count,
-                const std::function<QVariant(qsizetype)>& element);
+  /// An element of a stored array, by the number under which it can be changed.
+  struct Element {
+    qlonglong number;
+    QVariant value;
+  };
+
+  /// Hands the elements over in their order, which is that of falling numbers; false when there is no array.
+  /// An element that is none of ours is left out, with one console line.
+  bool readElements(const Preference<QVariantList>& preference,
+                    const std::function<void(Element)>& take) const;
+
+  /// Replaces the array by one whose elements are made one at a time. The number of the first one, from which
+  /// the others fall by one each; absent when the disk refuses, with one console line, here and below.
+  std::optional<qlonglong> setArray(const Preference<QVariantList>& preference, qsizetype count,
+                                    const std::function<QVariant(qsizetype)>& element) {
+    return setArray(QString(preference.key), count, element);
+  }
+
+  // Changes of an array that is there. A number is never given twice, and one that is gone is passed over.
+  std::optional<qlonglong> prependElement(const Preference<QVariantList>& preference, const QVariant& value);
+  bool replaceElement(const Preference<QVariantList>& preference, const Element& element);
+  bool removeElement(const Preference<QVariantList>& preference, qlonglong number);
+  /// Puts back, under their numbers, elements that were removed.
+  bool restoreElements(const Preference<QVariantList>& preference, qsizetype count,
+                       const std::function<Element(qsizetype)>& element);
+
+  /// Renames the key to "<key>.unreadable-<n>", with one console line; nothing for an absent one.
+  template <PreferenceValue Value>
+  void setAside(const Preference<Value>& preference) {
+    setAside(QString(preference.key));
+  }
 
   /// False when the values live in memory only.
-  bool isDurable() const { return isDurable_; }
+  bool isDurable() const { return file_.isDurable; }
 
-  struct Close {
-    void operator()(sqlite3* database) const;
-  };
-  struct Finalize {
-    void operator()(sqlite3_stmt* statement) const;
-  };
-  using Database = std::unique_ptr<sqlite3, Close>;
-  using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
+  /// Calls back once, when it turns out that something cannot be kept; at once if that is known already.
+  void setRefusalHandler(std::function<void()> handler);
 
  private:
   std::optional<QByteArray> text(const QString& key) const;
-  bool write(const QString& key, const QByteArray& text);
-  bool change(sqlite3_stmt* statement, const QString& key);
+  void readElements(const QString& key, const std::function<void(Element)>& take) const;
+  std::optional<qlonglong> setArray(const QString& key, qsizetype count,
+                                    const std::function<QVariant(qsizetype)>& element);
+  void setAside(const QString& key);
 
-  Database database_;
-  Statement read_;
-  Statement write_;
-  Statement remove_;
-  bool isDurable_ = true;
+  bool write(std::size_t statement, const QString& key, const QByteArray& text = {}, qlonglong number = 0);
+  std::optional<qlonglong> prependOne(const QString& key, const QVariant& value);
+  bool dropElements(const QString& key);
+  bool together(const QString& key, const std::function<bool()>& changes);
+  bool report(const QString& key, bool isWritten);
+
+  SqliteFile file_;
+  std::vector<SqliteStatement> statements_;
+  bool isRefused_ = false;
+  std::function<void()> refusalHandler_;
 };
 
 }  // namespace tavi

@@ -2,16 +2,13 @@
 
 #include <QDateTime>
 #include <algorithm>
+#include <functional>
 
 #include "number/fatal_stop.h"
 #include "platform/preferences.h"
 
 namespace tavi {
 namespace {
-
-bool isRecord(const QVariant& value) {
-  return value.typeId() == QMetaType::QVariantMap;
-}
 
 Calculation sample() {
   return {{{"aTextField", "-2"}, {"xTextField", "3/2"}},
@@ -44,13 +41,19 @@ const Calculation& CalcManager::calculation(qsizetype index) const {
 
 void CalcManager::addCalculation(const Calculation& calculation) {
   calculations_.prepend(calculation);
-  saveCalculations();
+  numbers_.prepend(numbers_.value(0) + 1);
+  save([&] {
+    const auto number = userDefaults_.prependElement(preferences::calculations, calculation.properties());
+    if (number) numbers_.front() = *number;
+    return number.has_value();
+  });
 }
 
-void CalcManager::removeCalculation(qsizetype index) {
+RemovedCalculations CalcManager::removeCalculation(qsizetype index) {
   requireIndex(index);
-  calculations_.removeAt(index);
-  saveCalculations();
+  const RemovedCalculation removed{numbers_.takeAt(index), calculations_.takeAt(index)};
+  save([&] { return userDefaults_.removeElement(preferences::calculations, removed.number); });
+  return {removed};
 }
 
 void CalcManager::swapCalculations(qsizetype first, qsizetype second) {
@@ -58,16 +61,42 @@ void CalcManager::swapCalculations(qsizetype first, qsizetype second) {
   requireIndex(second);
   const Calculation firstCalculation = calculations_[first];
   const Calculation secondCalculation = calculations_[second];
-  calculations_[second] = firstCalculation;
-  saveCalculations();
-  calculations_[first] = secondCalculation;
-  saveCalculations();
+  replace(second, firstCalculation);
+  replace(first, secondCalculation);
 }
 
-void CalcManager::clearCalculations() {
-  userDefaults_.remove(preferences::calculations);
+void CalcManager::replace(qsizetype index, const Calculation& calculation) {
+  calculations_[index] = calculation;
+  save([&] {
+    return userDefaults_.replaceElement(preferences::calculations,
+                                        {numbers_[index], calculation.properties()});
+  });
+}
+
+RemovedCalculations CalcManager::clearCalculations() {
+  RemovedCalculations removed;
+  removed.reserve(calculations_.size());
+  for (qsizetype i = 0; i < calculations_.size(); ++i) removed.append({numbers_[i], calculations_[i]});
   calculations_.clear();
   saveCalculations();
+  return removed;
+}
+
+qsizetype CalcManager::restoreCalculations(const RemovedCalculations& removed) {
+  qsizetype first = calculations_.size();
+  for (const RemovedCalculation& each : removed) {
+    const auto place = std::ranges::lower_bound(numbers_, each.number, std::greater());
+    const qsizetype index = place - numbers_.begin();
+    numbers_.insert(index, each.number);
+    calculations_.insert(index, each.calculation);
+    first = std::min(first, index);
+  }
+  save([&] {
+    return userDefaults_.restoreElements(preferences::calculations, removed.size(), [&](qsizetype index) {
+      return PreferenceStore::Element{removed[index].number, removed[index].calculation.properties()};
+    });
+  });
+  return first;
 }
 
 void CalcManager::setCurrentCalculation(std::optional<Calculation> calculation) {
@@ -88,16 +117,33 @@ void CalcManager::runFirstStartStep() {
 }
 
 void CalcManager::loadCalculations() {
-  const QVariantList records = userDefaults_.value(preferences::calculations);
-  if (records.isEmpty() || !std::ranges::all_of(records, isRecord)) return clearCalculations();
   calculations_.clear();
-  calculations_.reserve(records.size());
-  for (const QVariant& record : records) calculations_.append(Calculation(record.toMap()));
+  numbers_.clear();
+  bool isOurs = true;
+  const auto take = [&](const PreferenceStore::Element& element) {
+    isOurs = isOurs && element.value.typeId() == QMetaType::QVariantMap;
+    calculations_.append(Calculation(element.value.toMap()));
+    numbers_.append(element.number);
+  };
+  if (userDefaults_.readElements(preferences::calculations, take) && isOurs) return;
+  userDefaults_.setAside(preferences::calculations);
+  calculations_.clear();
+  saveCalculations();
 }
 
 void CalcManager::saveCalculations() {
-  userDefaults_.setArray(preferences::calculations, calculations_.size(),
-                         [this](qsizetype index) { return calculations_[index].properties(); });
+  const auto first =
+      userDefaults_.setArray(preferences::calculations, calculations_.size(),
+                             [this](qsizetype index) { return calculations_[index].properties(); });
+  isBehind_ = !first;
+  if (!first) return;
+  numbers_.resize(calculations_.size());
+  std::ranges::generate(numbers_, [number = *first]() mutable { return number--; });
+}
+
+// A store that has refused a change is given the whole list, then and at the next changes, until it takes it.
+void CalcManager::save(const std::function<bool()>& change) {
+  if (isBehind_ || !change()) saveCalculations();
 }
 
 std::optional<Calculation> CalcManager::stored(const Preference<QVariantMap>& preference) const {

@@ -2,6 +2,7 @@
 
 #include <QList>
 #include <QString>
+#include <functional>
 #include <optional>
 
 #include "platform/preference_store.h"
@@ -20,14 +21,21 @@ class Persistable {
   virtual void saveCalculations() = 0;
 };
 
+/// What was taken out of the history, so that it can be put back where it stood.
+struct RemovedCalculation {
+  qlonglong number;  ///< Of the record in the store.
+  Calculation calculation;
+};
+using RemovedCalculations = QList<RemovedCalculation>;
+
 /// What the user has calculated: the history, newest first, the snapshot of the fields and the record picked
-/// for reopening. Each change of the history rewrites the whole list in the preference store. Main thread
-/// only.
+/// for reopening. Each change is written at once; what cannot be written is kept until the process ends. Of
+/// two processes over one store neither touches the other's records. Main thread only.
 class CalcManager : public Persistable {
  public:
   static CalcManager& shared();
 
-  /// Loads what the store holds; a list of another shape than ours is replaced by an empty one.
+  /// Loads what the store holds; a list of another shape than ours is set aside and replaced by an empty one.
   explicit CalcManager(PreferenceStore& userDefaults);
 
   PreferenceStore& userDefaults() const override { return userDefaults_; }
@@ -43,13 +51,16 @@ class CalcManager : public Persistable {
   /// Puts the record in front of the others.
   void addCalculation(const Calculation& calculation);
 
-  void removeCalculation(qsizetype index);
+  RemovedCalculations removeCalculation(qsizetype index);
 
   /// Exchanges two records, and nothing between them. Saves after each half.
   void swapCalculations(qsizetype first, qsizetype second);
 
   /// Empties the history; snapshot and picked record stay.
-  void clearCalculations();
+  RemovedCalculations clearCalculations();
+
+  /// Puts records back where they stood, newer ones before them; the index of the first of them.
+  qsizetype restoreCalculations(const RemovedCalculations& removed);
 
   /// Snapshot of the fields, for the length of one run: it is not written.
   const std::optional<Calculation>& currentCalculation() const { return currentCalculation_; }
@@ -69,9 +80,13 @@ class CalcManager : public Persistable {
   std::optional<Calculation> stored(const Preference<QVariantMap>& preference) const;
   void persistSelection();
   void requireIndex(qsizetype index) const;
+  void replace(qsizetype index, const Calculation& calculation);
+  void save(const std::function<bool()>& change);
 
   PreferenceStore& userDefaults_;
   QList<Calculation> calculations_;
+  QList<qlonglong> numbers_;  ///< Of the same records in the store, falling.
+  bool isBehind_ = false;     ///< Whether the store has refused a change.
   std::optional<Calculation> currentCalculation_;
   std::optional<Calculation> currentSelectedCalculation_;
 };

@@ -62,7 +62,7 @@ TEST_F(PreferenceStoreFaultsTest, AKilledProcessLosesNoAcknowledgedWrite) {
     const QVariantList list = store.variant("list").toList();
     ASSERT_GE(list.size(), acknowledged);
     ASSERT_LE(list.size(), acknowledged + 1);
-    for (qsizetype i = 0; i < list.size(); ++i) ASSERT_EQ(list[i].toMap().value("number"), list.size() - i);
+    for (qsizetype i = 0; i < list.size(); ++i) ASSERT_EQ(list[i], list.size() - i);
   }
   EXPECT_GT(acknowledged, 15);
   EXPECT_FALSE(QFile::exists(aside_));
@@ -74,6 +74,10 @@ TEST_F(PreferenceStoreFaultsTest, SetsUnreadableFilesAsideUntouched) {
   damaged.replace(4096, 4096, QByteArray(4096, '\xA5'));
   const QString foreign = folder_.filePath("foreign.sqlite");
   runSql(foreign, "CREATE TABLE preferences(name, content); INSERT INTO preferences VALUES('a', 'b')");
+  const QString other = folder_.filePath("other.sqlite");
+  runSql(other, "PRAGMA application_id = 7; CREATE TABLE preferences(key TEXT PRIMARY KEY, value TEXT)");
+  const QString tables = folder_.filePath("tables.sqlite");
+  runSql(tables, "CREATE TABLE customers(name)");
   const QString view = folder_.filePath("view.sqlite");
   runSql(view, "CREATE VIEW preferences AS SELECT 'a' AS key, 'b' AS value");
 
@@ -84,6 +88,8 @@ TEST_F(PreferenceStoreFaultsTest, SetsUnreadableFilesAsideUntouched) {
                                 good.first(50),
                                 damaged,
                                 content(foreign),
+                                content(other),
+                                content(tables),
                                 content(view)};
   for (qsizetype i = 0; i < files.size(); ++i) {
     QFile::remove(path_);
@@ -130,6 +136,34 @@ TEST_F(PreferenceStoreFaultsTest, SetsAClosedFileAside) {
   EXPECT_EQ(result, 0);
 }
 
+TEST_F(PreferenceStoreFaultsTest, ReadsWhatIsThereWhereNothingCanBeWritten) {
+  struct Case {
+    const char* what;
+    bool isKilled;  // What was written last is in the log only.
+    int folderMode;
+    int fileMode;
+  };
+  for (const Case& each :
+       {Case{"a closed store", false, 0x5555, 0x6666}, Case{"a killed store", true, 0x5555, 0x6666},
+        Case{"a read-only file", false, 0x7777, 0x4444}}) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath("preferences.sqlite");
+    PreferenceStore(path).setValue("key", each.isKilled ? "old" : "kept");
+    if (each.isKilled) {
+      ASSERT_EQ(runChild("write-and-die", path), 0) << each.what;
+      ASSERT_TRUE(QFile::exists(path + "-wal")) << each.what;
+    }
+    QFile::setPermissions(path, QFile::Permissions(each.fileMode));
+    QFile::setPermissions(folder.path(), QFile::Permissions(each.folderMode));
+    const int result = runChild("read-only", path);
+    QFile::setPermissions(folder.path(), QFile::Permissions(0x7777));
+    if (result == childCannotRun) GTEST_SKIP() << "cannot become another user";
+    EXPECT_EQ(result, 0) << each.what;
+    EXPECT_EQ(PreferenceStore(path).variant("key"), "kept") << each.what;
+    EXPECT_FALSE(QFile::exists(path + ".unreadable-1")) << each.what;
+  }
+}
+
 TEST_F(PreferenceStoreFaultsTest, StartsInMemoryWhereNoFileCanBe) {
   write(folder_.filePath("file"), "in the way");
   const ConsoleLines console;
@@ -138,6 +172,18 @@ TEST_F(PreferenceStoreFaultsTest, StartsInMemoryWhereNoFileCanBe) {
   EXPECT_TRUE(store.setValue("key", "value"));
   EXPECT_EQ(store.variant("key"), "value");
   EXPECT_EQ(console.lines().size(), 1);
+}
+
+TEST_F(PreferenceStoreFaultsTest, SaysThatItsFileWasTakenAway) {
+  const QTemporaryDir folder;
+  PreferenceStore store(folder.filePath("a/preferences.sqlite"));
+  ASSERT_TRUE(store.setValue("key", "kept"));
+  int refusals = 0;
+  store.setRefusalHandler([&refusals] { ++refusals; });
+  QDir(folder.filePath("a")).removeRecursively();
+  EXPECT_FALSE(store.setValue("key", "lost"));
+  EXPECT_EQ(refusals, 1);
+  EXPECT_EQ(store.variant("key"), "lost") << "it lives as long as the process";
 }
 
 TEST_F(PreferenceStoreFaultsTest, KeepsWhatWasAcknowledgedWhenTheFileCannotGrow) {
@@ -152,9 +198,11 @@ TEST_F(PreferenceStoreFaultsTest, KeepsWhatWasAcknowledgedWhenTheFileCannotGrow)
 }
 
 TEST_F(PreferenceStoreFaultsTest, OpensOnAFullDiskAndLosesNothing) {
-  const int result = runChild("fill-disk", folder_.path());
-  if (result == childCannotRun) GTEST_SKIP() << "cannot mount a small disk";
-  EXPECT_EQ(result, 0);
+  for (const char* child : {"fill-disk", "old-form-full-disk"}) {
+    const int result = runChild(child, folder_.path());
+    if (result == childCannotRun) GTEST_SKIP() << "cannot mount a small disk";
+    EXPECT_EQ(result, 0) << child;
+  }
 }
 
 }  // namespace

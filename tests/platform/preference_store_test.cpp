@@ -86,8 +86,7 @@ TEST_F(PreferenceStoreTest, ReadsForeignTextsAsAbsentWithOneLine) {
                              "[1.5]",
                              "[1e300]",
                              "[[null]]",
-                             "[{\"a\":1.5}]",
-                             "[{\"$a\":1}]",
+                             "[[{\"a\":1},null]]",
                              "[\"\xff\"]",
                              "[{\"$date\":\"today\"}]",
                              "[{\"$date\":9223372036854775808}]",
@@ -99,6 +98,60 @@ TEST_F(PreferenceStoreTest, ReadsForeignTextsAsAbsentWithOneLine) {
     EXPECT_EQ(console.lines().size(), 1) << text.toStdString();
   }
   EXPECT_TRUE(store.contains("key"));
+}
+
+TEST_F(PreferenceStoreTest, AnEntryOfARecordFallsBackAlone) {
+  PreferenceStore store(path());
+  const QVariantMap left{{"left", 1LL}};
+  const std::pair<QByteArray, QVariant> texts[] = {
+      {R"([{"a":1.5,"left":1}])", left},
+      {R"([{"a":null,"left":1}])", left},
+      {R"([{"$a":1,"left":1}])", left},
+      {R"([{"a":{"b":[null],"c":2},"left":1}])", left},
+      {R"([[{"a":1.5,"left":1},{"b":["x",null]},{"left":1}]])", QVariantList{left, QVariantMap(), left}},
+  };
+  for (const auto& [text, expected] : texts) {
+    runSql(path(), "INSERT OR REPLACE INTO preferences VALUES('key', '" + text + "')");
+    EXPECT_EQ(PreferenceStore(path()).variant("key"), expected) << text.toStdString();
+  }
+}
+
+TEST_F(PreferenceStoreTest, AnArrayThatIsOneTextIsSplitOnce) {
+  const QVariantList array{"a", QVariantMap{{"b", 1LL}}, QVariantList{QVariantList()}};
+  PreferenceStore(path()).setValue("array", "");
+  const auto writeAsOneText = [&](const QByteArray& text) {
+    runSql(path(), "UPDATE preferences SET value = '" + text + "' WHERE key = 'array'");
+  };
+  writeAsOneText(R"([["a",{"b":1},[[]]]])");
+  EXPECT_EQ(PreferenceStore(path()).variant("array"), QVariant(array));
+  EXPECT_EQ(PreferenceStore(path()).variant("array"), QVariant(array));
+  EXPECT_EQ(runSql(path(), "SELECT count(*) FROM elements"), QStringList("3"));
+
+  // An older program takes the array for empty and begins anew.
+  writeAsOneText(R"([["new"]])");
+  EXPECT_EQ(PreferenceStore(path()).variant("array"), QVariant(QVariantList{"new"} + array));
+}
+
+TEST_F(PreferenceStoreTest, ElementsAreChangedByTheirNumbersWhichAreNeverGivenTwice) {
+  const Preference<QVariantList> array{QLatin1StringView("array")};
+  PreferenceStore store(path());
+  EXPECT_FALSE(store.readElements(array, [](const PreferenceStore::Element&) { FAIL(); }));
+  const qlonglong first = store.setArray(array, 2, [](qsizetype index) { return index; }).value_or(0);
+  const qlonglong newest = store.prependElement(array, "new").value_or(0);
+  EXPECT_GT(newest, first);
+  EXPECT_TRUE(store.removeElement(array, newest));
+  EXPECT_GT(store.prependElement(array, "newer"), newest);
+  EXPECT_TRUE(store.replaceElement(array, {first - 1, "last"}));
+  EXPECT_TRUE(store.replaceElement(array, {first - 2, "nobody"})) << "passed over";
+  EXPECT_TRUE(store.restoreElements(array, 1, [&](qsizetype) {
+    return PreferenceStore::Element{newest, "new"};
+  }));
+  const QVariantList expected{"newer", "new", 0LL, "last"};
+  EXPECT_EQ(PreferenceStore(path()).variant("array"), QVariant(expected));
+
+  store.setValue("other", QVariantList{"x"});
+  store.setValue("array", "no array");
+  EXPECT_EQ(runSql(path(), "SELECT count(*) FROM elements"), QStringList("1"));
 }
 
 }  // namespace

@@ -15,6 +15,7 @@
 #include <unistd.h>
 
 #include "platform/preference_store.h"
+#include "platform/test_support.h"
 
 namespace tavi {
 namespace {
@@ -34,14 +35,20 @@ int writeKinds(const QString& path) {
 
 // Tells each acknowledged write on the standard output, until it is killed.
 int countUp(const QString& path) {
+  const Preference<QVariantList> list{QLatin1StringView("list")};
   PreferenceStore store(path);
-  QVariantList list = store.variant("list").toList();
-  for (qlonglong n = list.size() + 1;; ++n) {
-    list.prepend(QVariantMap{{"number", n}});
-    if (!store.setValue("list", list)) return fail("not written");
+  if (!store.contains(list)) store.setValue(list, QVariantList());
+  for (qlonglong n = store.value(list).size() + 1;; ++n) {
+    if (!store.prependElement(list, n)) return fail("not written");
     std::printf("%lld\n", n);
     std::fflush(stdout);
   }
+}
+
+int writeAndDie(const QString& path) {
+  PreferenceStore store(path);
+  if (!store.setValue("key", "kept")) return fail("not written");
+  _exit(0);
 }
 
 // Fills the file up to a limit of its size, as a full disk does, and goes on reading what was acknowledged.
@@ -106,10 +113,44 @@ int fillDisk(const QString& folder) {
   return store.setValue("after", true) ? 0 : fail("no writing after the disk has room again");
 }
 
+bool becomeAnotherUser() {
+  constexpr uid_t nobody = 65534;
+  return geteuid() != 0 || setuid(nobody) == 0;
+}
+
+// Where nothing can be written: what is there is read, and changes live as long as the store.
+int openReadOnly(const QString& path) {
+  if (!becomeAnotherUser()) return childCannotRun;
+  PreferenceStore store(path);
+  int refusals = 0;
+  store.setRefusalHandler([&refusals] { ++refusals; });
+  if (store.isDurable() || refusals != 1) return fail("it does not say that nothing is kept");
+  if (store.variant("key") != "kept") return fail("what is there is hidden");
+  if (!store.setValue("key", "changed") || store.variant("key") != "changed")
+    return fail("nothing can be changed in memory");
+  if (PreferenceStore(path).variant("key") != "kept") return fail("it is kept");
+  return 0;
+}
+
+// An array of the old form on a disk on which there is no room to split it.
+int openOldFormOnFullDisk(const QString& folder) {
+  if (!mountSmallDisk(folder)) return childCannotRun;
+  const QString path = folder + "/preferences.sqlite";
+  PreferenceStore(path).setValue("array", "");
+  const QByteArray element = '"' + QByteArray(100'000, 'x') + '"';
+  runSql(path, "UPDATE preferences SET value = '[[" + element + ',' + element + "]]'");
+  QFile rest(folder + "/rest");
+  if (!rest.open(QFile::WriteOnly | QFile::Unbuffered)) return fail("no file");
+  while (rest.write(QByteArray(4096, 'x')) > 0 || rest.write("x") > 0) continue;
+
+  PreferenceStore store(path);
+  if (store.isDurable()) return fail("it says that it keeps something");
+  return store.variant("array").toList().size() == 2 ? 0 : fail("what is there is hidden");
+}
+
 // As a user to whom the file is closed; the folder is open.
 int openWithoutPermission(const QString& path) {
-  constexpr uid_t nobody = 65534;
-  if (geteuid() == 0 && setuid(nobody) != 0) return childCannotRun;
+  if (!becomeAnotherUser()) return childCannotRun;
   PreferenceStore store(path);
   if (!store.isDurable() || !store.setValue("key", true)) return fail("no fresh store");
   return QFile::exists(path + ".unreadable-1") ? 0 : fail("not set aside");
@@ -141,11 +182,11 @@ QVariantList valuesOfEveryKind() {
 }
 
 int runStoreChild(const QString& name, const QString& path) {
-  const QMap<QString, int (*)(const QString&)> children{{"write-kinds", writeKinds},
-                                                        {"count-up", countUp},
-                                                        {"fill-file", fillFile},
-                                                        {"fill-disk", fillDisk},
-                                                        {"no-permission", openWithoutPermission}};
+  const QMap<QString, int (*)(const QString&)> children{
+      {"write-kinds", writeKinds},    {"count-up", countUp},
+      {"write-and-die", writeAndDie}, {"fill-file", fillFile},
+      {"fill-disk", fillDisk},        {"old-form-full-disk", openOldFormOnFullDisk},
+      {"read-only", openReadOnly},    {"no-permission", openWithoutPermission}};
   return children.contains(name) ? children[name](path) : fail("no such child");
 }
 

@@ -71,14 +71,87 @@ TEST_F(CalcManagerTest, ASwapSavesAfterEachHalf) {
   CalcManager manager(store_);
   for (const char* name : {"C", "B", "A"}) manager.addCalculation(named(name));
   runSql(path_,
-         "CREATE TABLE log(value);"
-         "CREATE TRIGGER log AFTER UPDATE ON preferences BEGIN INSERT INTO log VALUES(new.value); END");
+         "CREATE TABLE log(number, value);"
+         "CREATE TRIGGER log AFTER UPDATE ON elements BEGIN "
+         "INSERT INTO log VALUES(new.number, new.value); END");
+  const QString oldest = runSql(path_, "SELECT min(number) FROM elements").front();
+  const QString newest = runSql(path_, "SELECT max(number) FROM elements").front();
   manager.swapCalculations(0, 2);
-  const QStringList saves =
-      runSql(path_,
-             "SELECT group_concat(json_extract(record.value, '$.latexString'), '') FROM log, "
-             "json_each(log.value, '$[0]') AS record GROUP BY log.rowid");
-  EXPECT_EQ(saves, QStringList({"ABA", "CBA"}));
+  EXPECT_EQ(runSql(path_, "SELECT number || json_extract(value, '$[0].latexString') FROM log"),
+            QStringList({oldest + 'A', newest + 'C'}))
+      << "in between the first one stands twice";
+}
+
+TEST_F(CalcManagerTest, WhatWasRemovedCanBePutBackWhereItStood) {
+  CalcManager manager(store_);
+  for (const char* name : {"D", "C", "B", "A"}) manager.addCalculation(named(name));
+  const RemovedCalculations newest = manager.removeCalculation(0);
+  const RemovedCalculations middle = manager.removeCalculation(1);
+  manager.addCalculation(named("E"));
+  EXPECT_EQ(manager.restoreCalculations(middle), 2);
+  EXPECT_EQ(manager.restoreCalculations(newest), 1);
+  EXPECT_EQ(order(manager), "EABCD");
+  EXPECT_EQ(storedOrder(), "EABCD");
+
+  const RemovedCalculations all = manager.clearCalculations();
+  manager.addCalculation(named("F"));
+  EXPECT_EQ(manager.restoreCalculations(all), 1);
+  manager.swapCalculations(1, 2);
+  EXPECT_EQ(order(manager), "FAEBCD");
+  EXPECT_EQ(storedOrder(), "FAEBCD");
+}
+
+TEST_F(CalcManagerTest, OfTwoProcessesNeitherLosesWhatTheOtherKeeps) {
+  CalcManager first(store_);
+  for (const char* name : {"C", "B", "A"}) first.addCalculation(named(name));
+  PreferenceStore others(path_);
+  CalcManager second(others);
+  first.addCalculation(named("D"));
+  second.addCalculation(named("E"));
+  first.removeCalculation(2);
+  second.removeCalculation(2);
+  second.removeCalculation(2);
+  first.addCalculation(named("F"));
+  EXPECT_EQ(storedOrder(), "FEDA") << "both have removed B, and one of them C";
+}
+
+TEST_F(CalcManagerTest, WhatTheDiskRefusesIsKeptUntilItTakesIt) {
+  CalcManager manager(store_);
+  int refusals = 0;
+  store_.setRefusalHandler([&refusals] { ++refusals; });
+  for (const char* name : {"B", "A"}) manager.addCalculation(named(name));
+  runSql(path_, "CREATE TRIGGER refusal BEFORE INSERT ON elements BEGIN SELECT RAISE(ABORT, 'full'); END");
+  EXPECT_EQ(refusals, 0);
+  manager.addCalculation(named("C"));
+  manager.removeCalculation(2);
+  EXPECT_EQ(refusals, 1) << "said once";
+  EXPECT_EQ(order(manager), "CA");
+  EXPECT_EQ(storedOrder(), "AB") << "nothing acknowledged is lost";
+  runSql(path_, "DROP TRIGGER refusal");
+  manager.swapCalculations(0, 1);
+  EXPECT_EQ(storedOrder(), "AC");
+  manager.removeCalculation(0);
+  EXPECT_EQ(storedOrder(), "C");
+}
+
+TEST_F(CalcManagerTest, ABadFieldFallsBackAloneAndTheHistoryStays) {
+  const QByteArray bad =
+      R"({"inputParameters":{"aTextField":1.5},"latexString":null,"solutionSteps":[],"setupParameter":{"appKey":"QRX"}})";
+  const QByteArray good = R"({"latexString":"A"})";
+  Calculation expected;
+  expected.setupParameter = {{"appKey", "QRX"}};
+  store_.setValue("Calculations", QVariantList());
+  const auto expectBoth = [&] {
+    PreferenceStore again(path_);
+    const CalcManager manager(again);
+    ASSERT_EQ(manager.calculations().size(), 2);
+    EXPECT_EQ(manager.calculation(0), expected);
+    EXPECT_EQ(manager.calculation(1).latexString, "A");
+  };
+  runSql(path_, "UPDATE preferences SET value = '[[" + bad + ',' + good + "]]' WHERE key = 'Calculations'");
+  expectBoth();
+  runSql(path_, "UPDATE elements SET value = '[" + bad + "]' WHERE value NOT LIKE '%\"A\"%'");
+  expectBoth();
 }
 
 TEST_F(CalcManagerTest, AnIndexOutsideTheListIsAFatalStop) {
@@ -124,13 +197,21 @@ TEST_F(CalcManagerTest, ASnapshotFromElsewhereIsRead) {
   EXPECT_EQ(CalcManager(store_).currentCalculation(), named("elsewhere"));
 }
 
-TEST_F(CalcManagerTest, AListOfAnotherShapeIsReplacedByAnEmptyOne) {
-  for (const QVariant& stored : {QVariant(), QVariant("text"), QVariant(5), QVariant(QVariantMap{{"0", "x"}}),
-                                 QVariant(QVariantList{named("A").properties(), "text"})}) {
-    store_.setValue("Calculations", stored);
+TEST_F(CalcManagerTest, AListOfAnotherShapeIsSetAsideAndReplacedByAnEmptyOne) {
+  EXPECT_TRUE(CalcManager(store_).calculations().isEmpty());
+  EXPECT_EQ(store_.variant("Calculations"), QVariant(QVariantList()));
+  const QVariantList shapes{"text", 5, QVariantMap{{"0", "x"}},
+                            QVariantList{named("A").properties(), "text"}};
+  for (qsizetype i = 0; i < shapes.size(); ++i) {
+    store_.setValue("Calculations", shapes[i]);
     EXPECT_TRUE(CalcManager(store_).calculations().isEmpty());
     EXPECT_EQ(store_.variant("Calculations"), QVariant(QVariantList()));
+    EXPECT_EQ(store_.variant("Calculations.unreadable-" + QString::number(i + 1)), shapes[i]);
   }
+  runSql(path_, "UPDATE preferences SET value = 'no JSON' WHERE key = 'Calculations'");
+  EXPECT_TRUE(CalcManager(store_).calculations().isEmpty());
+  EXPECT_EQ(runSql(path_, "SELECT value FROM preferences WHERE key = 'Calculations.unreadable-5'"),
+            QStringList("no JSON"));
 }
 
 TEST(CalculationTest, AFieldOfAnotherShapeKeepsItsDefaultAlone) {
