@@ -70,6 +70,7 @@ TEST_F(MathOperation, CancelsByTheGreatestCommonDivisorOfTheTruncatedParts) {
       {7, 1, 1, {}},
       {1, 7, 1, {}},
       {0, 5, 1, {}},
+      {3, 0, 1, {}},
       {2.5, 2.5, 2, {{1.25, 1.25}}},
       {100000000000, 777777777777, 1, {}},
       {600000000000, 400000000000, 200000000000, {{3, 2}}},
@@ -149,7 +150,8 @@ TEST(DigitAnalyser, CountsThePlacesOfPlainFractionParts) {
     double places;
   };
   const Case cases[] = {{"1.5", "1", 1},     {"1.25", "2.5", 2},    {"3", "4", 0},        {"1e-05", "1", 0},
-                        {"1.5e-05", "1", 0}, {"1.5e-05", "2.5", 1}, {"0.000123", "1", 6}, {"-0.5", "nan", 1}};
+                        {"1.5e-05", "1", 0}, {"1.5e-05", "2.5", 1}, {"0.000123", "1", 6}, {"-0.5", "nan", 1},
+                        {"25..", "1", 2},    {".", "1", 0}};
   for (const Case& expected : cases) {
     EXPECT_EQ(TaviDigitAnalyser::decimalPlaces(expected.z, expected.n), expected.places)
         << expected.z << ' ' << expected.n;

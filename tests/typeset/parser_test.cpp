@@ -66,6 +66,7 @@ TEST(Parser, ReadsTheLinesOfWorkings) {
       {"2^\\frac12", "2^(frac{1/2})"},
       {"\\pi\\le π≤\\cdot·", "π≤π≤⋅·"},
       {"\\sin x\\text{ if \\{a\\}, 5\\%}", "'sin'x' if {a}, 5%'"},
+      {"\\text{a\\}b}c\\text{{\\{}}", "'a}b'c'{'"},
       {"\\mathrm{kg}\\{\\}\\%\\_\\#", "{kg}{}%_#"},
       {"", ""},
   };
@@ -125,6 +126,8 @@ TEST(Parser, SetsFaultyLinesAsFarAsTheyRead) {
       {"\\color{#12345g}{x}", "«\\color{#12345g}»{x}", "unknown colour #12345g at character 1"},
       {"\\color{red}", "«\\color{red}»", "\\color needs something to colour at character 1"},
       {"\\text{ab", "«\\text»«{»ab", "\\text needs an argument in braces at character 1"},
+      {"\\text{ab\\}", "«\\text»«{»ab}", "\\text needs an argument in braces at character 1"},
+      {"{\\sqrt[3]}", "{«\\sqrt[3]»}", "\\sqrt needs an argument at character 2"},
       {"\\", "«\\»", "\\ without a command at character 1"},
       {"a\x01", "a«\x01»", "unreadable character at character 2"},
       {"a\xff\xc0\x80", "a«\xEF\xBF\xBD»«\xEF\xBF\xBD»«\xEF\xBF\xBD»", "unreadable character at character 2"},
