@@ -36,7 +36,7 @@ enum class AtomClass : std::uint8_t {
 
 // The constructs of a line: each type below is what one is made of. What it does stands in the file of its
 // name in constructs/: `read` puts it into a list when its command is met, `set` lays it out, `say` gives its
-// words.
+// words, `mathml` writes it as MathML.
 
 class Reader;
 struct CommandInLine;
@@ -63,6 +63,7 @@ struct Symbol {
   static void read(Reader& reader, const CommandInLine& command, List& into);
   Extent set(Compositor& compositor, Style style) const;
   [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 /// A blank of the writer's; it stands between atoms without parting them.
@@ -72,6 +73,7 @@ struct Space {
   static void read(Reader& reader, const CommandInLine& command, List& into);
   Extent set(Compositor& compositor, Style style) const;
   static std::string say(const Speaker& speaker);
+  [[nodiscard]] std::string mathml() const;
 };
 
 /// Upright running text: `\text{…}`, the name of a function, or a piece of the line that could not be read.
@@ -85,6 +87,7 @@ struct Text {
   static void readFunction(Reader& reader, const CommandInLine& command, List& into);
   Extent set(Compositor& compositor, Style style) const;
   [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 /// `{…}`, `\mathrm{…}` and `\color{…}{…}`: one ordinary atom.
@@ -96,6 +99,7 @@ struct Group {
   static void readColored(Reader& reader, const CommandInLine& command, List& into);
   Extent set(Compositor& compositor, Style style) const;
   [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 struct Fraction {
@@ -106,6 +110,7 @@ struct Fraction {
   Extent set(Compositor& compositor, Style style) const;
   /// `hasScripts`: where it ends is said, for what follows belongs to the whole.
   [[nodiscard]] std::string say(const Speaker& speaker, bool hasScripts = false) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 struct Radical {
@@ -115,6 +120,7 @@ struct Radical {
   static void read(Reader& reader, const CommandInLine& command, List& into);
   Extent set(Compositor& compositor, Style style) const;
   [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 /// `\left … \right`; the delimiter 0 is the invisible one, written as a point.
@@ -127,6 +133,7 @@ struct Fence {
   static void readStrayRight(Reader& reader, const CommandInLine& command, List& into);
   Extent set(Compositor& compositor, Style style) const;
   [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 /// A nucleus, always exactly one atom, with an exponent, an index or both.
@@ -139,6 +146,7 @@ struct Scripts {
   static void read(Reader& reader, List& into);
   Extent set(Compositor& compositor, Style style) const;
   [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
 };
 
 struct Atom {

@@ -2,15 +2,9 @@
 
 #include <algorithm>
 
+#include "typeset/mathml.h"
+
 namespace tavi::typeset {
-namespace {
-
-bool isNumeral(char32_t character) {
-  return (character >= U'0' && character <= U'9') || character == U'.';
-}
-
-}  // namespace
-
 bool isShort(const List& list) {
   const bool isNumber = std::ranges::all_of(list, [](const Atom& atom) {
     const auto* symbol = std::get_if<Symbol>(&atom.content);

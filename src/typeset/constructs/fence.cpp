@@ -3,6 +3,7 @@
 
 #include "typeset/commands.h"
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 
@@ -83,6 +84,14 @@ std::string Fence::say(const Speaker& speaker) const {
       if (isShort(content)) return inside;
       return speaker.phrase({"mathParentheses", "open parenthesis %1 close parenthesis"}, inside);
   }
+}
+
+std::string Fence::mathml() const {
+  const auto delimiter = [](char32_t character) {
+    return character == 0 ? std::string()
+                          : element("mo", escaped({&character, 1}), R"( fence="true" stretchy="true")");
+  };
+  return element("mrow", delimiter(opening) + mathmlRow(content) + delimiter(closing));
 }
 
 }  // namespace tavi::typeset

@@ -2,6 +2,7 @@
 
 #include "typeset/commands.h"
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 
@@ -57,6 +58,10 @@ std::string Fraction::say(const Speaker& speaker, bool hasScripts) const {
   constexpr Phrase whole{"mathLongFraction", "fraction %1 over %2 end of fraction"};
   const bool isBrief = isShort(numerator) && isShort(denominator) && !hasScripts;
   return speaker.phrase(isBrief ? brief : whole, speaker.list(numerator), speaker.list(denominator));
+}
+
+std::string Fraction::mathml() const {
+  return element("mfrac", mathmlRow(numerator) + mathmlRow(denominator));
 }
 
 }  // namespace tavi::typeset

@@ -3,6 +3,7 @@
 
 #include "typeset/commands.h"
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 #include "typeset/utf8.h"
@@ -71,6 +72,17 @@ Extent Group::set(Compositor& compositor, Style style) const {
 
 std::string Group::say(const Speaker& speaker) const {
   return speaker.list(content);
+}
+
+std::string Group::mathml() const {
+  if (!color) return mathmlRow(content);
+  constexpr std::string_view digits = "0123456789abcdef";
+  std::string attribute = R"( mathcolor="#)";
+  for (const std::uint8_t part : {color->red, color->green, color->blue}) {
+    attribute += digits[part >> 4];
+    attribute += digits[part & 15];
+  }
+  return element("mstyle", mathmlRow(content), attribute + '"');
 }
 
 }  // namespace tavi::typeset

@@ -3,6 +3,7 @@
 
 #include "typeset/commands.h"
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 
@@ -94,6 +95,11 @@ std::string Radical::say(const Speaker& speaker) const {
   if (index.empty() || number == U"2") return speaker.phrase(isBrief ? square : longSquare, inside);
   if (number == U"3") return speaker.phrase(isBrief ? cube : longCube, inside);
   return speaker.phrase(isBrief ? other : longOther, speaker.list(index), inside);
+}
+
+std::string Radical::mathml() const {
+  if (index.empty()) return element("msqrt", mathmlRow(radicand));
+  return element("mroot", mathmlRow(radicand) + mathmlRow(index));
 }
 
 }  // namespace tavi::typeset

@@ -2,6 +2,7 @@
 #include <utility>
 
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 
@@ -98,6 +99,14 @@ std::string Scripts::say(const Speaker& speaker) const {
     words = speaker.phrase(isShort(*superscript) ? power : longPower, words, speaker.list(*superscript));
   }
   return words;
+}
+
+std::string Scripts::mathml() const {
+  const std::string base = mathmlRow(nucleus);
+  if (superscript && subscript)
+    return element("msubsup", base + mathmlRow(*subscript) + mathmlRow(*superscript));
+  if (superscript) return element("msup", base + mathmlRow(*superscript));
+  return element("msub", base + mathmlRow(*subscript));
 }
 
 }  // namespace tavi::typeset

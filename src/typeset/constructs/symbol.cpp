@@ -4,6 +4,7 @@
 
 #include "typeset/commands.h"
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 #include "typeset/utf8.h"
@@ -114,6 +115,13 @@ std::string Symbol::say(const Speaker& speaker) const {
     return signs.characters.find(source) != std::u32string_view::npos;
   });
   return sign != spokenSigns.end() ? speaker.phrase(sign->phrase) : encodeUtf8({&source, 1});
+}
+
+std::string Symbol::mathml() const {
+  if (isNumeral(source)) return element("mn", escaped({&source, 1}));
+  const bool isIdentifier = atomClass == ordinary && (drawn != source || Reader::isLetter(source));
+  if (isIdentifier) return element("mi", escaped({&source, 1}), isUpright ? R"( mathvariant="normal")" : "");
+  return element("mo", escaped({&drawn, 1}));
 }
 
 }  // namespace tavi::typeset

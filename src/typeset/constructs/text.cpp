@@ -4,6 +4,7 @@
 
 #include "typeset/commands.h"
 #include "typeset/compositor.h"
+#include "typeset/mathml.h"
 #include "typeset/reader.h"
 #include "typeset/speaker.h"
 #include "typeset/utf8.h"
@@ -73,6 +74,10 @@ Extent Text::set(Compositor& compositor, Style style) const {
 std::string Text::say(const Speaker& speaker) const {
   const auto* const function = std::ranges::find(spokenFunctions, characters, &SpokenFunction::name);
   return function != spokenFunctions.end() ? speaker.phrase(function->phrase) : encodeUtf8(characters);
+}
+
+std::string Text::mathml() const {
+  return element(atomClass == AtomClass::operation ? "mi" : "mtext", escaped(characters));
 }
 
 }  // namespace tavi::typeset
