@@ -367,9 +367,21 @@
         <source>sharingPicture</source>
         <translation>Bild</translation>
     </message>
-    <message id="sharingCopyLatex">
-        <source>sharingCopyLatex</source>
+    <message id="copyAsLatex">
+        <source>copyAsLatex</source>
         <translation>Als LaTeX kopieren</translation>
+    </message>
+    <message id="copyAsMathMl">
+        <source>copyAsMathMl</source>
+        <translation>Als MathML kopieren</translation>
+    </message>
+    <message id="copyAsWords">
+        <source>copyAsWords</source>
+        <translation>In Worten kopieren</translation>
+    </message>
+    <message id="copyAsPicture">
+        <source>copyAsPicture</source>
+        <translation>Als Bild kopieren</translation>
     </message>
     <message id="sharingSaveAs">
         <source>sharingSaveAs</source>

@@ -367,9 +367,21 @@
         <source>sharingPicture</source>
         <translation>Picture</translation>
     </message>
-    <message id="sharingCopyLatex">
-        <source>sharingCopyLatex</source>
+    <message id="copyAsLatex">
+        <source>copyAsLatex</source>
         <translation>Copy as LaTeX</translation>
+    </message>
+    <message id="copyAsMathMl">
+        <source>copyAsMathMl</source>
+        <translation>Copy as MathML</translation>
+    </message>
+    <message id="copyAsWords">
+        <source>copyAsWords</source>
+        <translation>Copy as words</translation>
+    </message>
+    <message id="copyAsPicture">
+        <source>copyAsPicture</source>
+        <translation>Copy as picture</translation>
     </message>
     <message id="sharingSaveAs">
         <source>sharingSaveAs</source>

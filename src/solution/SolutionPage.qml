@@ -39,6 +39,7 @@ Rectangle {
                 roleValue: "step"
                 StepRow {
                     width: table.width
+                    onMenuRequested: place => rowMenu.openFor(index, this, place)
                     viewWidth: page.width
                     measures: page.controller.measures
                 }
@@ -47,6 +48,7 @@ Rectangle {
                 roleValue: "chart"
                 ChartRow {
                     width: table.width
+                    onMenuRequested: place => rowMenu.openFor(index, this, place)
                     viewWidth: page.width
                 }
             }
@@ -61,31 +63,69 @@ Rectangle {
 
         // A ring is for those who go by key: it comes with the first one, if only let go here.
         property bool isKeyed: false
-        onActiveFocusChanged: isKeyed = false
-        Keys.onReleased: isKeyed = true
-        Keys.onPressed: event => {
-            const page = height - 48;
-            const ways = {
-                [Qt.Key_Down]: 48,
-                [Qt.Key_Up]: -48,
-                [Qt.Key_PageDown]: page,
-                [Qt.Key_PageUp]: -page,
-                [Qt.Key_Home]: -contentHeight,
-                [Qt.Key_End]: contentHeight
-            };
-            const way = ways[event.key];
-            if (way === undefined)
-                return;
-            event.accepted = true;
+
+        function scrollBy(way: real) {
             const top = originY - topMargin;
             const foot = Math.max(top, originY + contentHeight + bottomMargin - height);
             contentY = Math.min(foot, Math.max(top, contentY + way));
+        }
+
+        // To the next row, but first to the end of one that is higher than the page.
+        function stepBy(way: int) {
+            const row = currentItem;
+            if (row && way > 0 && row.y + row.height > contentY + height)
+                return scrollBy(48);
+            if (row && way < 0 && row.y < contentY)
+                return scrollBy(-48);
+            currentIndex = Math.max(0, Math.min(count - 1, currentIndex + way));
+            // The second time it knows how high the rows on the way are.
+            positionViewAtIndex(currentIndex, ListView.Contain);
+            positionViewAtIndex(currentIndex, ListView.Contain);
+        }
+
+        function scrollPage(way: real) {
+            scrollBy(way);
+            const middle = indexAt(width / 2, contentY + height / 2);
+            currentIndex = middle >= 0 ? middle : way < 0 ? 0 : count - 1;
+        }
+
+        function openMenu() {
+            if (currentItem)
+                rowMenu.openFor(currentIndex, currentItem, Qt.point(currentItem.width / 2, currentItem.height / 2));
+        }
+
+        keyNavigationEnabled: false
+        highlightFollowsCurrentItem: false
+        onActiveFocusChanged: isKeyed = false
+        Keys.onReleased: isKeyed = true
+        Keys.onPressed: event => {
+            const actions = {
+                [Qt.Key_Down]: () => stepBy(1),
+                [Qt.Key_Up]: () => stepBy(-1),
+                [Qt.Key_PageDown]: () => scrollPage(height - 48),
+                [Qt.Key_PageUp]: () => scrollPage(48 - height),
+                [Qt.Key_Home]: () => scrollPage(-contentHeight),
+                [Qt.Key_End]: () => scrollPage(contentHeight),
+                [Qt.Key_Left]: () => currentItem && currentItem.pressed(event.key),
+                [Qt.Key_Right]: () => currentItem && currentItem.pressed(event.key),
+                [Qt.Key_Menu]: () => openMenu()
+            };
+            if (event.matches(StandardKey.Copy))
+                page.controller.copyRow(isKeyed ? currentIndex : -1, RowCopy.Latex);
+            else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
+                openMenu();
+            else if (event.modifiers === Qt.NoModifier && event.key in actions)
+                actions[event.key]();
+            else
+                return;
+            event.accepted = true;
         }
 
         Connections {
             target: page.controller
             function onScrollToTopRequested() {
                 table.positionViewAtBeginning();
+                table.currentIndex = 0;
             }
             function onSolutionShown() {
                 table.forceActiveFocus(Qt.TabFocusReason);
@@ -93,9 +133,10 @@ Rectangle {
         }
     }
 
-    FocusRing {
-        anchors.fill: table
-        visible: table.activeFocus && table.isKeyed
+    RowMenu {
+        id: rowMenu
+
+        controller: page.controller
     }
     ScrollThumb {
         flickable: table

@@ -1,6 +1,9 @@
 #include "solution/solution_view_controller.h"
 
+#include <QClipboard>
 #include <QCoroTimer>
+#include <QGuiApplication>
+#include <algorithm>
 
 #include "appearance/color_manager.h"
 #include "number/fatal_stop.h"
@@ -17,8 +20,6 @@
 #include "solution/share/step_records.h"
 #include "solution/share/table_capture.h"
 #include "typeset/math_label.h"
-#include "typeset/parser.h"
-#include "typeset/spoken_math.h"
 
 namespace tavi {
 
@@ -102,8 +103,7 @@ PicturedTable SolutionViewController::picturedTable() {
 
 QString SolutionViewController::subject() const {
   if (data_.solutionSteps.empty()) return {};
-  const typeset::Formula task = typeset::parse(data_.solutionSteps.front().latexString.value_or(""));
-  return QString::fromStdString(typeset::spokenMath(task.list, typeset::translatedPhrase));
+  return typeset::spokenText(QString::fromStdString(data_.solutionSteps.front().latexString.value_or("")));
 }
 
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
@@ -112,6 +112,23 @@ void SolutionViewController::presentShareSheet(const ShareItems& items) {
       SharedWorking{items.front(), table_.rows(), view() ? view()->width() : 0, subject()});
   if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
+}
+
+void SolutionViewController::copyRow(int row, RowCopy::Form form) {
+  const std::vector<SolutionRow>& rows = table_.rows();
+  if (rows.empty()) return;
+  auto copied = rows.begin() + row;
+  if (row < 0 || row >= table_.rowCount()) {
+    copied = std::ranges::find_if(rows, [](const SolutionRow& each) {
+      const auto* step = std::get_if<SolutionStepTableViewCell>(&each.content);
+      return step && step->isResult;
+    });
+    if (copied == rows.end()) copied = rows.begin();
+  }
+  const double viewWidth = view() ? view()->width() : 0;
+  QGuiApplication::clipboard()->setMimeData(
+      copyOfRow(*copied, form, viewWidth).release());  // which takes it over
+  ViewManager::showToast(localized("sharingCopied"));
 }
 
 void SolutionViewController::manualButtonPressed() {

@@ -13,6 +13,7 @@
 #include "shell/frame/view_controller.h"
 #include "solution/rows/row_measures.h"
 #include "solution/rows/solution_table_data.h"
+#include "solution/share/row_copies.h"
 #include "solution/share/table_capture.h"
 #include "solution/solution_table.h"
 
@@ -68,6 +69,8 @@ class SolutionViewController : public AdHandlingViewController {
   /// Pictures the whole table while a message says so, and then offers the picture.
   Q_INVOKABLE void tappedShareButton();
   Q_INVOKABLE void manualButtonPressed();
+  /// Puts the row on the clipboard; without such a row that of the result.
+  Q_INVOKABLE void copyRow(int row, tavi::RowCopy::Form form);
 
  signals:
   void layoutChanged();

@@ -11,6 +11,7 @@
 
 #include "typeset/bundled_font.h"
 #include "typeset/parser.h"
+#include "typeset/spoken_math.h"
 
 namespace tavi::typeset {
 namespace {
@@ -24,12 +25,20 @@ MathFont& sharedFont() {
   return font;
 }
 
-}  // namespace
-
 std::string translatedPhrase(const Phrase& phrase) {
   const std::string id(phrase.key);
   const QString translated = qtTrId(id.c_str());
   return translated == QLatin1String(id) ? englishPhrase(phrase) : translated.toStdString();
+}
+
+QString spoken(const List& line) {
+  return QString::fromStdString(spokenMath(line, translatedPhrase));
+}
+
+}  // namespace
+
+QString spokenText(const QString& latex) {
+  return spoken(parse(latex.toStdString()).list);
 }
 
 /// The part of a label that is seen. The label sets what it draws in the thread of the interface; the scene
@@ -123,7 +132,7 @@ void MathLabel::setLine() {
   const Layout layout = layOut(formula.list, sharedFont(), fontSize_);
   const auto& fault = formula.error ? formula.error : layout.error;
   const QString error = fault ? QString::fromStdString(fault->text()) : QString();
-  const QString spokenText = QString::fromStdString(spokenMath(formula.list, translatedPhrase));
+  const QString words = spoken(formula.list);
 
   const bool isWidthNew = std::exchange(contentWidth_, layout.width) != layout.width;
   contentHeight_ = layout.height + layout.depth;
@@ -134,7 +143,7 @@ void MathLabel::setLine() {
   showVisiblePart();
   if (isWidthNew) emit contentWidthChanged();
   if (std::exchange(error_, error) != error) emit errorChanged();
-  if (std::exchange(spokenText_, spokenText) != spokenText) {
+  if (std::exchange(spokenText_, words) != words) {
     tellAssistiveTechnology();
     emit spokenTextChanged();
   }

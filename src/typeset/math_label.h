@@ -10,14 +10,13 @@
 
 #include "typeset/math_font.h"
 #include "typeset/math_painter.h"
-#include "typeset/spoken_math.h"
 
 namespace tavi::typeset {
 
 class MathSlice;
 
-/// The phrase in the language of the installed translations.
-std::string translatedPhrase(const Phrase& phrase);
+/// A line of LaTeX in words, in the language of the installed translations.
+QString spokenText(const QString& latex);
 
 /// A line of LaTeX as mathematics. Its implicit size is that of the line; it draws no more of a wide line
 /// than the viewport around it shows, and it tells assistive technology the line in words.

@@ -1,6 +1,9 @@
 // The solution page as it is laid out and as assistive technology is told of it.
 #include <QAccessible>
+#include <QClipboard>
+#include <QMimeData>
 #include <QSignalSpy>
+#include <functional>
 
 #include "solution/solution_stage.h"
 
@@ -31,7 +34,6 @@ TEST_F(SolutionPageTest, AWideFormulaScrollsSidewaysByKeyToItsEnd) {
   ASSERT_TRUE(scroll);
   const double hidden = scroll->property("contentWidth").toDouble() - scroll->width();
   ASSERT_GT(hidden, 1000);
-  scroll->forceActiveFocus();
   for (double way = 0; way < hidden + 48; way += 48) QTest::keyClick(&window, Qt::Key_Right);
   EXPECT_EQ(scroll->property("contentX").toDouble(), hidden);
 }
@@ -68,6 +70,55 @@ TEST_F(SolutionPageTest, ANewSolutionHasTheKeyboardAndItsRingComesWithTheFirstKe
   EXPECT_FALSE(table().property("isKeyed").toBool());
   QTest::keyClick(&window, Qt::Key_Down);
   EXPECT_TRUE(table().property("isKeyed").toBool());
+}
+
+TEST_F(SolutionPageTest, TheKeyboardGoesFromRowToRowAndCopiesThem) {
+  show({formulaStep("Your Input", "\\frac{3}{4}"), formulaStep("Step", "2"), formulaStep("Result", "=x")});
+  const auto copied = [] { return QGuiApplication::clipboard()->mimeData(); };
+  QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(copied()->text(), "=x") << "the result, as no row is chosen";
+  QTest::keyClick(&window, Qt::Key_Up);
+  QTest::keyClick(&window, Qt::Key_C, Qt::ControlModifier);
+  EXPECT_EQ(copied()->text(), "\\frac{3}{4}");
+  QTest::keyClick(&window, Qt::Key_Down);
+  EXPECT_EQ(table().property("currentIndex").toInt(), 1);
+  for (const auto& [form, expected] :
+       {std::pair{RowCopy::Words, "Your Input, 3 over 4"}, std::pair{RowCopy::Latex, "\\frac{3}{4}"}}) {
+    solution->copyRow(0, form);
+    EXPECT_EQ(copied()->text(), QLatin1String(expected));
+  }
+  solution->copyRow(0, RowCopy::MathMl);
+  EXPECT_TRUE(copied()->data("application/mathml+xml").contains("<mfrac><mn>3</mn><mn>4</mn></mfrac>"));
+  solution->copyRow(0, RowCopy::Picture);
+  EXPECT_EQ(copied()->imageData().value<QImage>().width(), 412 * 3);
+}
+
+TEST_F(SolutionPageTest, ARowHasItsMenuByKeyByRightClickAndByLongPress) {
+  show({formulaStep("Your Input", "1"), formulaStep("Result", "2")});
+  const std::function<bool(const QQuickItem&)> holdsMenu = [&holdsMenu](const QQuickItem& item) {
+    return (item.isVisible() && item.objectName() == "copyRowLatex") ||
+           std::ranges::any_of(item.childItems(), [&](const QQuickItem* child) { return holdsMenu(*child); });
+  };
+  const auto isOpen = [&] { return holdsMenu(*window.contentItem()); };
+  const QPoint place = cells().at(1)->mapToScene({100, 50}).toPoint();
+  const std::function<void()> ways[] = {[&] { QTest::keyClick(&window, Qt::Key_Menu); },
+                                        [&] { QTest::mouseClick(&window, Qt::RightButton, {}, place); },
+                                        [&] {
+                                          QTest::mousePress(&window, Qt::LeftButton, {}, place);
+                                          EXPECT_TRUE(QTest::qWaitFor(isOpen, 5000));
+                                          QTest::mouseRelease(&window, Qt::LeftButton, {}, place);
+                                        }};
+  for (const auto& way : ways) {
+    way();
+    ASSERT_TRUE(QTest::qWaitFor(isOpen, 5000));
+    QTest::keyClick(&window, Qt::Key_Escape);
+    ASSERT_TRUE(QTest::qWaitFor([&] { return !isOpen(); }));
+  }
+  QTest::mouseClick(&window, Qt::RightButton, {}, place);
+  ASSERT_TRUE(QTest::qWaitFor(isOpen));
+  QTest::keyClick(&window, Qt::Key_Down);
+  QTest::keyClick(&window, Qt::Key_Return);
+  EXPECT_TRUE(QTest::qWaitFor([] { return QGuiApplication::clipboard()->text() == "2"; }));
 }
 
 TEST_F(SolutionPageTest, TheLastRowCanBeScrolledClearOfTheButtons) {

@@ -1,15 +1,10 @@
 import QtQuick
 import QtQuick.Window
-import Tavi
 
 // A row of charts. They start half a second after the row has come into sight, each time it does.
-Item {
+TableRow {
     id: row
 
-    required property var content
-    required property var rowHeight
-    required property real viewWidth
-    readonly property Flickable table: ListView.view
     readonly property bool isInSight: Window.window !== null && table !== null && y + height > table.contentY && y < table.contentY + table.height
 
     signal started

@@ -3,17 +3,20 @@ import Tavi
 
 // The row of a step: a title over a formula that scrolls sideways and is never shrunk. It is as high as the controller
 // says, and higher only where the formula would be cut.
-Item {
+TableRow {
     id: cell
 
-    required property var content
-    required property var rowHeight
-    required property real viewWidth
     required property var measures
     readonly property bool hasTitle: content.title !== ""
     readonly property real headHeight: hasTitle ? measures.padding + title.height + measures.gap : measures.gap
 
     height: Math.max(rowHeight.at(viewWidth), headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + measures.padding)
+    function pressed(key: int) {
+        const furthest = Math.max(0, scrollView.contentWidth - scrollView.width);
+        const way = key === Qt.Key_Right ? 48 : -48;
+        scrollView.contentX = Math.max(0, Math.min(furthest, scrollView.contentX + way));
+    }
+
     Accessible.role: Accessible.StaticText
     Accessible.name: [content.title, content.message || formula.spokenText].filter(text => text).join(", ")
 
@@ -93,9 +96,6 @@ Item {
         boundsBehavior: Flickable.StopAtBounds
         interactive: isWide
         clip: isWide
-        activeFocusOnTab: isWide
-        Keys.onRightPressed: contentX = Math.min(contentWidth - width, contentX + 48)
-        Keys.onLeftPressed: contentX = Math.max(0, contentX - 48)
 
         MathLabel {
             id: formula
@@ -123,9 +123,5 @@ Item {
         orientation: Qt.Horizontal
         anchors.bottom: parent.bottom
         anchors.bottomMargin: 3
-    }
-    FocusRing {
-        anchors.fill: scrollView
-        visible: scrollView.activeFocus
     }
 }

@@ -104,20 +104,16 @@ Item {
                     x: 24
                     width: parent.width - 48
                     selectedSegmentIndex: page.controller.format
-                    segments: [
-                        {
-                            name: qsTrId("sharingPicture"),
-                            picture: pictureName
-                        },
-                        {
-                            name: "PDF",
-                            picture: pdfName
-                        },
-                        {
-                            name: "SVG",
-                            picture: svgName
-                        }
-                    ]
+                    segments: [{
+                            "name": qsTrId("sharingPicture"),
+                            "picture": pictureName
+                        }, {
+                            "name": "PDF",
+                            "picture": pdfName
+                        }, {
+                            "name": "SVG",
+                            "picture": svgName
+                        }]
                     onValueChanged: index => page.controller.format = index
                 }
             }
@@ -150,7 +146,7 @@ Item {
             }
             SheetRow {
                 objectName: "copyLatex"
-                text: qsTrId("sharingCopyLatex")
+                text: qsTrId("copyAsLatex")
                 iconText: Icons.copy
                 onClicked: page.controller.copyLatex()
             }

@@ -1,0 +1,36 @@
+import QtQuick
+import Tavi
+
+// What all rows of the table share: their place in it, the ring when the keyboard acts on them, their menu.
+Item {
+    id: row
+
+    required property int index
+    required property var content
+    required property var rowHeight
+    required property real viewWidth
+    readonly property ListView table: ListView.view
+    readonly property bool isCurrent: ListView.isCurrentItem && table !== null && table.activeFocus && table.isKeyed
+
+    signal menuRequested(point place)
+
+    // The arrows to the left and to the right, if the row has a use for them.
+    function pressed(key: int) {
+    }
+
+    Accessible.focusable: true
+    Accessible.focused: isCurrent
+
+    TapHandler {
+        gesturePolicy: TapHandler.DragThreshold
+        onLongPressed: row.menuRequested(point.position)
+    }
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => row.menuRequested(eventPoint.position)
+    }
+    FocusRing {
+        visible: row.isCurrent
+        z: 1
+    }
+}
