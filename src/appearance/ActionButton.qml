@@ -1,10 +1,9 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tavi
 
 // A button with a title or an icon on a coloured, rounded ground, which darkens at once while it is pressed.
 // Styling writes its colours and its shadow into the attached view.
-T.Button {
+Pressable {
     id: control
 
     property string iconText
@@ -20,15 +19,6 @@ T.Button {
     rightPadding: 12
     opacity: View.alpha * (enabled ? 1 : 0.4)
     font: Theme.medium(22)
-    hoverEnabled: false
-    Accessible.name: text
-
-    // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
-    HoverHandler {
-        id: pointer
-
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-    }
 
     background: Item {
         Shadow {
@@ -40,7 +30,7 @@ T.Button {
         Rectangle {
             anchors.fill: parent
             radius: control.radius
-            color: control.down ? Qt.darker(control.groundColor, 1.3) : pointer.hovered ? Qt.darker(control.groundColor, 1.06) : control.groundColor
+            color: Qt.darker(control.groundColor, control.down ? 1.3 : control.isHovered ? 1.06 : 1)
         }
         FocusRing {
             control: control

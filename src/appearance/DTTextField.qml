@@ -54,7 +54,8 @@ DTTextFieldItem {
         }
         Accessible.role: Accessible.EditableText
         Accessible.name: field.label
-        Accessible.description: field.fault === "" ? "" : qsTrId("Invalid entry") + ": " + field.fault
+        Accessible.description: field.faultWords === "" ? "" : qsTrId("Invalid entry") + ": " + field.faultWords
+        Accessible.readOnly: !field.enabled
         Keys.forwardTo: field // Before this input takes a Backspace without deleting anything.
 
         // Field and input tell each other their changes, one at a time.

@@ -1,14 +1,15 @@
 import QtQuick
 import Tavi
 
-// The ring around the control that the keyboard acts on.
+// The ring around what the keyboard acts on, for those who go by key.
 Rectangle {
     property Item control
     property color ground: Theme.background
 
+    objectName: "focusRing"
     anchors.fill: parent
     anchors.margins: 1
-    visible: control && control.visualFocus
+    visible: control && control.activeFocus && KeyboardUse.isCurrent
     color: "transparent"
     border.width: 2
     border.color: Theme.legible(Theme.focus, ground)

@@ -1,9 +1,8 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tavi
 
 // A flat button of a toolbar: an icon or, without one, its title.
-T.AbstractButton {
+Pressable {
     id: control
 
     property string iconText
@@ -17,24 +16,14 @@ T.AbstractButton {
     implicitHeight: Theme.touchTarget
     leftPadding: 12
     rightPadding: 12
-    hoverEnabled: false
     font: Theme.medium(14)
-    Accessible.role: Accessible.Button
-    Accessible.name: text
     Accessible.checkable: isOn
     Accessible.checked: isOn
-
-    // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
-    HoverHandler {
-        id: pointer
-
-        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-    }
 
     background: Rectangle {
         radius: height / 2
         color: control.tintColor
-        opacity: control.down ? 0.2 : control.isOn ? 0.14 : pointer.hovered ? 0.08 : 0
+        opacity: control.down ? 0.2 : control.isOn ? 0.14 : control.isHovered ? 0.08 : 0
     }
     contentItem: Text {
         text: control.iconText || control.text

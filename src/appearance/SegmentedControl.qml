@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tavi
 
 // Segments of equal width in a rounded frame, of which one is chosen. Each shows a picture.
@@ -24,27 +23,22 @@ Rectangle {
     Repeater {
         model: control.segments
 
-        T.AbstractButton {
+        Pressable {
             id: segment
 
             required property int index
             required property var modelData
             readonly property bool isChosen: index === control.selectedSegmentIndex
-            property int accessibleRole: Accessible.RadioButton // As `Accessible.role` gets lost in the template.
 
             objectName: "segment" + index
             x: index * width
             width: control.width / control.segments.length
             height: control.height
             focusPolicy: Qt.TabFocus
-            hoverEnabled: true
             text: modelData.name
-            Accessible.role: accessibleRole
-            Accessible.name: text
+            accessibleRole: Accessible.RadioButton
             Accessible.checkable: true
             Accessible.checked: isChosen
-            Keys.onReturnPressed: segment.clicked()
-            Keys.onEnterPressed: segment.clicked()
             onClicked: if (!isChosen)
                 control.valueChanged(index)
             background: Rectangle {

@@ -1,5 +1,7 @@
 #include "appearance/dt_text_field.h"
 
+#include "appearance/appearance.h"
+#include "appearance/interface_colors.h"
 #include "appearance/view.h"
 #include "number/fatal_stop.h"
 
@@ -17,29 +19,30 @@ View& viewOf(const DTTextField& field) {
 
 DTTextField::DTTextField(QQuickItem* parent) : QQuickItem(parent) {
   setFlag(ItemIsFocusScope);
+  connect(&Appearance::shared(), &Appearance::changed, this, &DTTextField::appearanceChanged);
 }
 
 void DTTextField::setText(const QString& text) {
   if (text == text_) return;
   text_ = text;
   if (selection_) selection_ = TextRange{text.size(), text.size()};
-  setFault({});
+  clearFault();
   emit textChanged();
   if (selection_) emit selectionChanged();
 }
 
 void DTTextField::setSelectedTextRange(TextRange range) {
-  if (!contains(range)) fatalStop("a caret outside the text");
+  if (!isWithinText(range)) fatalStop("a caret outside the text");
   if (selection_ == range) return;
   selection_ = range;
   emit selectionChanged();
 }
 
 void DTTextField::select(int start, int end) {
-  if (contains({start, end})) setSelectedTextRange({start, end});
+  if (isWithinText({start, end})) setSelectedTextRange({start, end});
 }
 
-bool DTTextField::contains(TextRange range) const {
+bool DTTextField::isWithinText(TextRange range) const {
   return 0 <= range.start && range.start <= range.end && range.end <= text_.size();
 }
 
@@ -50,16 +53,30 @@ void DTTextField::setHidden(bool isHidden) {
   emit isHiddenChanged();
 }
 
+QColor DTTextField::borderColor() const {
+  if (!fault_) return borderColor_;
+  return *fault_ == Fault::missing ? InterfaceColor::orange() : InterfaceColor::red();
+}
+
 void DTTextField::setBorderColor(const QColor& color) {
-  if (color == borderColor_) return;
+  if (color == borderColor_ && !fault_) return;
   borderColor_ = color;
+  fault_.reset();
+  faultWords_.clear();
   emit appearanceChanged();
 }
 
-void DTTextField::setFault(const QString& words) {
-  if (words == fault_) return;
-  fault_ = words;
-  emit faultChanged();
+void DTTextField::setFault(Fault fault, const QString& words) {
+  fault_ = fault;
+  faultWords_ = words;
+  emit appearanceChanged();
+}
+
+void DTTextField::clearFault() {
+  if (!fault_) return;
+  fault_.reset();
+  faultWords_.clear();
+  emit appearanceChanged();
 }
 
 QColor DTTextField::backgroundColor() const {

@@ -49,7 +49,7 @@ class DTTextField : public QQuickItem {
   Q_PROPERTY(int selectionEnd READ selectionEnd NOTIFY selectionChanged)
   Q_PROPERTY(bool isHidden READ isHidden WRITE setHidden NOTIFY isHiddenChanged)
   Q_PROPERTY(QColor borderColor READ borderColor WRITE setBorderColor NOTIFY appearanceChanged)
-  Q_PROPERTY(QString fault READ fault WRITE setFault NOTIFY faultChanged)
+  Q_PROPERTY(QString faultWords READ faultWords NOTIFY appearanceChanged)
   Q_PROPERTY(tavi::FieldStyle style READ style WRITE setStyle NOTIFY appearanceChanged)
 
  public:
@@ -80,12 +80,17 @@ class DTTextField : public QQuickItem {
   /// Whether the field stands in something, and that is not hidden.
   bool isInVisibleHolder() const { return parentItem() != nullptr && parentItem()->isVisible(); }
 
-  QColor borderColor() const { return borderColor_; }
+  /// Of a field at fault the colour of its fault in the appearance in force, else what was set last. Setting
+  /// it takes a fault away.
+  QColor borderColor() const;
   void setBorderColor(const QColor& color);
 
-  /// What is wrong with the text, in words; empty when nothing is.
-  QString fault() const { return fault_; }
-  void setFault(const QString& words);
+  enum class Fault { missing, wrong };
+
+  /// Marks the field, for the eye and, with the words, for assistive technology.
+  void setFault(Fault fault, const QString& words);
+  QString faultWords() const { return faultWords_; }
+  void clearFault();
 
   /// The background lies in the attached view, where styling writes it as well.
   QColor backgroundColor() const;
@@ -102,7 +107,6 @@ class DTTextField : public QQuickItem {
   void selectionChanged();
   void isHiddenChanged();
   void appearanceChanged();
-  void faultChanged();
 
   /// The user is about to edit here.
   void shouldBeginEditing(tavi::DTTextField* field);
@@ -111,7 +115,7 @@ class DTTextField : public QQuickItem {
   void itemChange(ItemChange change, const ItemChangeData& data) override;
 
  private:
-  bool contains(TextRange range) const;
+  bool isWithinText(TextRange range) const;
   int selectionStart() const { return selection_ ? static_cast<int>(selection_->start) : 0; }
   int selectionEnd() const { return selection_ ? static_cast<int>(selection_->end) : 0; }
 
@@ -119,7 +123,8 @@ class DTTextField : public QQuickItem {
   std::optional<TextRange> selection_;
   bool isHidden_ = false;
   QColor borderColor_;
-  QString fault_;
+  std::optional<Fault> fault_;
+  QString faultWords_;
   FieldStyle style_;
 };
 

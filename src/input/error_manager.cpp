@@ -83,20 +83,31 @@ void ErrorManager::reportInputError(const QString& key, const QList<DTTextField*
   const bool isMissing = key == text(TaviError::notEnoughInputValues);
   qInfo().noquote() << (isMissing ? QString("INPUT: NOT ENOUGH INPUT VALUES") : "INPUT ERROR: " + key);
   for (DTTextField* field : fields) {
-    field->setBorderColor(isMissing ? InterfaceColor::orange() : InterfaceColor::red());
-    field->setFault(errorWords(key));
+    field->setFault(isMissing ? DTTextField::Fault::missing : DTTextField::Fault::wrong,
+                    wordsOf(key).value_or(QString()));
   }
   showErrorMessage(key);
 }
 
 void ErrorManager::showErrorMessage(const QString& key) const {
-  const QString words = errorWords(key);
-  if (words.isEmpty()) return;
-  if (pieces(key).front() == text(TaviError::oppositionError)) {
-    presenter_.presentAlert(QString::fromStdString(LocalizedString::error.text()), words);
-  } else {
-    presenter_.showToast(words);
-  }
+  const std::optional<QString> words = wordsOf(key);
+  if (!words) return;
+  if (key.section(u'§', 0, 0, QString::SectionSkipEmpty) == text(TaviError::oppositionError))
+    presenter_.presentAlert(QString::fromStdString(LocalizedString::error.text()), *words);
+  else
+    presenter_.showToast(*words);
+}
+
+std::optional<QString> ErrorManager::wordsOf(const QString& key) {
+  const QStringList pieces = key.split(u'§', Qt::SkipEmptyParts);
+  if (pieces.isEmpty()) return std::nullopt;
+  QString words = localized(qUtf8Printable(pieces.front()));
+  const auto* const numbered = std::ranges::find_if(
+      numberedKeys, [&](const NumberedKey& row) { return text(row.key) == pieces.front(); });
+  if (numbered == numberedKeys.end()) return words;
+  if (pieces.size() != 1 + numbered->numbers) return std::nullopt;
+  for (qsizetype i = 0; i < numbered->numbers; ++i) words.replace(u'%' + QString::number(i), pieces[i + 1]);
+  return words;
 }
 
 }  // namespace tavi

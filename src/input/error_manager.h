@@ -3,6 +3,7 @@
 #include <QList>
 #include <QPointer>
 #include <QString>
+#include <optional>
 #include <utility>
 
 #include "appearance/dt_text_field.h"
@@ -26,18 +27,24 @@ class ErrorManager {
   /// Fields of a hidden holder neither count nor change.
   void refreshFields();
 
-  /// Logs the key, then marks the fields (orange for a missing value, red for a wrong one; the words are
-  /// their fault), then shows the words.
+  /// Logs the key, then marks the fields (orange for a missing value, red for a wrong one) with the words,
+  /// then shows the words.
   void reportInputError(const QString& key, const QList<DTTextField*>& fields);
 
   /// Shows the words of a key, which may carry numbers behind it: mustBeLessThanX§5. A key with the wrong
   /// count of numbers shows nothing.
   void showErrorMessage(const QString& key) const;
 
+  /// Takes the words away again that still stand over the screen: the user goes on.
+  void withdrawMessage() const { presenter_.hideToast(); }
+
   Fields allFields;                ///< All text fields of the screen.
   int requiredAmountOfFields = 0;  ///< How many fields the task needs; 0 leaves all fields alone.
 
  private:
+  /// The words of a key, none for one with the wrong count of numbers.
+  static std::optional<QString> wordsOf(const QString& key);
+
   MessagePresenter presenter_;
 };
 

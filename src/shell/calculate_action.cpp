@@ -26,6 +26,7 @@ QString qString(std::string_view text) {
 
 bool CalculateViewController::performCalculation() {
   isCalculating = true;
+  errorManager_.withdrawMessage();
   wipeMarks();
   std::vector<std::string> texts;
   for (const std::string& identifier : allIds) texts.push_back(visibleText(identifier));

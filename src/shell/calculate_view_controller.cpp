@@ -259,6 +259,7 @@ bool CalculateViewController::isMinusKeyEnabled() const {
 void CalculateViewController::insertKeypadValue(const QString& title) {
   if (title.isEmpty()) fatalStop("a keypad key without a title");
   if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  errorManager_.withdrawMessage();
   const TextRange selection = *currentTextField->selectedTextRange();
   const qsizetype caret = selection.start;
   QString text = without(currentTextField->text(), selection);
@@ -282,6 +283,7 @@ void CalculateViewController::insertKeypadValue(const QString& title) {
 
 void CalculateViewController::deleteBackward() {
   if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  errorManager_.withdrawMessage();
   TextRange selection = *currentTextField->selectedTextRange();
   if (selection.end == 0) return;
   if (selection.start == selection.end) --selection.start;
@@ -313,9 +315,7 @@ void CalculateViewController::setText(const QString& text) {
 // What is left of an earlier failed attempt.
 void CalculateViewController::wipeMarks() {
   for (const auto& field : errorManager_.allFields) {
-    if (!field) continue;
-    field->setBorderColor(InterfaceColor::fieldNeutral());
-    field->setFault({});
+    if (field) field->setBorderColor(InterfaceColor::fieldNeutral());
   }
 }
 
@@ -323,6 +323,7 @@ void CalculateViewController::clearAll() {
   Analytics::logEvent(events::tappedClear);
   wipeMarks();
   if (isCalculating) return;
+  errorManager_.withdrawMessage();
 
   auto* tabs = ancestor<AppPageTabBarController>();
   auto* solution =

@@ -68,8 +68,8 @@ void SolutionViewController::tappedShareButton() {
   detached(share());
 }
 
-/// The message and the picture race: whichever is done last finds the picture there and nothing shown over
-/// the page, and so shows the one sheet.
+/// The message and the picture race: whichever is done last finds the picture there and the message gone, and
+/// so shows the one sheet.
 QCoro::Task<> SolutionViewController::share() {
   if (data_.solutionSteps.empty()) co_return;
   isTakingScreenshot = true;
@@ -79,6 +79,7 @@ QCoro::Task<> SolutionViewController::share() {
   presentAlert(localized("sharingImageQualityTitle"), localized("sharingImageQualityText"),
                {{localized("OK"),
                  [self, items] {
+                   items->isMessageRead = true;
                    if (self) self->presentShareSheet(*items);
                  }}},
                AlertStyle::alert);
@@ -86,7 +87,7 @@ QCoro::Task<> SolutionViewController::share() {
   // The tap is over before the capture begins, so that message and spinner are seen even for a short working.
   co_await QCoro::sleepFor(std::chrono::milliseconds(0));
   const QImage image = co_await tableViewScreenshot(table);
-  if (!image.isNull()) items->push_back(image);
+  if (!image.isNull()) items->images.push_back(image);
   ViewManager::hideSpinner();
   isTakingScreenshot = false;
   if (self) self->presentShareSheet(*items);
@@ -107,9 +108,9 @@ QString SolutionViewController::subject() const {
 }
 
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
-  if (items.empty()) return;
+  if (items.images.empty() || (isCovered() && !items.isMessageRead)) return;
   auto sheet = std::make_shared<ShareSheetController>(
-      SharedWorking{items.front(), table_.rows(), view() ? view()->width() : 0, subject()});
+      SharedWorking{items.images.front(), table_.rows(), view() ? view()->width() : 0, subject()});
   if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
 }

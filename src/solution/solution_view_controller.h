@@ -84,7 +84,11 @@ class SolutionViewController : public AdHandlingViewController {
   void viewWillAppear() override;
 
  private:
-  using ShareItems = std::vector<QImage>;
+  /// What the message before a share sheet and the capture behind it share.
+  struct ShareItems {
+    std::vector<QImage> images;
+    bool isMessageRead = false;
+  };
 
   void updateTabItem();
   void scrollToTop();

@@ -51,8 +51,9 @@ class ErrorManagerTest : public testing::Test {
   std::vector<std::unique_ptr<DTTextField>> fields_;
   QStringList messages_;
   ErrorManager manager_{
-      {[this](const QString& text) { messages_.append("toast: " + text); },
-       [this](const QString& title, const QString& text) { messages_.append(title + ": " + text); }}};
+      {.showToast = [this](const QString& text) { messages_.append("toast: " + text); },
+       .presentAlert = [this](const QString& title,
+                              const QString& text) { messages_.append(title + ": " + text); }}};
 };
 
 TEST_F(ErrorManagerTest, EmptyFieldsAreSwitchedOffOnceEnoughAreFilled) {
@@ -87,14 +88,14 @@ TEST_F(ErrorManagerTest, AReportIsLoggedThenColouredThenShown) {
     order.append(event.name + " " + event.parameters->value("error_case").toString());
   });
   QObject::connect(fields_[0].get(), &DTTextField::appearanceChanged, [&] { order.append("coloured"); });
-  ErrorManager manager({[&](const QString&) { order.append("shown"); }, {}});
+  ErrorManager manager({[&](const QString&) { order.append("shown"); }});
   manager.reportInputError("fractionIncomplete", {fields_[0].get()});
   Analytics::setSink({});
   EXPECT_EQ(order, QStringList({"tavi_got_error fractionIncomplete", "coloured", "shown"}));
   EXPECT_EQ(fields_[0]->borderColor(), InterfaceColor::red());
-  EXPECT_EQ(fields_[0]->fault(), "fractionIncomplete");
+  EXPECT_EQ(fields_[0]->faultWords(), "fractionIncomplete");
   fields_[0]->setText("1/2");
-  EXPECT_EQ(fields_[0]->fault(), "");
+  EXPECT_EQ(fields_[0]->faultWords(), "");
 
   manager_.reportInputError("notEnoughInputValues", {fields_[2].get()});
   EXPECT_EQ(fields_[2]->borderColor(), InterfaceColor::orange());

@@ -248,7 +248,7 @@ TEST_F(CalculateViewControllerTest, RejectedInputIsToldAndLeavesTheHistory) {
     for (const char* name : {"exponentField", "baseField", "indexField", "radicandField"}) {
       const bool isMarked = page_.field(name).borderColor() != InterfaceColor::fieldNeutral();
       marked += isMarked ? *name : ' ';
-      EXPECT_EQ(page_.field(name).fault().isEmpty(), !isMarked) << each.key;
+      EXPECT_EQ(page_.field(name).faultWords().isEmpty(), !isMarked) << each.key;
     }
     EXPECT_EQ(marked, each.marked) << each.key;
     EXPECT_FALSE(isCalculating);

@@ -67,9 +67,12 @@ TEST_F(SolutionPageTest, OnlyANewSolutionBeginsAtItsTop) {
 TEST_F(SolutionPageTest, ANewSolutionHasTheKeyboardAndItsRingComesWithTheFirstKey) {
   show({formulaStep("Result", "1")});
   EXPECT_TRUE(table().hasActiveFocus());
-  EXPECT_FALSE(table().property("isKeyed").toBool());
+  QTest::mouseClick(&window, Qt::LeftButton, {}, {2, 2});
+  const auto rings = solution->view()->findChildren<QQuickItem*>("focusRing");
+  const auto isRingSeen = [&rings] { return std::ranges::any_of(rings, &QQuickItem::isVisible); };
+  EXPECT_FALSE(isRingSeen());
   QTest::keyClick(&window, Qt::Key_Down);
-  EXPECT_TRUE(table().property("isKeyed").toBool());
+  EXPECT_TRUE(isRingSeen());
 }
 
 TEST_F(SolutionPageTest, TheKeyboardGoesFromRowToRowAndCopiesThem) {

@@ -12,16 +12,18 @@ Window {
     height: 870
     minimumWidth: 320
     minimumHeight: 320
+    title: qsTrId("Tavi Solver")
     color: Theme.page
 
     ControllerHost {
         anchors.fill: parent
         controller: window.rootController
-    }
-    ToastLayer {
-        anchors.fill: parent
+        Accessible.role: Accessible.Pane
     }
     SpinnerOverlay {
-        anchors.fill: parent
+        parent: window.contentItem
+    }
+    ToastLayer {
+        parent: window.contentItem
     }
 }

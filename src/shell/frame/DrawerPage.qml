@@ -14,10 +14,21 @@ Item {
         width: parent.width - x
         height: parent.height
         controller: page.controller.rootController
+        isCovered: drawer.modal && drawer.visible
+        Accessible.role: Accessible.Pane
     }
 
     T.Drawer {
         id: drawer
+
+        // While the drawer itself tells that it comes or goes, a finger may be moving it.
+        property bool isTelling: false
+
+        function tell(isOpened) {
+            isTelling = true;
+            page.controller.isLeftViewOpened = isOpened;
+            isTelling = false;
+        }
 
         width: Math.min(304, 0.8 * page.width)
         height: page.height
@@ -26,24 +37,12 @@ Item {
         dim: modal
         focus: modal
         closePolicy: modal ? T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose
-        onAboutToShow: page.controller.isLeftViewOpened = true
-        onAboutToHide: page.controller.isLeftViewOpened = false
+        onAboutToShow: tell(true)
+        onAboutToHide: tell(false)
 
-        enter: Transition {
-            NumberAnimation {
-                duration: 250
-                easing.type: Easing.OutCubic
-            }
-        }
-        exit: Transition {
-            NumberAnimation {
-                duration: 250
-                easing.type: Easing.OutCubic
-            }
-        }
-
-        T.Overlay.modal: Rectangle {
-            color: Qt.rgba(0, 0, 0, 0.5)
+        enter: slide
+        exit: slide
+        T.Overlay.modal: Veil {
         }
         background: Item {
             Shadow {
@@ -57,10 +56,23 @@ Item {
         contentItem: ControllerHost {
             objectName: "sideMenu"
             controller: page.controller.leftController
+            isModal: drawer.modal
+            Accessible.role: Accessible.Pane
+            Accessible.name: qsTrId("menuButton")
+        }
+
+        Transition {
+            id: slide
+
+            NumberAnimation {
+                duration: 250
+                easing.type: Easing.OutCubic
+            }
         }
 
         Connections {
             target: page.controller
+            enabled: !drawer.isTelling
             function onLeftViewChanged() {
                 if (page.controller.isLeftViewOpened)
                     drawer.open();

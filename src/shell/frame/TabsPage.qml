@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tavi
 
 // Equal tabs over the open page, with a line that slides under the open one.
@@ -16,6 +15,7 @@ Rectangle {
         width: parent.width
         height: page.Window.height < Theme.lowHeight ? Theme.lowBarHeight : 48
         color: Theme.strongYellow
+        Accessible.role: Accessible.PageTabList
 
         Row {
             Repeater {
@@ -23,7 +23,7 @@ Rectangle {
 
                 model: page.controller.tabItems
 
-                T.AbstractButton {
+                Pressable {
                     id: tab
 
                     required property int index
@@ -34,11 +34,13 @@ Rectangle {
                     height: bar.height
                     enabled: modelData.enabled
                     text: modelData.title
-                    Accessible.role: Accessible.PageTab
-                    Accessible.name: text
+                    accessibleRole: Accessible.PageTab
+                    Accessible.selectable: true
                     Accessible.selected: index === page.controller.selectedIndex
+                    onClicked: page.controller.tapTab(index)
+
                     background: Rectangle {
-                        color: tab.down ? Qt.darker(bar.color, 1.2) : "transparent"
+                        color: Qt.darker(bar.color, tab.down ? 1.2 : tab.isHovered ? 1.06 : 1)
                     }
                     contentItem: Text {
                         text: tab.modelData.title
@@ -48,7 +50,6 @@ Rectangle {
                         verticalAlignment: Text.AlignVCenter
                         elide: Text.ElideRight
                     }
-                    onClicked: page.controller.tapTab(index)
 
                     FocusRing {
                         control: tab

@@ -1,66 +1,101 @@
 import QtQuick
+import QtQuick.Templates as T
 import Tavi
 
-// Short messages near the foot of the window; later ones stand on top of earlier ones.
-Item {
-    id: toasts
+// A short message near the foot of the window, over all that is open in it. It fades by itself and goes at a tap.
+T.Popup {
+    id: toast
 
-    Connections {
-        target: ViewManager
-        function onToastRequested(text) {
-            toast.createObject(toasts, {
-                    "text": text
-                });
+    x: (parent.width - width) / 2
+    y: parent.height - 120
+    z: 2
+    width: 0.9 * parent.width
+    height: Math.max(40, contentItem.implicitHeight)
+    closePolicy: T.Popup.NoAutoClose
+    onOpened: ViewManager.announce(box)
+    onClosed: ViewManager.restoreFocus()
+
+    background: Rectangle {
+        id: box
+
+        objectName: "toast"
+        radius: 10
+        color: Qt.alpha(Theme.label, 0.8)
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: ViewManager.toastText
+
+        TapHandler {
+            gesturePolicy: TapHandler.WithinBounds
+            onTapped: ViewManager.hideToast()
+        }
+    }
+    contentItem: Item {
+        implicitHeight: Math.max(label.implicitHeight + 12, action.visible ? action.height : 0)
+
+        Text {
+            id: label
+
+            objectName: "toastLabel"
+            x: 12
+            width: parent.width - 2 * x - (action.visible ? action.width : 0)
+            height: parent.height
+            text: ViewManager.toastText
+            textFormat: Text.PlainText
+            font: ViewManager.toastFont
+            color: Theme.groupedBackground
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
+            wrapMode: Text.Wrap
+            maximumLineCount: 2
+            elide: Text.ElideRight
+        }
+        IconButton {
+            id: action
+
+            objectName: "toastAction"
+            anchors.right: parent.right
+            anchors.verticalCenter: parent.verticalCenter
+            visible: text
+            text: ViewManager.toastActionTitle
+            font: Theme.heavy(14)
+            groundColor: Theme.label
+            tintColor: Theme.legible(Theme.strongYellow, groundColor)
+            onClicked: ViewManager.chooseToastAction()
         }
     }
 
-    Component {
-        id: toast
+    SequentialAnimation {
+        id: life
 
-        Rectangle {
-            id: box
+        PropertyAction {
+            target: toast
+            property: "opacity"
+            value: 1
+        }
+        PauseAnimation {
+            duration: action.visible ? 6000 : 3000
+        }
+        NumberAnimation {
+            target: toast
+            property: "opacity"
+            to: 0
+            duration: 2000
+            easing.type: Easing.OutQuad
+        }
+        ScriptAction {
+            script: ViewManager.hideToast()
+        }
+    }
 
-            required property string text
-
-            objectName: "toast"
-            width: 0.9 * toasts.width
-            height: Math.max(40, label.implicitHeight + 12)
-            x: (toasts.width - width) / 2
-            y: toasts.height - 120
-            radius: 10
-            color: Qt.alpha(Theme.label, 0.8)
-            Accessible.role: Accessible.AlertMessage
-            Accessible.name: text
-
-            Text {
-                id: label
-
-                anchors.fill: parent
-                anchors.leftMargin: 12
-                anchors.rightMargin: 12
-                text: box.text
-                font: ViewManager.toastFont
-                color: Theme.groupedBackground
-                horizontalAlignment: Text.AlignHCenter
-                verticalAlignment: Text.AlignVCenter
-                wrapMode: Text.Wrap
-                maximumLineCount: 2
-                elide: Text.ElideRight
-            }
-
-            SequentialAnimation on opacity  {
-                PauseAnimation {
-                    duration: 3000
-                }
-                NumberAnimation {
-                    to: 0
-                    duration: 2000
-                    easing.type: Easing.OutQuad
-                }
-                ScriptAction {
-                    script: box.destroy()
-                }
-            }
+    // Each one comes anew, so that it is also told anew.
+    Connections {
+        target: ViewManager
+        function onToastChanged() {
+            toast.close();
+            if (!ViewManager.toastText)
+                return life.stop();
+            toast.open();
+            life.restart();
         }
     }
 }

@@ -25,6 +25,7 @@ Item {
         width: parent.width
         height: page.isLow ? Theme.lowBarHeight : page.toolbar.height
         color: page.toolbar.backgroundColor
+        Accessible.role: Accessible.ToolBar
 
         Item {
             anchors.fill: parent
@@ -41,7 +42,7 @@ Item {
                     delegate: barButton
                 }
             }
-            Text {
+            Heading {
                 anchors.left: left.right
                 anchors.right: right.left
                 anchors.margins: 12
@@ -49,11 +50,10 @@ Item {
                 text: page.toolbar.title
                 font: page.toolbar.titleFont
                 color: Theme.legible(page.toolbar.titleColor, bar.color)
+                wrapMode: Text.NoWrap
                 elide: Text.ElideRight
                 fontSizeMode: page.toolbar.shrinksTitle ? Text.HorizontalFit : Text.FixedSize
                 minimumPixelSize: 12
-                Accessible.role: Accessible.Heading
-                Accessible.name: text
             }
             Row {
                 id: right

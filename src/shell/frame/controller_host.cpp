@@ -1,8 +1,16 @@
 #include "shell/frame/controller_host.h"
 
+#include <QTimer>
+#include <utility>
+
+#include "shell/frame/page_loader.h"
+
 namespace tavi {
 
 ControllerHost::~ControllerHost() {
+  leaving_.clear();
+  popup_.reset();
+  if (presented_) presented_->presentationGone();
   detachView();
 }
 
@@ -12,34 +20,52 @@ void ControllerHost::setController(ViewController* controller) {
   detachView();
   controller_ = controller;
   if (controller_) {
-    view_ = controller_->view();
-    if (view_) {
-      view_->setParentItem(this);
-      view_->setSize(size());
-    }
+    attachView();
     connect(controller_, &ViewController::presentedControllerChanged, this, &ControllerHost::showPresented);
   }
   showPresented();
   emit controllerChanged();
 }
 
+bool ControllerHost::isCovered() const {
+  return Pane::isCovered() || (controller_ && controller_->isCovered());
+}
+
 void ControllerHost::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
-  QQuickItem::geometryChange(newGeometry, oldGeometry);
+  Pane::geometryChange(newGeometry, oldGeometry);
   if (view_) view_->setSize(newGeometry.size());
-  if (presentedHost_) presentedHost_->setSize(newGeometry.size());
+}
+
+void ControllerHost::attachView() {
+  view_ = controller_->view();
+  if (!view_) return;
+  view_->setParentItem(this);
+  view_->setSize(size());
+  const auto follow = [this] { setImplicitHeight(view_->implicitHeight()); };
+  connect(view_, &QQuickItem::implicitHeightChanged, this, follow);
+  follow();
 }
 
 void ControllerHost::detachView() {
+  if (view_) disconnect(view_, nullptr, this, nullptr);
   if (view_ && view_->parentItem() == this) view_->setParentItem(nullptr);
   view_ = nullptr;
 }
 
+/// A popup goes later, as one of its own buttons may be what ends it, but before its controller.
 void ControllerHost::showPresented() {
-  presentedHost_.reset();
-  if (!controller_ || !controller_->presentedController()) return;
-  presentedHost_ = std::make_unique<ControllerHost>(this);
-  presentedHost_->setSize(size());
-  presentedHost_->setController(controller_->presentedController());
+  ViewController* next = controller_ ? controller_->presentedController() : nullptr;
+  if (next == presented_) return;
+  if (popup_) {
+    leaving_.push_back(std::move(popup_));
+    QTimer::singleShot(0, this, [this] { std::exchange(leaving_, {}).clear(); });
+  }
+  const QPointer<ViewController> last = std::exchange(presented_, next);
+  if (last) last->presentationGone();
+  if (!next || !next->engine()) return;
+  popup_ = loadPageObject(*next->engine(), QStringLiteral("shell/frame/PresentedPopup.qml"),
+                          {{QStringLiteral("controller"), QVariant::fromValue(next)},
+                           {QStringLiteral("parent"), QVariant::fromValue<QQuickItem*>(this)}});
 }
 
 }  // namespace tavi

@@ -11,12 +11,13 @@ class SheetController : public ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the controllers")
-  Q_PROPERTY(QString title READ title CONSTANT)
 
  public:
-  explicit SheetController(QString title) : title_(std::move(title)) {}
+  explicit SheetController(QString title) : title_(std::move(title)) {
+    setPresentationStyle(PresentationStyle::FormSheet);
+  }
 
-  QString title() const { return title_; }
+  QString title() const override { return title_; }
 
  private:
   QString title_;

@@ -1,9 +1,12 @@
 #include "shell/frame/view_controller.h"
 
 #include <QGuiApplication>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QScreen>
 #include <QTimer>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "appearance/interface_fonts.h"
@@ -17,7 +20,9 @@ ViewController::ViewController() {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
 }
 
-ViewController::~ViewController() = default;
+ViewController::~ViewController() {
+  if (presented_) presented_->presenter_ = nullptr;
+}
 
 void ViewController::setPage(QQmlEngine& engine, const QString& page) {
   engine_ = &engine;
@@ -61,29 +66,59 @@ void ViewController::disappear() {
   for (ViewController* child : visibleChildren()) child->disappear();
 }
 
-bool ViewController::present(std::shared_ptr<ViewController> controller) {
-  if (parentController_) return parentController_->present(std::move(controller));
-  if (presented_) return false;
-  presented_ = std::move(controller);
+void ViewController::present(std::shared_ptr<ViewController> controller, bool isAnimated) {
+  if (parentController_) return parentController_->present(std::move(controller), isAnimated);
+  waiting_.push_back({std::move(controller), isAnimated});
+  presentNext();
+}
+
+void ViewController::presentNext() {
+  if (presented_ || isLeaving_ || waiting_.empty()) return;
+  Request next = std::move(waiting_.front());
+  waiting_.pop_front();
+  presented_ = std::move(next.controller);
   presented_->presenter_ = this;
+  presented_->isPresentationAnimated_ = next.isAnimated;
   presented_->beginAppearance();
   emit presentedControllerChanged();
   presented_->endAppearance();
-  return true;
 }
 
-void ViewController::dismissPresented() {
-  if (parentController_) return parentController_->dismissPresented();
-  if (!presented_) return;
+void ViewController::dismissPresented(Completion completion) {
+  if (parentController_) return parentController_->dismissPresented(std::move(completion));
+  if (completion) dismissalCompletions_.push_back(std::move(completion));
+  if (!presented_) return finishDismissal();
+  if (presented_->isLeaving_) return;
+  presented_->isLeaving_ = true;
+  presented_->dismissPresented();
   presented_->disappear();
-  const std::shared_ptr<ViewController> dismissed = std::exchange(presented_, nullptr);
-  dismissed->presenter_ = nullptr;
-  emit presentedControllerChanged();
-  releaseLater(dismissed);
+  const bool isShown = presented_->isPresentationShown_;
+  emit presented_->leavingChanged();
+  if (!isShown) finishDismissal();
 }
 
-void ViewController::dismiss() {
-  if (presenter_) presenter_->dismissPresented();
+void ViewController::presentationGone() {
+  isPresentationShown_ = false;
+  if (isLeaving_ && presenter_) presenter_->finishDismissal();
+}
+
+/// What waited for its turn over the one that is gone comes up over this one.
+void ViewController::finishDismissal() {
+  const QPointer<ViewController> self(this);
+  if (const std::shared_ptr<ViewController> gone = std::exchange(presented_, nullptr)) {
+    gone->presenter_ = nullptr;
+    gone->isLeaving_ = false;
+    std::ranges::move(std::exchange(gone->waiting_, {}), std::back_inserter(waiting_));
+    emit presentedControllerChanged();
+    releaseLater(gone);
+  }
+  for (const Completion& completion : std::exchange(dismissalCompletions_, {})) completion();
+  if (self) presentNext();
+}
+
+void ViewController::dismiss(Completion completion) {
+  if (presenter_) return presenter_->dismissPresented(std::move(completion));
+  if (completion) completion();
 }
 
 void ViewController::presentAlert(const std::optional<QString>& title, const std::optional<QString>& message,

@@ -3,6 +3,7 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QString>
+#include <deque>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -27,8 +28,26 @@ class ViewController : public QObject {
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(tavi::TabItem* tabItem READ tabItem CONSTANT)
+  Q_PROPERTY(QString title READ title CONSTANT)
+  Q_PROPERTY(PresentationStyle presentationStyle READ presentationStyle CONSTANT)
+  Q_PROPERTY(bool isPresentationAnimated READ isPresentationAnimated CONSTANT)
+  Q_PROPERTY(bool isLeaving READ isLeaving NOTIFY leavingChanged)
 
  public:
+  /// How a presented controller lies over the window. The numbers are those of stored scenes and callers.
+  enum class PresentationStyle {
+    FullScreen = 0,          ///< Over all of it, on a ground of its own.
+    PageSheet = 1,           ///< A high sheet from the foot; in a wide window a large card.
+    FormSheet = 2,           ///< The same, in a wide window a small card.
+    OverFullScreen = 5,      ///< Over all of it; what is below shows where the view is translucent.
+    OverCurrentContext = 6,  ///< The same, and it fades in where it stands.
+    Alert,                   ///< A card as high as its view needs, in the middle.
+    ActionSheet,             ///< As high as its view needs, at the foot; a tap beside it cancels.
+  };
+  Q_ENUM(PresentationStyle)
+
+  using Completion = std::function<void()>;
+
   ViewController();
   ~ViewController() override;
 
@@ -62,21 +81,45 @@ class ViewController : public QObject {
     return nullptr;
   }
 
-  /// Shows the controller over the whole window. Refused, with the answer false, while something is already
-  /// shown over this window's root.
-  bool present(std::shared_ptr<ViewController> controller);
+  /// What a screen reader calls the screen; empty for one without a name of its own.
+  virtual QString title() const { return {}; }
 
-  /// Takes away what this controller has presented, if anything.
-  void dismissPresented();
+  /// How this controller comes up once it is presented; a page sheet unless it says otherwise. To be set
+  /// before.
+  PresentationStyle presentationStyle() const { return presentationStyle_; }
+  void setPresentationStyle(PresentationStyle style) { presentationStyle_ = style; }
 
-  /// Takes this controller away again if something has presented it.
-  Q_INVOKABLE void dismiss();
+  /// Shows the controller over the whole window, above all that is open in it. It waits its turn while
+  /// something is shown already, unless that itself presents it.
+  void present(std::shared_ptr<ViewController> controller, bool isAnimated = true);
 
-  /// What is shown over this controller, or none.
+  /// Takes away what this controller has presented, if anything, and what that has. The completion is called
+  /// when nothing of it is seen any more, before the next one that waits comes up.
+  void dismissPresented(Completion completion = {});
+
+  /// The same for this controller, if something has presented it.
+  void dismiss(Completion completion);
+  Q_INVOKABLE void dismiss() { dismiss({}); }
+
+  /// What Escape and Back do to a presented controller: it goes, unless it says otherwise.
+  Q_INVOKABLE virtual void cancel() { dismiss(); }
+
+  /// What is shown over this controller until nothing of it is seen any more, or none.
   ViewController* presentedController() const { return presented_.get(); }
+
+  /// Whether something is shown over the window that this controller is in.
+  bool isCovered() const {
+    return parentController_ ? parentController_->isCovered() : presented_ != nullptr;
+  }
 
   /// What shows this controller, or none.
   ViewController* presenter() const { return presenter_; }
+
+  // Between a presented controller and what draws it over the window.
+  bool isPresentationAnimated() const { return isPresentationAnimated_; }
+  bool isLeaving() const { return isLeaving_; }
+  Q_INVOKABLE void presentationShown() { isPresentationShown_ = true; }
+  Q_INVOKABLE void presentationGone();
 
   /// Shows a message over the window, with one button "OK" if no actions are given.
   void presentAlert(const std::optional<QString>& title, const std::optional<QString>& message,
@@ -94,6 +137,7 @@ class ViewController : public QObject {
 
  signals:
   void presentedControllerChanged();
+  void leavingChanged();
 
  protected:
   virtual void viewDidLoad() {}
@@ -118,7 +162,14 @@ class ViewController : public QObject {
   void releaseLater(std::shared_ptr<ViewController> controller);
 
  private:
+  struct Request {
+    std::shared_ptr<ViewController> controller;
+    bool isAnimated;
+  };
+
   void load();
+  void presentNext();
+  void finishDismissal();
 
   QQmlEngine* engine_ = nullptr;
   QString page_;
@@ -128,6 +179,12 @@ class ViewController : public QObject {
   ViewController* parentController_ = nullptr;
   ViewController* presenter_ = nullptr;
   std::shared_ptr<ViewController> presented_;
+  std::deque<Request> waiting_;
+  std::vector<Completion> dismissalCompletions_;
+  PresentationStyle presentationStyle_ = PresentationStyle::PageSheet;
+  bool isPresentationAnimated_ = true;
+  bool isPresentationShown_ = false;
+  bool isLeaving_ = false;
   std::vector<std::shared_ptr<ViewController>> leaving_;
   TabItem tabItem_;
 };

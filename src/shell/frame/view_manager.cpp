@@ -1,11 +1,30 @@
 #include "shell/frame/view_manager.h"
 
-#include <QCoreApplication>
+#include <QAccessible>
+#include <QGuiApplication>
+#include <QQuickWindow>
+#include <utility>
 
 #include "appearance/interface_fonts.h"
 #include "appearance/view.h"
 
 namespace tavi {
+
+namespace {
+
+bool isInPopup(const QQuickItem* item) {
+  while (item && !item->inherits("QQuickOverlay")) item = item->parentItem();
+  return item != nullptr;
+}
+
+}  // namespace
+
+ViewManager::ViewManager() {
+  connect(qGuiApp, &QGuiApplication::focusObjectChanged, this, [this](QObject* object) {
+    auto* item = qobject_cast<QQuickItem*>(object);
+    if (item && item->parentItem() && !isInPopup(item)) pageFocus_ = item;
+  });
+}
 
 ViewManager& ViewManager::shared() {
   static ViewManager manager;
@@ -17,8 +36,22 @@ ViewManager* ViewManager::create(QQmlEngine*, QJSEngine*) {
   return &shared();
 }
 
-void ViewManager::showToast(const QString& text) {
-  emit shared().toastRequested(text);
+void ViewManager::showToast(const QString& text, ToastAction action) {
+  if (text.isEmpty() && shared().toastText_.isEmpty()) return;
+  shared().toastText_ = text;
+  shared().toastAction_ = std::move(action);
+  emit shared().toastChanged();
+}
+
+void ViewManager::chooseToastAction() {
+  const auto handler = shared().toastAction_.handler;
+  hideToast();
+  if (handler) handler();
+}
+
+void ViewManager::announce(QQuickItem* item) {
+  QAccessibleEvent event(item, QAccessible::Alert);
+  QAccessible::updateAccessibility(&event);
 }
 
 void ViewManager::showSpinner() {
@@ -27,6 +60,12 @@ void ViewManager::showSpinner() {
 
 void ViewManager::hideSpinner() {
   QMetaObject::invokeMethod(&shared(), [] { shared().setSpinnerVisible(false); });
+}
+
+void ViewManager::restoreFocus() {
+  const QPointer<QQuickItem>& last = shared().pageFocus_;
+  if (last && last->window() && !isInPopup(last->window()->activeFocusItem()))
+    last->forceActiveFocus(Qt::PopupFocusReason);
 }
 
 void ViewManager::prepareSegmentedControls(const QQuickItem& item) {

@@ -20,7 +20,9 @@ void presentAlertOverWindow(const QString& title, const QString& text) {
 }  // namespace
 
 MessagePresenter messagesOverWindow() {
-  return {ViewManager::showToast, presentAlertOverWindow};
+  return {.showToast = [](const QString& text) { ViewManager::showToast(text); },
+          .presentAlert = presentAlertOverWindow,
+          .hideToast = ViewManager::hideToast};
 }
 
 }  // namespace tavi

@@ -99,10 +99,12 @@ void HistoryTableViewController::handleEditButton() {
 
 void HistoryTableViewController::handleClearAllButton() {
   presentAlert(localized("Clear History"), localized("Are you sure to delete your whole history?"),
-               {{localized("Clear"),
-                 [page = QPointer(this)] {
-                   if (page) page->clear();
-                 }},
+               {{.title = localized("Clear"),
+                 .handler =
+                     [page = QPointer(this)] {
+                       if (page) page->clear();
+                     },
+                 .isDestructive = true},
                 {.title = localized("Cancel"), .style = AlertActionStyle::cancel}},
                AlertStyle::alert);
 }

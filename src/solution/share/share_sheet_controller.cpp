@@ -74,7 +74,13 @@ QString failureWords(WriteResult result) {
 }  // namespace
 
 ShareSheetController::ShareSheetController(SharedWorking working, const Links& links)
-    : working_(std::move(working)), links_(links) {}
+    : working_(std::move(working)), links_(links) {
+  setPresentationStyle(PresentationStyle::ActionSheet);
+}
+
+QString ShareSheetController::title() const {
+  return localized("shareButton");
+}
 
 void ShareSheetController::setFormat(Format format) {
   format_ = format;

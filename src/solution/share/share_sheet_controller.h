@@ -39,6 +39,8 @@ class ShareSheetController : public ViewController {
 
   explicit ShareSheetController(SharedWorking working, const Links& links = Links::shared());
 
+  QString title() const override;
+
   const QImage& picture() const { return working_.picture; }
 
   Format format() const { return format_; }

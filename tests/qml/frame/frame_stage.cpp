@@ -27,6 +27,7 @@ std::shared_ptr<Controller> made(QQmlEngine& engine, const char* page, Arguments
 
 void FrameStage::open(QQuickItem* holder) {
   chosen_.clear();
+  ViewManager::hideToast();
   openedLink_.clear();
   Services& services = services_.emplace();
   services.links.setHandler([](const QUrl& url) { return url.scheme() == u"https"; },
@@ -53,8 +54,9 @@ void FrameStage::open(QQuickItem* holder) {
   drawer_->beginAppearance();
   auto host = std::make_unique<ControllerHost>(holder);
   host->setSize(holder->size());
-  connect(holder, &QQuickItem::widthChanged, host.get(),
-          [host = host.get(), holder] { host->setSize(holder->size()); });
+  const auto fill = [host = host.get(), holder] { host->setSize(holder->size()); };
+  connect(holder, &QQuickItem::widthChanged, host.get(), fill);
+  connect(holder, &QQuickItem::heightChanged, host.get(), fill);
   host->setController(drawer_.get());
   host_ = std::move(host);
   drawer_->endAppearance();
@@ -71,8 +73,8 @@ void FrameStage::enableTab(int index, bool isEnabled) {
   tabs_->viewControllers()[static_cast<std::size_t>(index)]->tabItem()->setEnabled(isEnabled);
 }
 
-void FrameStage::toast(const QString& text) {
-  ViewManager::showToast(text);
+void FrameStage::toast(const QString& text, const QString& action) {
+  ViewManager::showToast(text, {action, [this, action] { chosen_ += action; }});
 }
 
 void FrameStage::spin(bool isSpinning) {
@@ -82,10 +84,29 @@ void FrameStage::spin(bool isSpinning) {
     ViewManager::hideSpinner();
 }
 
-void FrameStage::ask() {
-  tabs_->presentAlert("Sure?", "Think again.",
-                      {{"No", [this] { chosen_ = "No"; }}, {"Yes", [this] { chosen_ = "Yes"; }}},
-                      AlertStyle::alert);
+void FrameStage::ask(const QStringList& titles) {
+  std::vector<AlertAction> actions;
+  for (const QString& title : titles)
+    actions.push_back({.title = title,
+                       .handler = [this, title] { chosen_ += title; },
+                       .style = title == u"Cancel" ? AlertActionStyle::cancel : AlertActionStyle::normal,
+                       .isDestructive = title.startsWith(u'!')});
+  tabs_->presentAlert("Sure?", "Think again.", std::move(actions), AlertStyle::alert);
+}
+
+void FrameStage::present(int style, bool isAnimated) {
+  auto controller = std::make_shared<ViewController>();
+  controller->setPage(*engine_, {});  // the view stands already
+  auto view = std::make_unique<QQuickItem>();
+  view->setObjectName("presented");
+  controller->setView(std::move(view));
+  controller->setPresentationStyle(static_cast<ViewController::PresentationStyle>(style));
+  isDismissed_ = false;
+  tabs_->present(std::move(controller), isAnimated);
+}
+
+void FrameStage::dismiss() {
+  tabs_->dismissPresented([this] { isDismissed_ = true; });
 }
 
 void FrameStage::qmlEngineAvailable(QQmlEngine* engine) {

@@ -20,6 +20,7 @@ class FrameStage : public QObject {
   Q_OBJECT
   Q_PROPERTY(int selectedIndex READ selectedIndex)
   Q_PROPERTY(bool isDrawerOpen READ isDrawerOpen)
+  Q_PROPERTY(bool isDismissed READ isDismissed)
   Q_PROPERTY(QString chosen READ chosen)
   Q_PROPERTY(QString openedLink READ openedLink)
 
@@ -29,13 +30,18 @@ class FrameStage : public QObject {
   Q_INVOKABLE void close();
 
   Q_INVOKABLE void enableTab(int index, bool isEnabled);
-  Q_INVOKABLE void toast(const QString& text);
+  Q_INVOKABLE void toast(const QString& text, const QString& action = {});
   Q_INVOKABLE void spin(bool isSpinning);
-  /// Asks with two buttons, "No" and "Yes"; the answer is then `chosen`.
-  Q_INVOKABLE void ask();
+  /// Asks with a button per title; the answer is added to `chosen`. A "!" marks what destroys, and "Cancel"
+  /// cancels.
+  Q_INVOKABLE void ask(const QStringList& titles);
+  /// Presents an empty view, "presented"; `isDismissed` once that is gone.
+  Q_INVOKABLE void present(int style, bool isAnimated);
+  Q_INVOKABLE void dismiss();
 
   int selectedIndex() const { return tabs_->selectedIndex(); }
   bool isDrawerOpen() const { return drawer_->isLeftViewOpened(); }
+  bool isDismissed() const { return isDismissed_; }
   QString chosen() const { return chosen_; }
   QString openedLink() const { return openedLink_; }
 
@@ -55,6 +61,7 @@ class FrameStage : public QObject {
   };
 
   QQmlEngine* engine_ = nullptr;
+  bool isDismissed_ = false;
   QString chosen_;
   QString openedLink_;
   std::optional<Services> services_;

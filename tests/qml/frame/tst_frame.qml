@@ -14,15 +14,9 @@ Item {
 
         anchors.fill: parent
     }
-    ToastLayer {
-        id: toasts
-
-        anchors.fill: parent
-    }
     SpinnerOverlay {
-        id: spinner
-
-        anchors.fill: parent
+    }
+    ToastLayer {
     }
 
     TestCase {
@@ -31,6 +25,7 @@ Item {
 
         function init() {
             root.width = 412;
+            root.height = 800;
             stage.open(holder);
         }
 
@@ -44,8 +39,23 @@ Item {
             return found;
         }
 
-        function shown() {
-            return Array.from(toasts.children).filter(each => each.objectName === "toast");
+        function isShown(name) {
+            const found = findChild(root.Window.contentItem, name);
+            return found !== null && found.visible;
+        }
+
+        // What has the focus, by the names that tests know.
+        function focused() {
+            for (let each = root.Window.activeFocusItem; each; each = each.parent) {
+                if (each.objectName)
+                    return each.objectName;
+            }
+            return "";
+        }
+
+        // Whether who goes by key sees that it has the focus.
+        function isRinged(name) {
+            return item(name).activeFocus && findChild(item(name), "focusRing").visible;
         }
 
         function test_a_tab_opens_its_page_if_it_is_enabled() {
@@ -63,7 +73,7 @@ Item {
             for (let i = 0; i < 10 && !tab.activeFocus; ++i)
                 keyClick(Qt.Key_Tab);
             verify(tab.activeFocus);
-            verify(tab.visualFocus);
+            verify(isRinged("tab1"));
             keyClick(Qt.Key_Space);
             compare(stage.selectedIndex, 1);
         }
@@ -109,11 +119,6 @@ Item {
             tryVerify(() => item("sideMenu").mapToItem(root, 0, 0).x === 0);
         }
 
-        function hasSheet() {
-            const sheet = findChild(root.Window.contentItem, "sheet");
-            return sheet !== null && sheet.visible;
-        }
-
         function test_the_menu_shows_a_header_over_each_section_but_the_first() {
             openMenu();
             compare(item("menuRow 0 0").mapToItem(item("menuTable"), 0, 0).y, 0);
@@ -122,7 +127,7 @@ Item {
                 compare(header.height, 30);
                 compare(header.width, 304);
                 verify(Qt.colorEqual(header.color, Theme.strongYellow));
-                compare(item("menuRow " + section + " 0").y, header.y + 30);
+                compare(header.mapToItem(item("menuRow " + section + " 0"), 0, 30).y, 0);
             }
             compare(item("menuRow 0 0").height, 48);
         }
@@ -142,21 +147,21 @@ Item {
         function test_the_keyboard_goes_through_the_menu_and_shows_where_it_is() {
             openMenu();
             keyClick(Qt.Key_Down);
-            verify(item("menuRow 0 0").visualFocus);
+            verify(isRinged("menuRow 0 0"));
             keyClick(Qt.Key_Up);
-            verify(item("menuRow 0 0").visualFocus);
+            verify(isRinged("menuRow 0 0"));
             keyClick(Qt.Key_Tab);
-            verify(item("menuRow 0 1").visualFocus);
+            verify(isRinged("menuRow 0 1"));
             keyClick(Qt.Key_Down);
-            verify(item("menuRow 0 2").visualFocus);
-            verify(!hasSheet());
+            verify(isRinged("menuRow 0 2"));
+            verify(!isShown("sheet"));
             keyClick(Qt.Key_Return);
-            verify(hasSheet());
+            verify(isShown("sheet"));
             keyClick(Qt.Key_Escape);
-            tryVerify(() => !hasSheet());
+            tryVerify(() => !isShown("sheet"));
             verify(stage.isDrawerOpen, "Escape closes the sheet and not the menu under it");
             keyClick(Qt.Key_Down);
-            verify(item("menuRow 0 3").visualFocus);
+            verify(isRinged("menuRow 0 3"));
             keyClick(Qt.Key_Escape);
             verify(!stage.isDrawerOpen);
         }
@@ -164,15 +169,14 @@ Item {
         function test_a_sheet_holds_the_menu_off_until_it_is_closed() {
             openMenu();
             mouseClick(item("menuRow 0 2"));
-            verify(hasSheet());
-            wait(50);
+            verify(isShown("sheet"));
+            tryVerify(() => item("sheet").mapToItem(root, 0, 0).y === 24);
             mouseClick(item("sheet"), 20, 120);
-            mouseClick(root, 2, 400);
-            mouseClick(root, 408, 400);
-            verify(hasSheet());
+            mouseClick(root, 2, 10);
+            verify(isShown("sheet"));
             verify(stage.isDrawerOpen);
             mouseClick(item("sheetCloseButton"));
-            tryVerify(() => !hasSheet());
+            tryVerify(() => !isShown("sheet"));
             verify(stage.isDrawerOpen);
         }
 
@@ -181,11 +185,11 @@ Item {
             openMenu();
             for (let i = 0; i < 30 && !item("menuRow 0 0").activeFocus; ++i)
                 keyClick(Qt.Key_Tab);
-            verify(item("menuRow 0 0").visualFocus);
+            verify(isRinged("menuRow 0 0"));
         }
 
         function test_an_alert_holds_the_pages_off_until_it_is_answered() {
-            stage.ask();
+            stage.ask(["No", "Yes"]);
             wait(50);
             mouseClick(item("tab1"));
             compare(stage.selectedIndex, 0);
@@ -197,42 +201,208 @@ Item {
             compare(stage.selectedIndex, 1);
         }
 
-        function test_an_alert_can_be_answered_by_keyboard() {
-            stage.ask();
-            wait(50);
-            keyClick(Qt.Key_Space);
-            compare(stage.chosen, "No");
+        function test_an_alert_can_be_answered_by_keyboard_data() {
+            return [{
+                    "tag": "Space presses",
+                    "actions": ["No", "Yes"],
+                    "keys": [Qt.Key_Space],
+                    "answer": "No"
+                }, {
+                    "tag": "Return presses",
+                    "actions": ["No", "Yes"],
+                    "keys": [Qt.Key_Return],
+                    "answer": "No"
+                }, {
+                    "tag": "Enter presses what Tab went to",
+                    "actions": ["No", "Yes"],
+                    "keys": [Qt.Key_Tab, Qt.Key_Enter],
+                    "answer": "Yes"
+                }, {
+                    "tag": "Tab goes round",
+                    "actions": ["No", "Yes"],
+                    "keys": [Qt.Key_Tab, Qt.Key_Tab, Qt.Key_Space],
+                    "answer": "No"
+                }, {
+                    "tag": "Escape gives the only answer",
+                    "actions": ["OK"],
+                    "keys": [Qt.Key_Escape],
+                    "answer": "OK"
+                }, {
+                    "tag": "Escape cancels",
+                    "actions": ["!Clear", "Cancel"],
+                    "keys": [Qt.Key_Escape],
+                    "answer": "Cancel"
+                }, {
+                    "tag": "nothing is destroyed by Space",
+                    "actions": ["!Clear", "Cancel"],
+                    "keys": [Qt.Key_Space],
+                    "answer": "Cancel"
+                }];
         }
 
-        function test_toasts_stand_on_top_of_each_other_fade_and_go() {
+        function test_an_alert_can_be_answered_by_keyboard(row) {
+            keyClick(Qt.Key_Shift);
+            stage.ask(row.actions);
+            tryVerify(() => focused().startsWith("alertAction"));
+            verify(isRinged(focused()), "seen by who goes by key");
+            for (const key of row.keys)
+                keyClick(key);
+            compare(stage.chosen, row.answer);
+            tryVerify(() => !isShown("sheet"));
+        }
+
+        function test_what_is_presented_lies_over_the_menu_and_waits_its_turn() {
+            openMenu();
+            mouseClick(item("menuRow 0 2"));
+            stage.ask(["OK"]);
+            verify(!isShown("alertAction0"));
+            tryVerify(() => item("sheet").mapToItem(root, 0, 0).y === 24);
+            mouseClick(item("sheetCloseButton"));
+            tryVerify(() => isShown("alertAction0"));
+            mouseClick(item("alertAction0"));
+            compare(stage.chosen, "OK");
+        }
+
+        function test_styles_data() {
+            const phone = [412, 800];
+            const tablet = [1000, 700];
+            return [{
+                    "tag": "full screen",
+                    "style": ViewController.FullScreen,
+                    "onPhone": [0, 0, 412, 800],
+                    "onTablet": [0, 0, 1000, 700]
+                }, {
+                    "tag": "page sheet",
+                    "style": ViewController.PageSheet,
+                    "onPhone": [0, 24, 412, 776],
+                    "onTablet": [112, 32, 776, 636]
+                }, {
+                    "tag": "form sheet",
+                    "style": ViewController.FormSheet,
+                    "onPhone": [0, 24, 412, 776],
+                    "onTablet": [260, 32, 480, 636]
+                }, {
+                    "tag": "over full screen",
+                    "style": ViewController.OverFullScreen,
+                    "onPhone": [0, 0, 412, 800],
+                    "onTablet": [0, 0, 1000, 700]
+                }, {
+                    "tag": "over current context",
+                    "style": ViewController.OverCurrentContext,
+                    "onPhone": [0, 0, 412, 800],
+                    "onTablet": [0, 0, 1000, 700]
+                }];
+        }
+
+        function test_styles(row) {
+            function place() {
+                const page = item("presented");
+                return [...[page.mapToItem(root, 0, 0)].map(corner => [corner.x, corner.y])[0], page.width, page.height];
+            }
+            stage.present(row.style, false);
+            compare(place(), row.onPhone, "at once where it belongs, as it is not animated");
+            root.width = 1000;
+            root.height = 700;
+            compare(place(), row.onTablet);
+            stage.dismiss();
+            verify(stage.isDismissed);
+            stage.present(row.style, true);
+            tryVerify(() => String(place()) === String(row.onTablet));
+            stage.dismiss();
+            verify(!stage.isDismissed, "not before nothing is seen of it");
+            tryVerify(() => stage.isDismissed);
+        }
+
+        function test_the_menu_follows_the_finger() {
+            const finger = touchEvent(root);
+            const edge = () => isShown("sideMenu") ? item("sideMenu").mapToItem(root, 304, 0).x : 0;
+            finger.press(0, root, 5, 400).commit();
+            let before = 0;
+            for (let x = 10; x <= 250; x += 10) {
+                finger.move(0, root, x, 400).commit();
+                verify(edge() >= before && edge() - before <= 45, x + ": from " + before + " to " + edge());
+                verify(edge() <= x, x + ": the edge is at " + edge());
+                before = edge();
+                wait(10);
+                compare(edge(), before, "at rest as long as the finger is");
+            }
+            verify(before > 200);
+            finger.release(0, root, 250, 400).commit();
+            verify(stage.isDrawerOpen);
+            tryVerify(() => edge() === 304);
+        }
+
+        function test_toasts_replace_each_other_fade_and_go() {
+            openMenu();
+            stage.ask(["OK"]);
+            wait(50);
             stage.toast("First");
             stage.toast("Second");
-            compare(shown().map(each => each.text), ["First", "Second"]);
-            compare(shown()[1].width, 0.9 * toasts.width);
-            compare(shown()[1].y, toasts.height - 120);
+            const toast = item("toast");
+            compare(item("toastLabel").text, "Second");
+            compare(toast.width, 0.9 * root.width);
+            compare(toast.mapToItem(root, 0, 0).y, root.height - 120);
             wait(2500);
-            compare(shown()[0].opacity, 1);
-            tryVerify(() => shown()[0].opacity < 1, 1500);
-            tryVerify(() => shown().length === 0, 4000);
+            compare(toast.parent.opacity, 1);
+            tryVerify(() => toast.parent.opacity < 1, 1500);
+            stage.toast("Third");
+            compare(toast.parent.opacity, 1);
+            mouseClick(toast);
+            verify(!isShown("toast"), "over menu and message, too");
+            verify(isShown("alertAction0"));
+            stage.toast("Fourth");
+            tryVerify(() => !isShown("toast"), 6000);
+        }
+
+        function test_a_toast_offers_an_action_to_finger_and_key() {
+            stage.toast("Gone", "Undo");
+            mouseClick(item("toastAction"));
+            compare(stage.chosen, "Undo");
+            verify(!isShown("toast"));
+            stage.toast("Gone", "Undo");
+            for (let i = 0; i < 10 && focused() !== "toastAction"; ++i)
+                keyClick(Qt.Key_Tab);
+            keyClick(Qt.Key_Return);
+            verify(!isShown("toast"));
+            compare(stage.chosen, "UndoUndo");
         }
 
         function test_a_long_toast_is_cut_after_two_lines() {
             stage.toast("word ".repeat(60));
-            const toast = shown()[0];
-            const label = toast.children[0];
+            const label = item("toastLabel");
             compare(label.lineCount, 2);
             verify(label.truncated);
-            verify(label.contentHeight <= toast.height);
-            toast.destroy();
+            verify(label.contentHeight <= item("toast").height);
+            mouseClick(label);
         }
 
-        function test_the_spinner_holds_all_input_off() {
+        function test_the_spinner_holds_all_input_off_but_that_of_a_message_over_it() {
+            keyClick(Qt.Key_Tab);
+            const before = focused();
+            verify(before);
             stage.spin(true);
-            verify(spinner.visible);
             mouseClick(root, 300, 100);
+            for (const key of [Qt.Key_Tab, Qt.Key_Space, Qt.Key_Return, Qt.Key_Escape])
+                keyClick(key);
             compare(stage.selectedIndex, 0);
+            verify(!stage.isDrawerOpen);
+            stage.ask(["OK"]);
+            tryVerify(() => focused() === "alertAction0");
+            keyClick(Qt.Key_Return);
+            compare(stage.chosen, "OK");
             stage.spin(false);
-            verify(!spinner.visible);
+            tryVerify(() => focused() === before);
+        }
+
+        function test_no_hover_is_left_over_after_a_message() {
+            const tab = item("tab1");
+            mouseMove(tab, 20, 20);
+            tryVerify(() => tab.isHovered);
+            stage.ask(["OK"]);
+            wait(50);
+            mouseClick(item("alertAction0"));
+            tryVerify(() => !isShown("sheet"));
+            verify(!tab.isHovered);
         }
     }
 }

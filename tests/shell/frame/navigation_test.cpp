@@ -32,6 +32,8 @@ class NavigationTest : public testing::Test {
     drawer->endAppearance();
   }
 
+  AlertController* alert() const { return qobject_cast<AlertController*>(drawer->presentedController()); }
+
   QStringList takeEvents() { return std::exchange(events, {}); }
 
   QStringList events;
@@ -114,20 +116,59 @@ TEST_F(NavigationTest, FindsTheContainersAroundAPage) {
   EXPECT_EQ(drawer->ancestor<AppToolbarController>(), nullptr);
 }
 
-TEST_F(NavigationTest, PresentsOneThingOverTheWindowAtATime) {
+TEST_F(NavigationTest, PresentsOneThingAfterTheOther) {
   buildTree();
   ViewController* input = tabs->selectedController();
   int handled = 0;
   input->presentAlert("Title", "Message", {{"No"}, {"Yes", [&handled] { ++handled; }}}, AlertStyle::alert);
-  auto* alert = qobject_cast<AlertController*>(drawer->presentedController());
-  ASSERT_TRUE(alert);
-  EXPECT_EQ(alert->actionTitles(), QStringList({"No", "Yes"}));
-  EXPECT_FALSE(tabs->present(page("sheet"))) << "something is presented already";
+  tabs->present(page("sheet"));
+  drawer->presentAlert("Later", {}, {}, AlertStyle::alert);
+  ASSERT_TRUE(alert());
+  EXPECT_EQ(alert()->actionTitles(), QStringList({"No", "Yes"}));
+  EXPECT_TRUE(input->isCovered());
+  takeEvents();
 
-  alert->choose(1);
+  alert()->choose(1);
   EXPECT_EQ(handled, 1);
-  EXPECT_EQ(drawer->presentedController(), nullptr);
-  EXPECT_TRUE(tabs->present(page("sheet")));
+  EXPECT_EQ(takeEvents(), QStringList({"sheet loads", "sheet will appear", "sheet did appear"}));
+  QStringList order;
+  tabs->dismissPresented([this, &order] { order.append(drawer->presentedController() ? "early" : "gone"); });
+  EXPECT_EQ(order, QStringList("gone"));
+  EXPECT_EQ(takeEvents(), QStringList({"sheet will disappear"}));
+  EXPECT_EQ(alert()->title(), "Later");
+  alert()->choose(0);
+  EXPECT_FALSE(input->isCovered());
+}
+
+TEST_F(NavigationTest, WhatIsPresentedPresentsOverItself) {
+  buildTree();
+  const auto sheet = page("sheet");
+  drawer->present(sheet);
+  sheet->present(page("above"));
+  sheet->presentAlert("Waits for the one above", {}, {}, AlertStyle::alert);
+  ASSERT_TRUE(sheet->presentedController());
+  EXPECT_EQ(drawer->presentedController(), sheet.get());
+  takeEvents();
+  drawer->dismissPresented();
+  EXPECT_EQ(takeEvents(), QStringList({"above will disappear", "sheet will disappear"}));
+  EXPECT_EQ(alert()->title(), "Waits for the one above") << "nobody's message is lost";
+}
+
+TEST_F(NavigationTest, TheNextOneComesWhenNothingIsSeenOfTheLast) {
+  buildTree();
+  const auto sheet = page("sheet");
+  drawer->present(sheet);
+  sheet->presentationShown();  // as what draws it does
+  drawer->presentAlert("Next", {}, {}, AlertStyle::alert);
+  bool isGone = false;
+  sheet->dismiss([&isGone] { isGone = true; });
+  sheet->dismiss();
+  EXPECT_TRUE(sheet->isLeaving());
+  EXPECT_FALSE(isGone);
+  EXPECT_FALSE(alert());
+  sheet->presentationGone();
+  EXPECT_TRUE(isGone);
+  EXPECT_TRUE(alert());
 }
 
 TEST_F(NavigationTest, LetsAnAlertsHandlerPresentTheNextThing) {
@@ -135,11 +176,39 @@ TEST_F(NavigationTest, LetsAnAlertsHandlerPresentTheNextThing) {
   drawer->presentAlert("First", std::nullopt,
                        {{"Next", [this] { drawer->presentAlert("Second", {}, {}, AlertStyle::alert); }}},
                        AlertStyle::alert);
-  qobject_cast<AlertController*>(drawer->presentedController())->choose(0);
-  auto* second = qobject_cast<AlertController*>(drawer->presentedController());
-  ASSERT_TRUE(second);
-  EXPECT_EQ(second->title(), "Second");
-  EXPECT_EQ(second->actionTitles(), QStringList({localized("OK")})) << "a button even when none is given";
+  alert()->choose(0);
+  ASSERT_TRUE(alert());
+  EXPECT_EQ(alert()->title(), "Second");
+  EXPECT_EQ(alert()->actionTitles(), QStringList({localized("OK")})) << "a button even when none is given";
+}
+
+TEST_F(NavigationTest, EscapeGivesTheCancellingAnswerOrTheOnlyOne) {
+  struct Case {
+    std::vector<AlertAction> actions;
+    QString answer;
+    int firstFocus;
+  };
+  QString answer;
+  const auto action = [&answer](const char* title, AlertActionStyle style = AlertActionStyle::normal,
+                                bool isDestructive = false) {
+    return AlertAction{QString(title), [&answer, title] { answer = title; }, style, isDestructive};
+  };
+  const AlertAction cancel = action("Cancel", AlertActionStyle::cancel);
+  const AlertAction clear = action("Clear", AlertActionStyle::normal, true);
+  const Case cases[] = {{{action("OK")}, "OK", 0},
+                        {{clear, cancel}, "Cancel", 1},
+                        {{clear, action("Keep")}, "", 1},
+                        {{action("Yes"), action("No")}, "", 0}};
+  buildTree();
+  for (const Case& each : cases) {
+    answer.clear();
+    drawer->presentAlert("Title", {}, each.actions, AlertStyle::alert);
+    EXPECT_EQ(alert()->firstFocus(), each.firstFocus);
+    alert()->cancel();
+    EXPECT_EQ(answer, each.answer);
+    EXPECT_EQ(alert() != nullptr, each.answer.isEmpty());
+    drawer->dismissPresented();
+  }
 }
 
 TEST_F(NavigationTest, SaysThatThereIsNoNetworkAndThenRunsTheFailureAction) {
@@ -148,10 +217,9 @@ TEST_F(NavigationTest, SaysThatThereIsNoNetworkAndThenRunsTheFailureAction) {
   const OnlineTest nobodyThere(QUrl("http://127.0.0.1:1/"), std::chrono::seconds(5));
   tabs->runWhenOnline([] { FAIL(); }, [&failures] { ++failures; }, nobodyThere);
   ASSERT_TRUE(QTest::qWaitFor([this] { return drawer->presentedController() != nullptr; }));
-  auto* alert = qobject_cast<AlertController*>(drawer->presentedController());
-  EXPECT_EQ(alert->title(), localized("noInternet"));
+  EXPECT_EQ(alert()->title(), localized("noInternet"));
   EXPECT_EQ(failures, 0) << "not before it was read";
-  alert->choose(0);
+  alert()->choose(0);
   EXPECT_EQ(failures, 1);
 }
 

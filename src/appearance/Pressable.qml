@@ -1,0 +1,29 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavi
+
+// What can be pressed: by finger, mouse, Space, Return and Enter, and by assistive technology. It shows nothing yet.
+T.AbstractButton {
+    id: control
+
+    property int accessibleRole: Accessible.Button // As `Accessible.role` gets lost in the template.
+    readonly property bool isHovered: pointer.hovered
+
+    function press(event) {
+        if (!event.isAutoRepeat)
+            clicked();
+    }
+
+    // A finger hovers over nothing; the control's own hovering would stay on where it last touched.
+    hoverEnabled: false
+    Accessible.role: accessibleRole
+    Accessible.name: text
+    Keys.onReturnPressed: event => press(event)
+    Keys.onEnterPressed: event => press(event)
+
+    HoverHandler {
+        id: pointer
+
+        acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+    }
+}
