@@ -143,6 +143,10 @@
         <source>historyUntitled</source>
         <translation>Aufgabe ohne Formel</translation>
     </message>
+    <message id="nothingIsKept">
+        <source>nothingIsKept</source>
+        <translation>Gerade kann nichts gespeichert werden. Dein Verlauf bleibt, bis du die App schließt.</translation>
+    </message>
     <message id="Assistance">
         <source>Assistance</source>
         <translation>Hilfe</translation>

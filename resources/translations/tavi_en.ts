@@ -143,6 +143,10 @@
         <source>historyUntitled</source>
         <translation>Calculation without a formula</translation>
     </message>
+    <message id="nothingIsKept">
+        <source>nothingIsKept</source>
+        <translation>Nothing can be saved at the moment. Your history lasts until you close the app.</translation>
+    </message>
     <message id="Assistance">
         <source>Assistance</source>
         <translation>Help</translation>

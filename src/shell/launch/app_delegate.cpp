@@ -4,6 +4,7 @@
 
 #include "input/error_manager.h"
 #include "output/catalogues.h"
+#include "platform/localization.h"
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
 #include "shell/frame/page_loader.h"
@@ -19,6 +20,12 @@ void build(std::shared_ptr<Controller>& field, QQmlEngine& engine, const char* p
            Arguments&&... arguments) {
   field = std::make_shared<Controller>(std::forward<Arguments>(arguments)...);
   field->setPage(engine, QString::fromLatin1(page));
+}
+
+/// Later, since what could not be kept may be a success, which takes away what is said before it.
+void sayLaterThatNothingIsKept() {
+  const auto say = [] { messagesOverWindow().showToast(localized("nothingIsKept")); };
+  QMetaObject::invokeMethod(qGuiApp, say, Qt::QueuedConnection);
 }
 
 }  // namespace
@@ -39,6 +46,7 @@ void AppDelegate::didFinishLaunching() {
   build(drawer_, engine_, "shell/frame/DrawerPage.qml", appToolbarController(), menu);
   openWindow();
   presentFirstRun();
+  services_.userDefaults.setRefusalHandler(sayLaterThatNothingIsKept);
 
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state == Qt::ApplicationActive) didBecomeActive();
