@@ -151,7 +151,7 @@ TEST(DigitAnalyser, CountsThePlacesOfPlainFractionParts) {
   };
   const Case cases[] = {{"1.5", "1", 1},     {"1.25", "2.5", 2},    {"3", "4", 0},        {"1e-05", "1", 0},
                         {"1.5e-05", "1", 0}, {"1.5e-05", "2.5", 1}, {"0.000123", "1", 6}, {"-0.5", "nan", 1},
-                        {"25..", "1", 2},    {".", "1", 0}};
+                        {"25...", "1", 2},   {".", "1", 0}};
   for (const Case& expected : cases) {
     EXPECT_EQ(TaviDigitAnalyser::decimalPlaces(expected.z, expected.n), expected.places)
         << expected.z << ' ' << expected.n;
