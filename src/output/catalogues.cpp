@@ -1,5 +1,7 @@
 #include "output/catalogues.h"
 
+#include <algorithm>
+#include <array>
 #include <cstddef>
 #include <cstdio>
 #include <utility>
@@ -31,11 +33,52 @@ ResourceReader& installedReader() {
   return reader;
 }
 
-// A letter, digit or underscore; all of UTF-8 beyond ASCII counts as letters, so that "µm" is one word.
-bool isWordCharacter(char character) {
-  return (character >= 'a' && character <= 'z') || (character >= 'A' && character <= 'Z') ||
-         (character >= '0' && character <= '9') || character == '_' ||
-         static_cast<signed char>(character) < 0;
+// What is no letter beyond ASCII: the signs of Latin-1, punctuation, raised and lowered digits, currencies,
+// arrows and operators. The letter-like signs between them (Ω, Å) are letters.
+struct Signs {
+  std::string_view first, last;
+};
+constexpr auto signs = std::to_array<Signs>({{"\u0080", "©"},
+                                             {"«", "´"},
+                                             {"¶", "¹"},
+                                             {"»", "¿"},
+                                             {"×", "×"},
+                                             {"÷", "÷"},
+                                             {"\u2000", "\u20FF"},
+                                             {"\u2190", "\u2BFF"},
+                                             {"\u3000", "\u3004"}});
+
+// `character` is one of UTF-8, whose bytes are in the order of the characters; empty beyond the ends of a
+// text.
+bool isWordCharacter(std::string_view character) {
+  if (character.empty()) return false;
+  const char first = character.front();
+  if (static_cast<signed char>(first) >= 0) {
+    return (first >= 'a' && first <= 'z') || (first >= 'A' && first <= 'Z') ||
+           (first >= '0' && first <= '9') || first == '_';
+  }
+  return std::ranges::none_of(
+      signs, [character](const Signs& range) { return range.first <= character && character <= range.last; });
+}
+
+bool isContinuation(char byte) {
+  return (static_cast<unsigned char>(byte) & 0xC0U) == 0x80U;
+}
+
+std::string_view firstCharacter(std::string_view text) {
+  std::size_t end = std::min<std::size_t>(1, text.size());
+  while (end < text.size() && isContinuation(text[end])) ++end;
+  return text.substr(0, end);
+}
+
+std::string_view lastCharacter(std::string_view text) {
+  std::size_t start = text.empty() ? 0 : text.size() - 1;
+  while (start > 0 && isContinuation(text[start])) --start;
+  return text.substr(start);
+}
+
+bool isWithinWord(std::string_view before, std::string_view behind) {
+  return isWordCharacter(lastCharacter(before)) && isWordCharacter(firstCharacter(behind));
 }
 
 }  // namespace
@@ -124,17 +167,16 @@ void TaviFormulaUnit::loadUnits(std::string_view resourceName) {
 }
 
 std::string TaviFormulaUnit::unitText(std::string_view text, bool useKey) const {
-  if (!targetUnit || targetUnit->key == defaultUnitKey) return std::string(text);
+  const std::string_view unit = defaultUnitKey;
+  if (!targetUnit || targetUnit->key == unit || unit.empty()) return std::string(text);
   const std::string& replacement = useKey ? targetUnit->key : targetUnit->latex;
   std::string result;
   std::size_t from = 0;
-  for (std::size_t at = text.find(defaultUnitKey); at != std::string_view::npos;
-       at = text.find(defaultUnitKey, from)) {
-    const std::size_t end = at + defaultUnitKey.size();
-    const bool isWhole =
-        (at == 0 || !isWordCharacter(text[at - 1])) && (end == text.size() || !isWordCharacter(text[end]));
+  for (std::size_t at = text.find(unit); at != std::string_view::npos; at = text.find(unit, from)) {
+    const std::size_t end = at + unit.size();
+    const bool isWhole = !isWithinWord(text.substr(0, at), unit) && !isWithinWord(unit, text.substr(end));
     result += text.substr(from, at - from);
-    result += isWhole ? std::string_view(replacement) : text.substr(at, defaultUnitKey.size());
+    result += isWhole ? std::string_view(replacement) : unit;
     from = end;
   }
   result += text.substr(from);

@@ -56,9 +56,16 @@ TEST(Catalogues, ATargetUnitReplacesTheDefaultUnitAsAWholeWord) {
   TaviFormulaUnit catalogue(readResource);
   EXPECT_EQ(catalogue.unitText("5 m", true), "5 m");
   catalogue.targetUnit = Unit{"km", "\\mathrm{km}", "kilometre", 1000};
-  EXPECT_EQ(catalogue.unitText("5 m, 3 mm, 2 µm, m_1, m^2 (m)", true), "5 km, 3 mm, 2 µm, m_1, km^2 (km)");
+  EXPECT_EQ(catalogue.unitText("5 m, 3 mm, 2 µm, mΩ, m_1, m^2 (m)", true),
+            "5 km, 3 mm, 2 µm, mΩ, m_1, km^2 (km)");
+  EXPECT_EQ(catalogue.unitText("m², m·s, s⋅m, €m×m", true), "km², km·s, s⋅km, €km×km");
   EXPECT_EQ(catalogue.unitText("5 m", false), "5 \\mathrm{km}");
-  catalogue.targetUnit->key = "m";
+  for (const char* key : {"m²", "m·s"}) {
+    catalogue.defaultUnitKey = key;
+    EXPECT_EQ(catalogue.unitText(std::string("5 ") + key + ", 5 m" + key, true),
+              std::string("5 km, 5 m") + key);
+  }
+  catalogue.defaultUnitKey = catalogue.targetUnit->key = "m";
   EXPECT_EQ(catalogue.unitText("5 m", false), "5 m");
 }
 
