@@ -1,6 +1,7 @@
 #include "charts/chart_manager.h"
 
 #include <cmath>
+#include <type_traits>
 
 #include "number/fatal_stop.h"
 
@@ -15,6 +16,16 @@ DistributionFunctionPresentationView presentationView(const DistributionFunction
 }
 
 }  // namespace
+
+const ChartOptions* optionsOf(const ChartView& view) {
+  return std::visit(
+      [](const auto& each) -> const ChartOptions* {
+        if constexpr (std::is_base_of_v<CoordinateChartView, std::decay_t<decltype(each)>>)
+          return &each.options;
+        return nullptr;
+      },
+      view);
+}
 
 std::optional<ChartView> ChartManager::chartView(const ChartRow& charts) {
   std::optional<ChartView> view;

@@ -23,6 +23,9 @@ struct AreaChartView : CoordinateChartView {};
 using ChartView = std::variant<LineChartView, SplineChartView, AreaChartView, TreeChartView,
                                UnitCircleChartView, DistributionFunctionPresentationView>;
 
+/// The options of a chart with coordinates; none of any other.
+const ChartOptions* optionsOf(const ChartView& view);
+
 /// A place in a row, in the unit of the row's width.
 struct ChartFrame {
   double x = 0;

@@ -10,6 +10,8 @@
 #include <nlohmann/json.hpp>
 
 #include <QtCore/QProcess>
+#include <QtCore/QTemporaryDir>
+#include <QtGui/QImage>
 
 namespace tavi {
 namespace {
@@ -108,6 +110,72 @@ TEST(ChartDoor, TellsAFatalStopAndGoesOn) {
   EXPECT_EQ(read[0]["id"], json::parse(R"({"a":[1]})"));
   EXPECT_TRUE(read[0].contains("fatal"));
   EXPECT_EQ(read[1], json::parse(R"({"id":null,"frame":[5,2.5,90,45],"view":null})"));
+}
+
+int exitCodeOf(const QStringList& arguments) {
+  QProcess process;
+  process.start(QStringLiteral(TAVI_CLI), QStringList{"chart"} + arguments);
+  process.waitForFinished();
+  return process.exitCode();
+}
+
+TEST(ChartCommand, DrawsTheRowInItsSizeOrInAnother) {
+  const QTemporaryDir directory;
+  const QString example = TAVI_CHART_EXAMPLES "/sine.json";
+  const QString name = directory.filePath("row");
+  ASSERT_EQ(exitCodeOf({example, "--png", name + ".png", "--svg", name + ".svg", "--pdf", name + ".pdf"}), 0);
+  EXPECT_EQ(QImage(name + ".png").size(), QSize(412, 206));
+  EXPECT_EQ(QImage(name + ".png").pixelColor(0, 0), QColor("#eceff1"));
+  for (const auto& [ending, start] : {std::pair{".svg", "<?xml"}, std::pair{".pdf", "%PDF"}}) {
+    QFile file(name + ending);
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    const QByteArray bytes = file.readAll();
+    EXPECT_TRUE(bytes.startsWith(start));
+    EXPECT_FALSE(bytes.contains("<text")) << "a picture depends on no font";
+  }
+  ASSERT_EQ(exitCodeOf({example, "--size", "300x200", "--scale", "2", "--dark", "--png", name + "2.png"}), 0);
+  EXPECT_EQ(QImage(name + "2.png").size(), QSize(600, 400));
+  EXPECT_EQ(QImage(name + "2.png").pixelColor(0, 0), QColor("#121212"));
+}
+
+TEST(ChartCommand, ExitCodesTellWhatWentWrong) {
+  const QTemporaryDir directory;
+  const auto written = [&](const char* name, const char* text) {
+    QFile file(directory.filePath(name));
+    EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(text);
+    return file.fileName();
+  };
+  const QString png = directory.filePath("x.png");
+  const QString example = TAVI_CHART_EXAMPLES "/sine.json";
+  const QString empty = written("empty", R"({"width":412,"charts":[]})");
+  const QString flat = written("flat", R"({"width":412,"charts":[{"kind":"ChartData","frameRatio":1e9}]})");
+  const QString endless =
+      written("endless", R"({"width":412,"charts":[{"kind":"ChartData","frameRatio":0}]})");
+  struct Case {
+    QStringList arguments;
+    int exitCode;
+  };
+  const Case cases[] = {
+      {{"--help"}, 0},
+      {{}, 64},
+      {{example}, 64},
+      {{example, example, "--png", png}, 64},
+      {{example, "--png"}, 64},
+      {{example, "--png", png, "--size", "300"}, 64},
+      {{example, "--png", png, "--size", "0x10"}, 64},
+      {{example, "--png", png, "--size", "nanx10"}, 64},
+      {{example, "--png", png, "--json-lines"}, 64},
+      {{directory.filePath("missing"), "--png", png}, 65},
+      {{directory.path(), "--png", png}, 65},
+      {{written("text", "[1"), "--png", png}, 65},
+      {{empty, "--png", png}, 65},
+      {{flat, "--png", png}, 65},
+      {{endless, "--png", png}, 3},
+      {{example, "--png", "/no/such/folder/x.png"}, 73},
+  };
+  for (const auto& [arguments, exitCode] : cases)
+    EXPECT_EQ(exitCodeOf(arguments), exitCode) << arguments.join(' ').toStdString();
 }
 
 }  // namespace

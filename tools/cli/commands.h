@@ -14,6 +14,7 @@ constexpr int rejected = 2;  ///< The input is wrong; its error key is told.
 constexpr int fatal = 3;     ///< The task would end the process.
 constexpr int tooLong = 4;   ///< The expansion of the power would be too long to write out.
 constexpr int wrongUsage = 64;
+constexpr int wrongData = 65;    ///< EX_DATAERR: a file is not what it should be.
 constexpr int cannotWrite = 73;  ///< EX_CANTCREAT.
 
 using Arguments = std::span<const std::string_view>;

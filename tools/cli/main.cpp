@@ -22,7 +22,7 @@ constexpr std::array commands{
     Command{"typeset", "sets lines of LaTeX as mathematics: glyphs and rules with their places",
             typesetCommand},
     Command{"render", "draws a whole working as a PNG, SVG or PDF picture", renderCommand},
-    Command{"chart", "works out what rows of charts come to", chartCommand},
+    Command{"chart", "draws a row of charts, or tells what is to be drawn", chartCommand},
 };
 
 void printUsage(std::ostream& out) {

@@ -1,0 +1,84 @@
+#include "charts/view/canvas.h"
+
+#include <QFontMetricsF>
+#include <QPaintEngine>
+#include <QPainterPath>
+#include <cmath>
+
+#include "appearance/text_drawing.h"
+#include "typeset/bundled_font.h"
+#include "typeset/typeset.h"
+
+namespace tavi {
+
+QString textOf(std::string_view utf8) {
+  return QString::fromUtf8(utf8.data(), static_cast<qsizetype>(utf8.size()));
+}
+
+QColor withOpacity(QColor color, double opacity) {
+  color.setAlphaF(static_cast<float>(opacity));
+  return color;
+}
+
+double textWidth(const QString& text, const QFont& font) {
+  return QFontMetricsF(font).horizontalAdvance(text);
+}
+
+double textHeight(const QFont& font) {
+  return QFontMetricsF(font).height();
+}
+
+void drawText(QPainter& painter, const QString& text, const QFont& font, const QColor& color, QPointF place) {
+  constexpr double unbroken = 1e6;
+  painter.setPen(color);
+  TextBlock(text, font, unbroken).draw(painter, place);
+}
+
+typeset::Layout setFormula(std::string_view latex, double size) {
+  static typeset::MathFont font = typeset::MathFont::open(typeset::bundledMathFont()).value();
+  return typeset::typeset(latex, font, size);
+}
+
+void drawCrispLine(QPainter& painter, QPointF from, QPointF to, double width, const QColor& color) {
+  const QRectF line(from, to);
+  const bool isLevel = line.height() == 0;
+  const double half = width / 2;
+  QRectF exact = (isLevel ? line.adjusted(0, -half, 0, half) : line.adjusted(-half, 0, half, 0)).normalized();
+  if (painter.paintEngine()->type() == QPaintEngine::Raster) {
+    const QTransform toDevice = painter.deviceTransform();
+    const QRectF device = toDevice.mapRect(exact);
+    const double thickness = std::max(1.0, std::round(isLevel ? device.height() : device.width()));
+    const QPointF corner(std::round(isLevel ? device.left() : device.center().x() - thickness / 2),
+                         std::round(isLevel ? device.center().y() - thickness / 2 : device.top()));
+    const QPointF end(isLevel ? std::round(device.right()) : corner.x() + thickness,
+                      isLevel ? corner.y() + thickness : std::round(device.bottom()));
+    exact = toDevice.inverted().mapRect(QRectF(corner, end));
+  }
+  const bool isSmooth = painter.testRenderHint(QPainter::Antialiasing);
+  painter.setRenderHint(QPainter::Antialiasing, false);
+  painter.fillRect(exact, color);
+  painter.setRenderHint(QPainter::Antialiasing, isSmooth);
+}
+
+void drawCard(QPainter& painter, const QRectF& card, double radius, const QColor& background,
+              const QColor& shadow, bool isDark) {
+  // Rings one over the other, weaker outwards, come close to a blurred shadow on any device.
+  constexpr double opacity = 0.5;
+  constexpr int rings = 6;
+  const double blur = isDark ? 1 : 2;
+  const QRectF ground = isDark ? card : card.translated(0, 1.5);
+  QPainterPath inside;
+  inside.addRoundedRect(card, radius, radius);
+  painter.save();
+  painter.setRenderHint(QPainter::Antialiasing);
+  for (int ring = 0; ring < rings; ++ring) {
+    const double grown = 2 * blur * (1 - static_cast<double>(ring) / rings);
+    QPainterPath layer;
+    layer.addRoundedRect(ground.adjusted(-grown, -grown, grown, grown), radius + grown, radius + grown);
+    painter.fillPath(layer, withOpacity(shadow, opacity / rings / 2));
+  }
+  painter.fillPath(inside, background);
+  painter.restore();
+}
+
+}  // namespace tavi

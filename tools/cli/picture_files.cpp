@@ -1,0 +1,113 @@
+#include "picture_files.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <iostream>
+#include <string>
+
+#include <QtCore/QSaveFile>
+#include <QtGui/QGuiApplication>
+#include <QtGui/QImage>
+#include <QtGui/QPainter>
+#include <QtGui/QPdfWriter>
+#include <QtSvg/QSvgGenerator>
+
+#include "appearance/appearance.h"
+
+namespace tavi::cli {
+namespace {
+
+// What QImage can paint on.
+constexpr double widestImage = 32767;
+
+bool readScale(std::string_view text, double& scale) {
+  const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), scale);
+  return error == std::errc{} && end == text.data() + text.size() && scale > 0 && scale <= 20;
+}
+
+void paintScaled(QPaintDevice& device, const Picture& picture, double scale) {
+  QPainter painter(&device);
+  painter.scale(scale, scale);
+  picture.paint(painter);
+}
+
+bool writePng(QSaveFile& file, const Picture& picture, double scale) {
+  const QSizeF size = picture.size * scale;
+  if (size.width() > widestImage || size.height() > widestImage) {
+    std::cerr << "tavi-cli: the picture would be " << std::ceil(size.width())
+              << " pixels wide; an SVG has no limit\n";
+    return false;
+  }
+  QImage image(size.toSize().expandedTo({1, 1}), QImage::Format_ARGB32_Premultiplied);
+  if (image.isNull()) return false;
+  image.fill(Qt::transparent);
+  paintScaled(image, picture, scale);
+  return image.save(&file, "PNG");
+}
+
+bool writeSvg(QSaveFile& file, const Picture& picture, double scale) {
+  QSvgGenerator generator;
+  generator.setOutputDevice(&file);
+  generator.setResolution(96);
+  const QSizeF size = picture.size * scale;
+  generator.setSize({static_cast<int>(std::ceil(size.width())), static_cast<int>(std::ceil(size.height()))});
+  generator.setViewBox(QRectF({0, 0}, size));
+  paintScaled(generator, picture, scale);
+  return true;
+}
+
+bool writePdf(QSaveFile& file, const Picture& picture, double scale) {
+  QPdfWriter writer(&file);
+  writer.setResolution(72);
+  writer.setPageSize(QPageSize(picture.size * scale, QPageSize::Point, {}, QPageSize::ExactMatch));
+  writer.setPageMargins({});
+  paintScaled(writer, picture, scale);
+  return true;
+}
+
+bool save(const QString& name, const Picture& picture, double scale,
+          bool (*write)(QSaveFile& file, const Picture& picture, double scale)) {
+  if (name.isEmpty()) return true;
+  QSaveFile file(name);
+  const bool isSaved = file.open(QIODevice::WriteOnly) && write(file, picture, scale) && file.commit();
+  if (!isSaved) std::cerr << "tavi-cli: cannot write " << name.toStdString() << '\n';
+  return isSaved;
+}
+
+}  // namespace
+
+PictureFiles::Read PictureFiles::read(Arguments& arguments) {
+  const std::string_view option = arguments.front();
+  if (option == "--dark") {
+    isDark = true;
+    arguments = arguments.subspan(1);
+    return Read::done;
+  }
+  const bool isFile = option == "--png" || option == "--svg" || option == "--pdf";
+  if (!isFile && option != "--scale") return Read::notMine;
+  if (arguments.size() < 2) return Read::wrong;
+  const std::string_view value = arguments[1];
+  arguments = arguments.subspan(2);
+  if (!isFile) return readScale(value, scale) ? Read::done : Read::wrong;
+  (option == "--png"   ? png
+   : option == "--svg" ? svg
+                       : pdf) = QString::fromUtf8(value.data(), static_cast<qsizetype>(value.size()));
+  return Read::done;
+}
+
+int PictureFiles::draw(const std::function<Picture()>& make) const {
+  // Without a screen unless one is asked for.
+  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+  int argumentCount = 1;
+  std::string name = "tavi-cli";
+  std::array<char*, 2> arguments{name.data(), nullptr};
+  const QGuiApplication application(argumentCount, arguments.data());
+  Appearance::shared().force(isDark);
+  const Picture picture = make();
+  const bool areSaved = save(png, picture, scale, writePng) && save(svg, picture, scale, writeSvg) &&
+                        save(pdf, picture, scale, writePdf);
+  return areSaved ? success : cannotWrite;
+}
+
+}  // namespace tavi::cli
