@@ -30,24 +30,6 @@ constexpr std::array numberedKeys{
     NumberedKey{TaviError::mustBeLessThanX, 1},
 };
 
-QStringList pieces(const QString& key) {
-  return key.split(u'§', Qt::SkipEmptyParts);
-}
-
-// Empty for a key with the wrong count of numbers.
-QString errorWords(const QString& key) {
-  const QStringList parts = pieces(key);
-  if (parts.isEmpty()) return {};
-  QString words = localized(qUtf8Printable(parts.front()));
-  const auto* const numbered =
-      std::find_if(numberedKeys.begin(), numberedKeys.end(),
-                   [&](const NumberedKey& row) { return text(row.key) == parts.front(); });
-  if (numbered == numberedKeys.end()) return words;
-  if (parts.size() != 1 + numbered->numbers) return {};
-  for (qsizetype i = 0; i < numbered->numbers; ++i) words.replace(u'%' + QString::number(i), parts[i + 1]);
-  return words;
-}
-
 }  // namespace
 
 ErrorManager& ErrorManager::shared() {

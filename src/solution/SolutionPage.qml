@@ -61,9 +61,6 @@ Rectangle {
             }
         }
 
-        // A ring is for those who go by key: it comes with the first one, if only let go here.
-        property bool isKeyed: false
-
         function scrollBy(way: real) {
             const top = originY - topMargin;
             const foot = Math.max(top, originY + contentHeight + bottomMargin - height);
@@ -96,8 +93,7 @@ Rectangle {
 
         keyNavigationEnabled: false
         highlightFollowsCurrentItem: false
-        onActiveFocusChanged: isKeyed = false
-        Keys.onReleased: isKeyed = true
+        currentIndex: -1
         Keys.onPressed: event => {
             const actions = {
                 [Qt.Key_Down]: () => stepBy(1),
@@ -111,7 +107,7 @@ Rectangle {
                 [Qt.Key_Menu]: () => openMenu()
             };
             if (event.matches(StandardKey.Copy))
-                page.controller.copyRow(isKeyed ? currentIndex : -1, RowCopy.Latex);
+                page.controller.copyRow(currentIndex, RowCopy.Latex);
             else if (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
                 openMenu();
             else if (event.modifiers === Qt.NoModifier && event.key in actions)
@@ -125,7 +121,7 @@ Rectangle {
             target: page.controller
             function onScrollToTopRequested() {
                 table.positionViewAtBeginning();
-                table.currentIndex = 0;
+                table.currentIndex = -1;
             }
             function onSolutionShown() {
                 table.forceActiveFocus(Qt.TabFocusReason);
@@ -133,6 +129,11 @@ Rectangle {
         }
     }
 
+    // Until a row is chosen, the keyboard is at the whole table.
+    FocusRing {
+        anchors.fill: table
+        control: table.currentIndex < 0 ? table : null
+    }
     RowMenu {
         id: rowMenu
 

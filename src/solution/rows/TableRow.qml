@@ -10,7 +10,7 @@ Item {
     required property var rowHeight
     required property real viewWidth
     readonly property ListView table: ListView.view
-    readonly property bool isCurrent: ListView.isCurrentItem && table !== null && table.activeFocus && table.isKeyed
+    readonly property bool isCurrent: ListView.isCurrentItem && table !== null && table.activeFocus
 
     signal menuRequested(point place)
 
@@ -30,7 +30,7 @@ Item {
         onTapped: eventPoint => row.menuRequested(eventPoint.position)
     }
     FocusRing {
-        visible: row.isCurrent
+        control: row.isCurrent ? row.table : null
         z: 1
     }
 }
