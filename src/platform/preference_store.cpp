@@ -99,7 +99,7 @@ int splitArrays(sqlite3* database) {
   for (Run run(reading); run.hasRow();)
     if (const auto array = decodePreference(run.text(1))) arrays.append({run.text(0), array->toList()});
   for (const auto& [key, array] : arrays) {
-    const auto isPrepended = [&](const QVariant& element) {
+    const auto isPrepended = [&, &key = key](const QVariant& element) {
       Run run(prepending, key, encodePreference(element));
       return run.hasRow() && run.isDone();
     };
