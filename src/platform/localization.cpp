@@ -1,8 +1,10 @@
 #include "platform/localization.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLocale>
 #include <QTranslator>
+#include <algorithm>
 
 #include "output/localized_string.h"
 
@@ -10,10 +12,13 @@ namespace tavi {
 
 namespace {
 
+const QString folder = QStringLiteral(":/i18n/");
+const QString namePrefix = QStringLiteral("tavi_");
+
 /// "de-AT" is also served by "de". English needs no file of its own: it lies under all others.
 bool install(const QString& language) {
   auto* translator = new QTranslator(QCoreApplication::instance());
-  const QString name = QStringLiteral(":/i18n/tavi_") + QString(language).replace(u'-', u'_');
+  const QString name = folder + namePrefix + QString(language).replace(u'-', u'_');
   return translator->load(name) && QCoreApplication::installTranslator(translator);
 }
 
@@ -23,14 +28,20 @@ QString localized(const char* key) {
   return qtTrId(key);
 }
 
-void loadTranslations(QStringList languages) {
+bool loadTranslations(QStringList languages) {
   if (languages.isEmpty()) languages = QLocale::system().uiLanguages();
   install(QStringLiteral("en"));
-  for (const QString& language : languages)
-    if (install(language)) break;
+  const bool isFound = std::any_of(languages.begin(), languages.end(), install);
   LocalizedText::installLookup([](std::string_view key, std::string_view) {
     return localized(std::string(key).c_str()).toStdString();
   });
+  return isFound;
+}
+
+QStringList translatedLanguages() {
+  QStringList languages = QDir(folder).entryList({namePrefix + u'*'}, QDir::Files, QDir::Name);
+  for (QString& name : languages) name = name.mid(namePrefix.size()).section(u'.', 0, 0).replace(u'_', u'-');
+  return languages;
 }
 
 }  // namespace tavi

@@ -9,8 +9,12 @@ namespace tavi {
 QString localized(const char* key);
 
 /// Loads the translations: English underneath, over it the first of the languages (BCP 47 names, most wanted
-/// first) that there is. From then on `localized`, QML and the texts of the working speak it. To be called
-/// once, before the first text is read; without languages those of the system are taken.
-void loadTranslations(QStringList languages = {});
+/// first) that there is; false when there is none of them. From then on `localized`, QML and the texts of the
+/// working speak it. To be called once, when there is an application object and before the first text is
+/// read; without languages those of the system are taken.
+bool loadTranslations(QStringList languages = {});
+
+/// The languages that there are, by their BCP 47 names.
+QStringList translatedLanguages();
 
 }  // namespace tavi

@@ -44,6 +44,19 @@ TEST(Cli, PrintsAWorkingAsShownStoredOrJson) {
             "\n");
 }
 
+TEST(Cli, TitlesAreKeysUnlessALanguageIsAskedFor) {
+  EXPECT_NE(cli("solve power 2 6/4").output.find("Cancel (math)    "), std::string::npos);
+  EXPECT_NE(cli("solve --language en power 2 6/4").output.find("\nCancel the fraction "), std::string::npos);
+  EXPECT_EQ(cli("solve --language de-AT power 1 1").output,
+            "Deine Eingabe  1^{1}\n"
+            "Ergebnis       1^{1} = 1\n");
+  EXPECT_NE(cli("solve --language de --json power 2 6/4").output.find(R"("Bruch kürzen")"),
+            std::string::npos);
+  const Finished unknown = cli("solve --language tlh power 2 6/4 2>&1");
+  EXPECT_EQ(unknown.exitCode, 64);
+  EXPECT_NE(unknown.output.find("no words in the language \"tlh\", only in de, "), std::string::npos);
+}
+
 TEST(Cli, ExitCodesTellHowATaskEnds) {
   const Finished rejected = cli("solve power 1/ 2 2>&1");
   EXPECT_EQ(rejected.exitCode, 2);

@@ -87,6 +87,20 @@ TEST(RenderCommand, DrawsTheWorkingToPngSvgAndPdf) {
   EXPECT_EQ(dark.pixelColor(0, 0), QColor("#121212"));
 }
 
+TEST(RenderCommand, TitlesAreEnglishUnlessAnotherLanguageIsAskedFor) {
+  const QTemporaryDir directory;
+  const auto drawn = [&](const QStringList& options) {
+    const QString file = directory.filePath("working.svg");
+    EXPECT_EQ(run(QStringList{"render", "power", "2", "6/4", "--svg", file} + options).exitCode, 0);
+    QFile picture(file);
+    EXPECT_TRUE(picture.open(QIODevice::ReadOnly));
+    return picture.readAll();
+  };
+  const QByteArray picture = drawn({});
+  EXPECT_EQ(drawn({"--language", "en"}), picture);
+  EXPECT_NE(drawn({"--language", "de"}), picture);
+}
+
 TEST(Commands, ExitCodesTellWhatWentWrong) {
   struct Case {
     QStringList arguments;
@@ -103,6 +117,7 @@ TEST(Commands, ExitCodesTellWhatWentWrong) {
       {{"render", "power", "2", "--png", "x.png"}, 64},
       {{"render", "cube", "2", "3", "--png", "x.png"}, 64},
       {{"render", "power", "2", "3", "--png", "x.png", "--scale", "0"}, 64},
+      {{"render", "power", "2", "3", "--png", "x.png", "--language", "tlh"}, 64},
       {{"render", "power", "1/", "3", "--png", "x.png"}, 2},
       {{"render", "power", "10001", "3", "--png", "x.png"}, 4},
       {{"render", "power", "900", "12345", "--png", "x.png", "--scale", "20"}, 73},

@@ -16,6 +16,7 @@
 #include "commands.h"
 #include "number/fatal_stop.h"
 #include "picture_files.h"
+#include "screenless.h"
 
 namespace tavi::cli {
 namespace {
@@ -79,6 +80,7 @@ int drawFile(const std::string& name, const std::optional<QSizeF>& size, const P
     std::shared_ptr<const ChartView> view;
     if (auto made = ChartManager::chartView(request.charts))
       view = std::make_shared<const ChartView>(std::move(*made));
+    const Screenless application;
     return files.draw([&]() -> Picture {
       return {row, [&](QPainter& painter) {
                 painter.fillRect(QRectF({}, row), InterfaceColor::page());

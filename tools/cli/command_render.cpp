@@ -6,6 +6,7 @@
 
 #include "commands.h"
 #include "picture_files.h"
+#include "screenless.h"
 #include "solution/rows/row_stack.h"
 #include "solution/rows/solution_table_data.h"
 #include "solver/rehearsal.h"
@@ -25,6 +26,7 @@ Draws the whole working as one picture, as the solution screen shows it.
   --png FILE, --svg FILE, --pdf FILE  where to, one or more of them
   --scale S                           pixels to a unit, above 0 and up to 20 (default 2)
   --dark                              the dark appearance
+  --language L                        titles in that language, such as de (default en)
 
 Exit codes: those of solve, and 73 when a file cannot be written.
 )";
@@ -42,12 +44,18 @@ Picture pictureOf(const SolutionSteps& steps) {
 int renderCommand(Arguments arguments) {
   PictureFiles files;
   files.scale = 2;
+  std::string_view language = "en";
   std::vector<std::string_view> operands;
   while (!arguments.empty()) {
     const std::string_view argument = arguments.front();
     if (argument == "--help") {
       std::cout << usage;
       return success;
+    }
+    if (argument == "--language" && arguments.size() > 1) {
+      language = arguments[1];
+      arguments = arguments.subspan(2);
+      continue;
     }
     const PictureFiles::Read read = files.read(arguments);
     if (read == PictureFiles::Read::done) continue;
@@ -62,6 +70,8 @@ int renderCommand(Arguments arguments) {
   const std::optional<Mode> mode = readMode(operands[0]);
   if (!mode) return usageError("the mode is power or root", usage);
 
+  const Screenless application;
+  if (const auto problem = useLanguage(language)) return usageError(*problem, usage);
   const Rehearsal ending = rehearse({*mode, std::string(operands[1]), std::string(operands[2])});
   const auto* outcome = std::get_if<CalculationOutcome>(&ending);
   if (outcome != nullptr && outcome->solutionSteps) {

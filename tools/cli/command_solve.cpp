@@ -1,4 +1,5 @@
 #include <algorithm>
+#include <array>
 #include <cstdint>
 #include <iostream>
 #include <optional>
@@ -6,6 +7,8 @@
 #include <vector>
 
 #include <nlohmann/json.hpp>
+
+#include <QtCore/QCoreApplication>
 
 #include "commands.h"
 #include "solution/display_latex.h"
@@ -16,14 +19,15 @@ namespace {
 
 using nlohmann::ordered_json;
 
-constexpr std::string_view usage = R"(Usage: tavi-cli solve [--raw | --json] power EXPONENT BASE
-       tavi-cli solve [--raw | --json] root INDEX RADICAND
+constexpr std::string_view usage = R"(Usage: tavi-cli solve [options] power EXPONENT BASE
+       tavi-cli solve [options] root INDEX RADICAND
        tavi-cli solve --json-lines
 
 Prints the working, a line for each step: its title and its LaTeX as it is typeset.
 An operand is a number, a decimal, a fraction, or a multiple of π, x, y or z, and may
 begin with a minus; an empty INDEX is 2. Behind "--" nothing is an option.
 
+  --language L  titles in that language, such as de, instead of their keys
   --raw         the LaTeX as it is stored
   --json        one JSON object, with the stored LaTeX
   --json-lines  answers each line {"first": text or null, "second": text or null,
@@ -77,11 +81,16 @@ int explain(const ExpansionTooLong& expansion) {
   return tooLong;
 }
 
+// In characters; all bytes of one but the first have the form 10xxxxxx.
+std::ptrdiff_t widthOf(std::string_view text) {
+  return std::ranges::count_if(text, [](char byte) { return (byte & 0xC0) != 0x80; });
+}
+
 void printSteps(const SolutionSteps& steps, bool isRaw) {
-  std::size_t width = 0;
-  for (const SolutionStep& step : steps) width = std::max(width, step.title->size());
+  std::ptrdiff_t width = 0;
+  for (const SolutionStep& step : steps) width = std::max(width, widthOf(*step.title));
   for (const SolutionStep& step : steps) {
-    std::cout << *step.title << std::string(width + 2 - step.title->size(), ' ')
+    std::cout << *step.title << std::string(static_cast<std::size_t>(width + 2 - widthOf(*step.title)), ' ')
               << (isRaw ? *step.latexString : displayLatex(*step.latexString)) << '\n';
   }
 }
@@ -123,9 +132,11 @@ int solveLines() {
 
 int solveCommand(Arguments arguments) {
   std::string_view form;
+  std::optional<std::string_view> language;
   std::vector<std::string> operands;
   bool areOptionsOver = false;
-  for (const std::string_view argument : arguments) {
+  for (std::size_t index = 0; index < arguments.size(); ++index) {
+    const std::string_view argument = arguments[index];
     const bool isOption = !areOptionsOver && argument.starts_with("--") &&
                           (argument.size() == 2 || (argument[2] >= 'a' && argument[2] <= 'z'));
     if (!isOption) {
@@ -135,6 +146,8 @@ int solveCommand(Arguments arguments) {
     } else if (argument == "--help") {
       std::cout << usage;
       return success;
+    } else if (argument == "--language" && index + 1 < arguments.size()) {
+      language = arguments[++index];
     } else if (argument == "--raw" || argument == "--json" || argument == "--json-lines") {
       if (!form.empty() && form != argument) {
         return usageError("--raw, --json and --json-lines exclude each other", usage);
@@ -143,6 +156,14 @@ int solveCommand(Arguments arguments) {
     } else {
       return usageError("solve has no option " + std::string(argument), usage);
     }
+  }
+  int argumentCount = 1;
+  std::string name = "tavi-cli";
+  std::array<char*, 2> applicationArguments{name.data(), nullptr};
+  std::optional<QCoreApplication> application;
+  if (language) {
+    application.emplace(argumentCount, applicationArguments.data());
+    if (const auto problem = useLanguage(*language)) return usageError(*problem, usage);
   }
   if (form == "--json-lines") {
     return operands.empty() ? solveLines() : usageError("--json-lines takes no operands", usage);

@@ -2,6 +2,7 @@
 
 #include <optional>
 #include <span>
+#include <string>
 #include <string_view>
 
 #include "input/mode.h"
@@ -27,6 +28,10 @@ int chartCommand(Arguments arguments);
 
 /// The mode of that name, "power" or "root".
 std::optional<Mode> readMode(std::string_view name);
+
+/// Has workings titled in the words of the language, a BCP 47 name; needs an application object. Gives what
+/// is wrong where there are no such words.
+std::optional<std::string> useLanguage(std::string_view language);
 
 /// Prints what is wrong and the usage to standard error; the result is the exit code.
 int usageError(std::string_view problem, std::string_view usage);

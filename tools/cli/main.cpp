@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "commands.h"
+#include "platform/localization.h"
 
 namespace tavi::cli {
 namespace {
@@ -59,6 +60,13 @@ std::optional<Mode> readMode(std::string_view name) {
   if (name == "power") return Mode::power;
   if (name == "root") return Mode::root;
   return std::nullopt;
+}
+
+std::optional<std::string> useLanguage(std::string_view language) {
+  const auto name = QString::fromUtf8(language.data(), static_cast<qsizetype>(language.size()));
+  if (loadTranslations({name})) return std::nullopt;
+  return "no words in the language \"" + std::string(language) + "\", only in " +
+         translatedLanguages().join(QStringLiteral(", ")).toStdString();
 }
 
 int usageError(std::string_view problem, std::string_view usage) {

@@ -7,7 +7,6 @@
 #include <string>
 
 #include <QtCore/QSaveFile>
-#include <QtGui/QGuiApplication>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
 #include <QtGui/QPdfWriter>
@@ -97,12 +96,6 @@ PictureFiles::Read PictureFiles::read(Arguments& arguments) {
 }
 
 int PictureFiles::draw(const std::function<Picture()>& make) const {
-  // Without a screen unless one is asked for.
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  int argumentCount = 1;
-  std::string name = "tavi-cli";
-  std::array<char*, 2> arguments{name.data(), nullptr};
-  const QGuiApplication application(argumentCount, arguments.data());
   Appearance::shared().force(isDark);
   const Picture picture = make();
   const bool areSaved = save(png, picture, scale, writePng) && save(svg, picture, scale, writeSvg) &&

@@ -32,8 +32,8 @@ struct PictureFiles {
 
   bool areNone() const { return png.isEmpty() && svg.isEmpty() && pdf.isEmpty(); }
 
-  /// Draws what `make` makes, for which there is an application with the fonts and colours of the appearance.
-  /// The result is the exit code.
+  /// Draws what `make` makes in the colours of the appearance. Needs an application object. The result is the
+  /// exit code.
   int draw(const std::function<Picture()>& make) const;
 };
 
