@@ -23,6 +23,5 @@ namespace {
 int main(int argumentCount, char** arguments) {
   std::set_terminate(endWithReason);
   tavi::Application application(argumentCount, arguments);
-  application.launch();
-  return tavi::Application::exec();
+  return application.launch() ? tavi::Application::exec() : 0;
 }

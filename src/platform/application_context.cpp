@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 #include <QLocale>
+#include <QStandardPaths>
 
 namespace tavi {
 
@@ -24,6 +25,10 @@ void nameApplication() {
   QCoreApplication::setOrganizationDomain(QStringLiteral("tavi.example.org"));
   QCoreApplication::setApplicationName(QStringLiteral("tavi"));
   QGuiApplication::setDesktopFileName(ownIdentifier);
+}
+
+QString userDataFolder() {
+  return QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
 }
 
 }  // namespace tavi

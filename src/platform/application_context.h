@@ -18,4 +18,7 @@ struct ApplicationContext {
 /// application's entry and icon. To be called before anything is stored or shown.
 void nameApplication();
 
+/// The folder in which the application keeps what is its user's.
+QString userDataFolder();
+
 }  // namespace tavi

@@ -2,12 +2,12 @@
 
 #include <QDebug>
 #include <QScopeGuard>
-#include <QStandardPaths>
 #include <algorithm>
 #include <array>
 
 #include <sqlite3.h>
 
+#include "platform/application_context.h"
 #include "platform/preference_codec.h"
 
 namespace tavi {
@@ -128,8 +128,7 @@ void print(const char* what, const QString& key, const QString& why) {
 }  // namespace
 
 PreferenceStore& PreferenceStore::standard() {
-  static PreferenceStore store(QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) +
-                               "/preferences.sqlite");
+  static PreferenceStore store(userDataFolder() + "/preferences.sqlite");
   return store;
 }
 

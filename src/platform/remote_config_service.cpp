@@ -3,8 +3,8 @@
 #include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QStandardPaths>
 
+#include "platform/application_context.h"
 #include "platform/bounded_get.h"
 #include "platform/preferences.h"
 
@@ -37,9 +37,8 @@ RemoteConfigSettings RemoteConfigSettings::fromBundle(const ResourceBundle& bund
 }
 
 RemoteConfigService& RemoteConfigService::shared() {
-  static RemoteConfigService service(
-      RemoteConfigSettings::fromBundle(ResourceBundle::main()),
-      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/remote_config.sqlite");
+  static RemoteConfigService service(RemoteConfigSettings::fromBundle(ResourceBundle::main()),
+                                     userDataFolder() + "/remote_config.sqlite");
   return service;
 }
 

@@ -1,5 +1,6 @@
 #include "platform/store_children.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QFile>
 #include <QMap>
@@ -15,6 +16,7 @@
 #include <unistd.h>
 
 #include "platform/preference_store.h"
+#include "platform/single_instance.h"
 #include "platform/test_support.h"
 
 namespace tavi {
@@ -113,6 +115,14 @@ int fillDisk(const QString& folder) {
   return store.setValue("after", true) ? 0 : fail("no writing after the disk has room again");
 }
 
+int holdInstance(const QString& folder) {
+  SingleInstance instance(folder);
+  if (!instance.isFirst()) return fail("not the first");
+  std::puts("first");
+  std::fflush(stdout);
+  return QCoreApplication::exec();
+}
+
 bool becomeAnotherUser() {
   constexpr uid_t nobody = 65534;
   return geteuid() != 0 || setuid(nobody) == 0;
@@ -182,11 +192,15 @@ QVariantList valuesOfEveryKind() {
 }
 
 int runStoreChild(const QString& name, const QString& path) {
-  const QMap<QString, int (*)(const QString&)> children{
-      {"write-kinds", writeKinds},    {"count-up", countUp},
-      {"write-and-die", writeAndDie}, {"fill-file", fillFile},
-      {"fill-disk", fillDisk},        {"old-form-full-disk", openOldFormOnFullDisk},
-      {"read-only", openReadOnly},    {"no-permission", openWithoutPermission}};
+  const QMap<QString, int (*)(const QString&)> children{{"write-kinds", writeKinds},
+                                                        {"count-up", countUp},
+                                                        {"write-and-die", writeAndDie},
+                                                        {"fill-file", fillFile},
+                                                        {"fill-disk", fillDisk},
+                                                        {"old-form-full-disk", openOldFormOnFullDisk},
+                                                        {"hold-instance", holdInstance},
+                                                        {"read-only", openReadOnly},
+                                                        {"no-permission", openWithoutPermission}};
   return children.contains(name) ? children[name](path) : fail("no such child");
 }
 

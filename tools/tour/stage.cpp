@@ -31,7 +31,7 @@ QPoint middle(const QQuickItem& item) {
 }  // namespace
 
 Stage::Stage(Application& application) : application_(application), finger_(QTest::createTouchDevice()) {
-  application_.launch();
+  if (!application_.launch()) throw Failure("it runs already");
   bool hasFrame = false;
   const auto counting =
       QObject::connect(&window(), &QQuickWindow::frameSwapped, &window(), [&hasFrame] { hasFrame = true; });

@@ -12,8 +12,18 @@ Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
 namespace tavi {
 
-Application::Application(int& argumentCount, char** arguments) : QGuiApplication(argumentCount, arguments) {
+namespace {
+
+/// Everything that is named after the application comes after this.
+QString namedDataFolder() {
   nameApplication();
+  return userDataFolder();
+}
+
+}  // namespace
+
+Application::Application(int& argumentCount, char** arguments)
+    : QGuiApplication(argumentCount, arguments), instance_(namedDataFolder()) {
   setWindowIcon(QIcon::fromTheme(desktopFileName()));
   loadTranslations();
   Appearance::shared().followSystem();
@@ -21,9 +31,19 @@ Application::Application(int& argumentCount, char** arguments) : QGuiApplication
 
 Application::~Application() = default;
 
-void Application::launch() {
+bool Application::launch() {
+  if (!instance_.isFirst()) return false;
   delegate_.emplace(engine_);
   delegate_->didFinishLaunching();
+  connect(&instance_, &SingleInstance::shown, this, &Application::showWindow);
+  return true;
+}
+
+void Application::showWindow() {
+  QQuickWindow* window = delegate_->window();
+  window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
+  window->raise();
+  window->requestActivate();
 }
 
 }  // namespace tavi

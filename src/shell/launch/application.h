@@ -4,6 +4,7 @@
 #include <QQmlEngine>
 #include <optional>
 
+#include "platform/single_instance.h"
 #include "shell/launch/app_delegate.h"
 
 namespace tavi {
@@ -16,14 +17,18 @@ class Application : public QGuiApplication {
   Application(int& argumentCount, char** arguments);
   ~Application() override;
 
-  /// Opens the window.
-  void launch();
+  /// Opens the window. False when the application of this user runs already: then that one's window comes to
+  /// the front, and this process is to end.
+  [[nodiscard]] bool launch();
 
   /// What runs the screens; there once the window was opened.
   AppDelegate& delegate() { return *delegate_; }
   QQmlEngine& engine() { return engine_; }
 
  private:
+  void showWindow();
+
+  SingleInstance instance_;
   QQmlEngine engine_;
   std::optional<AppDelegate> delegate_;
 };

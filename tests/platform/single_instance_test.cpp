@@ -1,0 +1,72 @@
+#include "platform/single_instance.h"
+
+#include <QCoreApplication>
+#include <QLocalSocket>
+#include <QProcess>
+#include <QThread>
+
+#include <gtest/gtest.h>
+
+#include "platform/test_support.h"
+
+namespace tavi {
+namespace {
+
+class SingleInstanceTest : public testing::Test {
+ protected:
+  /// Another start, while this process goes on.
+  bool isOtherFirst() {
+    std::optional<bool> isFirst;
+    const std::unique_ptr<QThread> thread(QThread::create(
+        [&] { isFirst = SingleInstance(folder_.path(), std::chrono::minutes(1)).isFirst(); }));
+    thread->start();
+    EXPECT_TRUE(waitUntil([&] { return thread->isFinished(); }));
+    return isFirst.value_or(false);
+  }
+
+  QTemporaryDir folder_;
+};
+
+TEST_F(SingleInstanceTest, ALaterStartShowsTheFirstOneAndEnds) {
+  {
+    SingleInstance first(folder_.path());
+    int shown = 0;
+    QObject::connect(&first, &SingleInstance::shown, [&shown] { ++shown; });
+    EXPECT_TRUE(first.isFirst());
+    EXPECT_FALSE(isOtherFirst());
+    EXPECT_FALSE(isOtherFirst());
+    EXPECT_EQ(shown, 2);
+    QLocalSocket stranger;
+    stranger.connectToServer(folder_.filePath("instance.socket"));
+    stranger.write(QByteArray(10'000, 'x'));
+    EXPECT_TRUE(waitUntil([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
+    EXPECT_EQ(shown, 2);
+  }
+  EXPECT_TRUE(isOtherFirst()) << "the first one is gone";
+}
+
+TEST_F(SingleInstanceTest, AKilledOneIsNotThere) {
+  QProcess first;
+  first.start(QCoreApplication::applicationFilePath(), {"--child", "hold-instance", folder_.path()});
+  ASSERT_TRUE(first.waitForReadyRead());
+  first.kill();
+  first.waitForFinished();
+  ASSERT_TRUE(QFile::exists(folder_.filePath("instance.socket")));
+  SingleInstance next(folder_.path());
+  EXPECT_TRUE(next.isFirst());
+  EXPECT_FALSE(isOtherFirst());
+}
+
+TEST_F(SingleInstanceTest, OneThatDoesNotAnswerKeepsNobodyWaiting) {
+  SingleInstance first(folder_.path());
+  EXPECT_TRUE(first.isFirst());
+  EXPECT_TRUE(SingleInstance(folder_.path(), std::chrono::milliseconds(100)).isFirst())
+      << "in this thread, so that the first one cannot answer";
+}
+
+TEST_F(SingleInstanceTest, WhereNoLockCanBeEveryStartIsTheFirst) {
+  EXPECT_TRUE(SingleInstance("/dev/null/nowhere").isFirst());
+}
+
+}  // namespace
+}  // namespace tavi
