@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -10,7 +11,7 @@ namespace tavi {
 namespace {
 
 // More points than any screen shows.
-constexpr std::int64_t mostIntervals = 1'000'000;
+constexpr double mostIntervals = 1'000'000;
 
 struct Graph {
   double (*function)(double);
@@ -52,11 +53,11 @@ std::int64_t intervalCount(double length, bool isSteep) {
   const double density = isSteep ? length / std::numbers::pi * 200 : 32;
   const double longestStep = std::numbers::pi / density;
   if (longestStep >= std::abs(length) * 0.25) return 4;
-  std::int64_t count = 6;
-  while (longestStep < std::abs(length) / static_cast<double>(count)) {
-    count += 2;
-    if (count > mostIntervals) fatalStop("a graph of points without end");
-  }
+  const double steps = std::abs(length) / longestStep;
+  if (!(steps > 0 && steps <= mostIntervals)) fatalStop("a graph of points without end");
+  // From just below, for the quotients decide.
+  std::int64_t count = std::max<std::int64_t>(6, 2 * static_cast<std::int64_t>(steps / 2) - 2);
+  while (longestStep < std::abs(length) / static_cast<double>(count)) count += 2;
   return count;
 }
 
@@ -80,7 +81,9 @@ SplineChartView SplineChartManager::trigonometricChartView(const TrigonometricCh
   const auto limit = [&](int sign) {
     return graph.isSteep ? std::optional(sign * 2 * data.amplitude) : std::nullopt;
   };
-  return {{chartOptions(graph.type, std::string(graph.title), {std::move(series)}, xAxis("x", {}, {}, true),
+  std::vector<ChartSeries> all;
+  all.push_back(std::move(series));
+  return {{chartOptions(graph.type, std::string(graph.title), std::move(all), xAxis("x", {}, {}, true),
                         yAxis("y", limit(-1), limit(1)))}};
 }
 

@@ -75,7 +75,8 @@ std::vector<NaturalConstant> TaviMathOperation::commonConstantsRemoved(
 }
 
 double TaviMathOperation::rounded(int places, double value) {
-  const double factor = std::pow(10.0, places);
+  double factor = 1;
+  for (int place = 0; place < places; ++place) factor *= 10;
   return std::round(value * factor) / factor;
 }
 

@@ -1,6 +1,8 @@
 #include "charts/view/canvas.h"
 
 #include <QFontMetricsF>
+#include <QImage>
+#include <QLineF>
 #include <QPaintEngine>
 #include <QPainterPath>
 #include <cmath>
@@ -22,6 +24,10 @@ QColor withOpacity(QColor color, double opacity) {
 
 double textWidth(const QString& text, const QFont& font) {
   return QFontMetricsF(font).horizontalAdvance(text);
+}
+
+QString shortened(const QString& text, const QFont& font, double width) {
+  return QFontMetricsF(font).elidedText(text, Qt::ElideRight, std::max(0.0, width));
 }
 
 double textHeight(const QFont& font) {
@@ -58,6 +64,53 @@ void drawCrispLine(QPainter& painter, QPointF from, QPointF to, double width, co
   painter.setRenderHint(QPainter::Antialiasing, false);
   painter.fillRect(exact, color);
   painter.setRenderHint(QPainter::Antialiasing, isSmooth);
+}
+
+void drawJoined(QPainter& painter, std::span<const QPointF> points, const QColor& color, double width) {
+  // One stroke of many points takes far longer than its parts, whose corners nobody sees where they are
+  // dense.
+  constexpr std::size_t mostInOneStroke = 64;
+  const auto count = static_cast<int>(points.size());
+  QPen pen(color, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
+  if (points.size() <= mostInOneStroke) {
+    painter.setPen(pen);
+    painter.drawPolyline(points.data(), count);
+    return;
+  }
+  QList<QLineF> lines;
+  for (std::size_t index = 0; index + 1 < points.size(); ++index)
+    lines.emplace_back(points[index], points[index + 1]);
+  pen.setCapStyle(Qt::SquareCap);
+  painter.setPen(pen);
+  painter.drawLines(lines);
+}
+
+void drawDots(QPainter& painter, std::span<const QPointF> points, const QColor& color, double radius) {
+  if (painter.paintEngine()->type() != QPaintEngine::Raster) {
+    painter.setPen(QPen(color, 2 * radius, Qt::SolidLine, Qt::RoundCap));
+    painter.drawPoints(points.data(), static_cast<int>(points.size()));
+    return;
+  }
+  // One disc drawn once and copied.
+  const QTransform toDevice = painter.deviceTransform();
+  const double deviceRadius = radius * toDevice.m11();
+  const int side = 2 * static_cast<int>(std::ceil(deviceRadius)) + 1;
+  QImage disc(side, side, QImage::Format_ARGB32_Premultiplied);
+  disc.fill(Qt::transparent);
+  QPainter discPainter(&disc);
+  discPainter.setRenderHint(QPainter::Antialiasing);
+  discPainter.setPen(Qt::NoPen);
+  discPainter.setBrush(color);
+  discPainter.drawEllipse(QPointF(side, side) / 2, deviceRadius, deviceRadius);
+  discPainter.end();
+  painter.save();
+  painter.setWorldTransform(toDevice.inverted() * painter.worldTransform());
+  for (const QPointF& point : points) {
+    const QPointF place = toDevice.map(point);
+    const QPoint pixel(static_cast<int>(std::floor(place.x())), static_cast<int>(std::floor(place.y())));
+    painter.drawImage(pixel - QPoint(side / 2, side / 2), disc);
+  }
+  painter.restore();
 }
 
 void drawCard(QPainter& painter, const QRectF& card, double radius, const QColor& background,

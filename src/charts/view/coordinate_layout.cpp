@@ -24,7 +24,9 @@ constexpr int fewestLabels = 3;
 constexpr double leastPlot = 20;
 constexpr double lowestPlot = 60;  // beside a title of the axis
 
-constexpr std::size_t mostNames = 12;
+constexpr std::size_t mostNames = 12;  // in the legend
+constexpr double heightForLine = 70;   // of the chart
+constexpr int mostLines = 4;
 
 // Halves first, since the ends may be as far apart as numbers can be.
 double part(double value, const ValueRange& range) {
@@ -98,7 +100,7 @@ QString titleOf(const ChartAxis& axis, const AxisScale& scale) {
 }
 
 PlacedText placed(const QString& text, const QFont& font, double width, QPointF place) {
-  return {QFontMetricsF(font).elidedText(text, Qt::ElideRight, std::max(0.0, width)), font, place};
+  return {shortened(text, font, width), font, place};
 }
 
 // Side by side and in further lines where one is too short, each line in the middle. The height they take.
@@ -120,7 +122,8 @@ double layOutLegend(std::vector<LegendEntry>& entries, double width) {
   return height;
 }
 
-std::vector<LegendEntry> legendOf(const ChartOptions& options, const QFont& font, double width) {
+// Names cut so that they do not take more than those lines.
+std::vector<LegendEntry> legendOf(const ChartOptions& options, const QFont& font, double width, int lines) {
   std::vector<LegendEntry> entries;
   for (std::size_t index = 0; index < options.series.size() && entries.size() < mostNames; ++index) {
     const ChartSeries& series = options.series[index];
@@ -131,8 +134,11 @@ std::vector<LegendEntry> legendOf(const ChartOptions& options, const QFont& font
     // Points marked on a line need no name of their own.
     if (named != entries.end() && !series.markerRadius) named->series = index;
     if (named != entries.end() || series.name.empty()) continue;
-    entries.push_back({placed(textOf(series.name), font, width - legendSymbolRoom, {}), index});
+    entries.push_back({{textOf(series.name), font, {}}, index});
   }
+  const double inLine = std::ceil(static_cast<double>(entries.size()) / lines);
+  const double room = (width - (inLine - 1) * 2 * textGap) / std::max(1.0, inLine) - legendSymbolRoom;
+  for (LegendEntry& entry : entries) entry.name.text = shortened(entry.name.text, font, room);
   return entries;
 }
 
@@ -173,7 +179,8 @@ CoordinateLayout::CoordinateLayout(const ChartOptions& options, QSizeF size) {
   const double xTitleWidth = textWidth(xTitle.text, font);
   const double nameSize = std::clamp(size.height() / 26, double{labelSize}, options.legend.itemFontSize);
   const double legendWidth = width - (xTitleWidth > 0 ? xTitleWidth + textGap : 0);
-  legend = legendOf(options, InterfaceFont::book(static_cast<int>(nameSize)), legendWidth);
+  legend = legendOf(options, InterfaceFont::book(static_cast<int>(nameSize)), legendWidth,
+                    std::clamp(static_cast<int>(size.height() / heightForLine), 1, mostLines));
   const double footHeight = std::max(layOutLegend(legend, legendWidth), xTitleWidth > 0 ? lineHeight : 0);
   const double foot = size.height() - edge - footHeight;
   for (LegendEntry& entry : legend) entry.name.place += QPointF(edge, foot);

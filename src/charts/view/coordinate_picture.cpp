@@ -17,7 +17,8 @@ namespace tavi {
 namespace {
 
 constexpr double lineWidth = 2;
-constexpr double ringWidth = 1.5;  // around a marked point
+constexpr double singleRadius = 3;  // of a point that is joined to none
+constexpr double ringWidth = 1.5;   // around a marked point
 constexpr double areaOpacity = 0.25;
 constexpr double gridOpacity = 0.5;  // of a line thinner than a pixel
 constexpr double leastMinorDistance = 5;
@@ -163,7 +164,6 @@ std::vector<std::vector<QPointF>> CoordinatePicture::runs(const ChartSeries& ser
 
 void CoordinatePicture::paintJoined(QPainter& painter, const ChartSeries& series) const {
   const QColor color = palette_.described(series.color);
-  const QPen pen(color, lineWidth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin);
   const QRectF frame = layout_.plot.adjusted(-2 * lineWidth, -2 * lineWidth, 2 * lineWidth, 2 * lineWidth);
   const double ground = layout_.placeY(std::clamp(0.0, layout_.y.range.low, layout_.y.range.high));
   for (const std::vector<QPointF>& run : runs(series)) {
@@ -177,16 +177,12 @@ void CoordinatePicture::paintJoined(QPainter& painter, const ChartSeries& series
       painter.drawPolygon(area);
       painter.setBrush(Qt::NoBrush);
     }
-    painter.setPen(pen);
     const double width = std::abs(points.back().x() - points.front().x());
     const bool isRound =
         options_.type == ChartType::spline && static_cast<double>(points.size()) * leastPointDistance < width;
-    if (points.size() == 1)
-      painter.drawPoint(points.front());
-    else if (isRound)
-      painter.drawPath(curve(points));
-    else
-      for (const QPolygonF& part : clipped(points, frame)) painter.drawPolyline(part);
+    if (isRound) points = flattened(curve(points), scaleOf(painter));
+    for (const QPolygonF& part : clipped(points, frame)) drawJoined(painter, part, color, lineWidth);
+    if (points.size() == 1) drawDots(painter, points, color, singleRadius);
   }
 }
 
@@ -197,13 +193,9 @@ void CoordinatePicture::paintDots(QPainter& painter, const ChartSeries& series) 
     if (place && layout_.isInPlot(*place)) points.push_back(*place);
   }
   const double radius = *series.markerRadius;
-  const auto draw = [&](double dotRadius, const QColor& color) {
-    painter.setPen(QPen(color, 2 * dotRadius, Qt::SolidLine, Qt::RoundCap));
-    painter.drawPoints(points.data(), static_cast<int>(points.size()));
-  };
   points = distinct(points, scaleOf(painter));
-  if (radius > lineWidth) draw(radius + ringWidth, palette_.background);
-  draw(radius, palette_.described(series.color));
+  if (radius > lineWidth) drawDots(painter, points, palette_.background, radius + ringWidth);
+  drawDots(painter, points, palette_.described(series.color), radius);
 }
 
 void CoordinatePicture::paintCrosshair(QPainter& painter, QPointF place) const {

@@ -1,5 +1,6 @@
 #include "charts/view/series_shape.h"
 
+#include <QTransform>
 #include <algorithm>
 #include <array>
 #include <cmath>
@@ -96,6 +97,14 @@ QPainterPath curve(std::span<const QPointF> points) {
                  to - QPointF(third, third * tangentAt(index + 1, false)), to);
   }
   return path;
+}
+
+std::vector<QPointF> flattened(const QPainterPath& curve, double pixels) {
+  const QTransform toPixels = QTransform::fromScale(pixels, pixels);
+  std::vector<QPointF> points;
+  for (const QPolygonF& part : curve.toSubpathPolygons(toPixels))
+    for (const QPointF& point : part) points.push_back(point / pixels);
+  return points;
 }
 
 QList<QPolygonF> clipped(std::span<const QPointF> points, const QRectF& frame) {

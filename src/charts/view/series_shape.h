@@ -25,6 +25,10 @@ std::vector<QPointF> stepped(std::span<const QPointF> points);
 /// A curve through the points that turns smoothly at each; straight where x does not rise.
 QPainterPath curve(std::span<const QPointF> points);
 
+/// Points on a curve, so close that a polyline through them looks like it. `pixels` are those of a unit of
+/// length.
+std::vector<QPointF> flattened(const QPainterPath& curve, double pixels);
+
 /// The parts of the polyline that lie within the frame, however far it reaches beyond.
 QList<QPolygonF> clipped(std::span<const QPointF> points, const QRectF& frame);
 

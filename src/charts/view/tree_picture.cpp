@@ -109,9 +109,9 @@ void paintTree(QPainter& painter, const TreeChartView& tree, QSizeF size, QPoint
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
   painter.setClipRect(QRectF({}, size), Qt::IntersectClip);
   TreePainter(painter, tree, size, scroll, palette).paint();
-  const QString title = textOf(tree.chartTitle);
+  const QFont font = InterfaceFont::book(titleSize);
+  const QString title = shortened(textOf(tree.chartTitle), font, size.width() - 2 * titlePlace.x());
   if (!title.isEmpty()) {
-    const QFont font = InterfaceFont::book(titleSize);
     painter.fillRect(QRectF(0, 0, size.width(), titlePlace.y() + textHeight(font)),
                      withOpacity(palette.background, titleGroundOpacity));
     drawText(painter, title, font, palette.label, titlePlace);
