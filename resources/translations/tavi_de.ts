@@ -435,6 +435,58 @@
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message id="chartLine">
+        <source>chartLine</source>
+        <translation>Liniendiagramm</translation>
+    </message>
+    <message id="chartCurve">
+        <source>chartCurve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message id="chartScatter">
+        <source>chartScatter</source>
+        <translation>Punktdiagramm</translation>
+    </message>
+    <message id="chartArea">
+        <source>chartArea</source>
+        <translation>Flächendiagramm</translation>
+    </message>
+    <message id="chartAxisRange">
+        <source>chartAxisRange</source>
+        <translation>%1 von %2 bis %3</translation>
+    </message>
+    <message id="chartNoPoints">
+        <source>chartNoPoints</source>
+        <translation>%1: keine Punkte</translation>
+    </message>
+    <message id="chartOnePoint">
+        <source>chartOnePoint</source>
+        <translation>%1: ein Punkt, %2</translation>
+    </message>
+    <message id="chartPoints">
+        <source>chartPoints</source>
+        <translation>%1: %2 Punkte, von %3 bis %4, am tiefsten %5, am höchsten %6</translation>
+    </message>
+    <message id="chartValueAt">
+        <source>chartValueAt</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message id="chartTree">
+        <source>chartTree</source>
+        <translation>Baumdiagramm mit %1 Versuchen, Trefferwahrscheinlichkeit %2, Gegenwahrscheinlichkeit %3</translation>
+    </message>
+    <message id="chartAngle">
+        <source>chartAngle</source>
+        <translation>Einheitskreis, Winkel %1, volle Umdrehungen %2 und %3, Kosinus %4, Sinus %5</translation>
+    </message>
+    <message id="chartNoAngle">
+        <source>chartNoAngle</source>
+        <translation>Einheitskreis</translation>
+    </message>
+    <message id="chartQuadrant">
+        <source>chartQuadrant</source>
+        <translation>Quadrant %1</translation>
+    </message>
     <message id="mathPlus">
         <source>mathPlus</source>
         <translation>plus</translation>

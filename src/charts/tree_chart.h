@@ -26,6 +26,9 @@ class TreeNode {
   [[nodiscard]] std::vector<TreeNode> children() const;
   [[nodiscard]] bool isLeaf() const { return trials_ == 0; }
 
+  /// How many levels of nodes hang from it.
+  [[nodiscard]] std::int64_t trials() const { return trials_; }
+
   /// The values from below the root down to this node, "0" and "1" each.
   [[nodiscard]] std::vector<std::string> chainOfEvents() const;
 

@@ -149,6 +149,23 @@ class ScaleMaker {
 
 }  // namespace
 
+bool isShown(const ChartPoint& point) {
+  return point.size() >= 2 && std::isfinite(point[0]) && std::isfinite(point[1]);
+}
+
+std::optional<ValueRange> dataRange(const ChartOptions& options, std::size_t coordinate) {
+  std::optional<ValueRange> range;
+  for (const ChartSeries& series : options.series) {
+    for (const ChartPoint& point : series.points) {
+      if (!isShown(point)) continue;
+      const double value = point[coordinate];
+      if (!range) range = {value, value};
+      range = {std::min(range->low, value), std::max(range->high, value)};
+    }
+  }
+  return range;
+}
+
 AxisScale axisScale(const ChartAxis& axis, const AxisNeeds& needs) {
   return ScaleMaker(axis, needs).make();
 }

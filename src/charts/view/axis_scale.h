@@ -14,6 +14,12 @@ struct ValueRange {
   double high = 0;
 };
 
+/// Whether a point is one that can be drawn: a pair of finite numbers.
+bool isShown(const ChartPoint& point);
+
+/// From the least to the greatest x (0) or y (1) of the points that are shown; absent if none is.
+std::optional<ValueRange> dataRange(const ChartOptions& options, std::size_t coordinate);
+
 struct AxisLabel {
   double value = 0;
   std::string text;

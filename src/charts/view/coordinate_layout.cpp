@@ -33,18 +33,6 @@ double part(double value, const ValueRange& range) {
   return (value / 2 - range.low / 2) / (range.high / 2 - range.low / 2);
 }
 
-std::optional<ValueRange> rangeOf(const ChartOptions& options, std::size_t coordinate) {
-  ValueRange range{std::numeric_limits<double>::infinity(), -std::numeric_limits<double>::infinity()};
-  for (const ChartSeries& series : options.series) {
-    for (const ChartPoint& point : series.points) {
-      if (point.size() < 2 || !std::isfinite(point[0]) || !std::isfinite(point[1])) continue;
-      range.low = std::min(range.low, point[coordinate]);
-      range.high = std::max(range.high, point[coordinate]);
-    }
-  }
-  return range.low <= range.high ? std::optional(range) : std::nullopt;
-}
-
 // "-3π/2" as a fraction.
 typeset::Layout piFormula(const std::string& label) {
   std::string latex = replacedAll(label, "π", "\\pi");
@@ -159,12 +147,12 @@ CoordinateLayout::CoordinateLayout(const ChartOptions& options, QSizeF size) {
   const double lineHeight = textHeight(font);
   const double width = size.width() - 2 * edge;
   const auto scaleOfX = [&](int labels) {
-    return axisScale(options.xAxis, {.data = rangeOf(options, 0),
+    return axisScale(options.xAxis, {.data = dataRange(options, 0),
                                      .mostLabels = labels,
                                      .thousandsSeparator = options.language.thousandsSeparator});
   };
   const auto scaleOfY = [&](int labels) {
-    std::optional<ValueRange> data = rangeOf(options, 1);
+    std::optional<ValueRange> data = dataRange(options, 1);
     if (data && options.type == ChartType::area) data = {std::min(data->low, 0.0), std::max(data->high, 0.0)};
     return axisScale(options.yAxis, {.data = data,
                                      .endsOnTicks = true,
@@ -235,7 +223,7 @@ double CoordinateLayout::placeY(double value) const {
 }
 
 std::optional<QPointF> CoordinateLayout::place(const ChartPoint& point) const {
-  if (point.size() < 2) return std::nullopt;
+  if (!isShown(point)) return std::nullopt;
   const QPointF place(placeX(point[0]), placeY(point[1]));
   if (!std::isfinite(place.x()) || !std::isfinite(place.y())) return std::nullopt;
   return place;
