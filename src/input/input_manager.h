@@ -1,41 +1,19 @@
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include "input/typed_task.h"
 #include "number/digit.h"
 #include "number/math_operation.h"
 #include "output/catalogues.h"
 #include "output/string_output.h"
 
 namespace tavi {
-
-/// How the format lines are read: one line for the whole task with a placeholder per field, or one line per
-/// field of the form symbol = value.
-enum class FormatMode { formula, variables };
-
-/// What `TaviInputManager::analyse` is asked. `%0`, `%1`, … in the format stand for the fields.
-struct AnalysisRequest {
-  std::vector<std::string> texts;    ///< One per field.
-  std::vector<std::int64_t> tags{};  ///< Identify the fields when not empty,
-  std::vector<std::string> ids{};    ///< else these do.
-  std::vector<std::string> inputFormat{};
-  bool isInputShown = true;  ///< The given task becomes a step.
-  /// Every field is read as a fraction as soon as one holds a "/".
-  bool isAllFractionIfOccuredOnce = true;
-  /// Decimals become fractions even where no fraction is involved.
-  bool isDecimalEliminationForced = false;
-  FormatMode inputFormatMode = FormatMode::formula;
-  std::string subcategory{};  ///< Where the symbols of `variables` mode stand in their catalogue.
-  std::string topic{};
-  std::size_t requiredAmount = 0;  ///< How many fields must be filled.
-  bool isEveryFieldRequired = false;
-  std::vector<std::string> requiredIds{};  ///< If not empty, exactly these fields must be filled.
-};
 
 /// The numbers of the fields, or the key of what is wrong and the fields at fault.
 struct TermAnalysisResult {
@@ -55,7 +33,10 @@ class TaviInputManager {
 
   /// Reads the fields; overwrites whatever an earlier call left here. The collector is expected to be empty.
   /// A field of brackets only passes the check for emptiness and ends in a fatal stop.
-  TermAnalysisResult analyse(const AnalysisRequest& request);
+  TermAnalysisResult analyse(AnalysisRequest request) { return analyse(typedTask(std::move(request))); }
+
+  /// The same for a task that is read already.
+  TermAnalysisResult analyse(TypedTask task);
 
   TaviStringOutput& outputHelper;
   std::vector<std::string> stringInputs;
@@ -76,18 +57,8 @@ class TaviInputManager {
   Digit digit;
 
  private:
-  // What is wrong, and in which fields.
-  struct InputError {
-    std::string key;
-    std::vector<std::string> ids;
-  };
-
-  std::optional<InputError> checkRequiredInputs(const AnalysisRequest& request) const;
-  std::optional<InputError> analyseTerms();
-  // The number of one text, or the key of what is wrong with it.
-  std::optional<std::string> readTerm(const std::string& text, Digit& number) const;
+  TermAnalysisResult failure(const TypedTask& task) const;
   void resolveInputSymbols();
-  TermAnalysisResult failure(const InputError& error) const;
 
   // Normalisation, in the order in which it runs.
   void outputInput(bool keepSigns);

@@ -1,5 +1,6 @@
 // What runs on the numbers once they are read: the opening steps of every working.
 #include <cmath>
+#include <span>
 #include <string_view>
 
 #include "input/input_manager.h"
@@ -14,11 +15,6 @@ namespace tavi {
 namespace {
 
 constexpr std::string_view changedMark = " changed";
-constexpr std::string_view emptyField = " ? ";
-
-std::string placeholder(std::size_t field) {
-  return "%" + std::to_string(field);
-}
 
 std::string latexWithSigns(const Digit& number, bool keepSigns) {
   return TaviStringOutput::digitLatex(number, {.keepSigns = keepSigns});
@@ -27,21 +23,15 @@ std::string latexWithSigns(const Digit& number, bool keepSigns) {
 }  // namespace
 
 void TaviInputManager::outputInput(bool keepSigns) {
-  std::vector<std::string> fields;
-  for (const auto& number : allInputs) {
-    fields.push_back(number->z ? latexWithSigns(*number, keepSigns) : std::string(emptyField));
-  }
   std::string_view title =
       isAnyNumberChanged ? LocalizedString::modifiedInput.text() : LocalizedString::yourInput.text();
-
   if (inputFormatMode == FormatMode::formula) {
-    std::string line = inputFormat.empty() ? "" : inputFormat.front();
-    for (std::size_t i = 0; i < fields.size(); ++i) line = replacedAll(line, placeholder(i), fields[i]);
-    outputHelper.addStep(title, line);
+    const std::string_view format = inputFormat.empty() ? "" : std::string_view(inputFormat.front());
+    outputHelper.addStep(title, taskLatex(format, allInputs, keepSigns));
     return;
   }
-  for (std::size_t i = 0; i < fields.size(); ++i) {
-    const std::string line = replacedAll(elementAt(inputFormat, i), placeholder(0), fields[i]);
+  for (std::size_t i = 0; i < allInputs.size(); ++i) {
+    const std::string line = taskLatex(elementAt(inputFormat, i), std::span(&allInputs[i], 1), keepSigns);
     outputHelper.addStep(title, joined({line, " ", unitLatex(i), "\n"}));
     title = "";
   }
@@ -53,7 +43,7 @@ void TaviInputManager::eliminateDecimals() {
   for (std::size_t i = 0; i < allInputs.size(); ++i) {
     Digit& number = *allInputs[i];
     if (allTextFieldTexts[i].empty()) {
-      lines.emplace_back(emptyField);
+      lines.emplace_back();
       continue;
     }
     std::string oldLatex = latexWithSigns(number, false);
@@ -103,7 +93,7 @@ void TaviInputManager::writeExpansions(const std::vector<std::string>& lines) {
 void TaviInputManager::rewriteVariableSteps(const std::vector<std::string>& lines,
                                             const std::vector<std::size_t>& changedIndices) {
   for (const std::size_t i : changedIndices) {
-    const std::string prefix = replacedAll(elementAt(inputFormat, i), placeholder(0), "");
+    const std::string prefix = replacedAll(elementAt(inputFormat, i), "%0", "");
     for (SolutionStep& step : outputHelper.solutionSteps) {
       if (!step.latexString || !step.latexString->starts_with(prefix)) continue;
       step.latexString = joined({replacedAll(*step.latexString, "\n", " = "), lines[i], " ", unitLatex(i)});

@@ -7,15 +7,6 @@
 
 namespace tavi {
 
-namespace {
-
-std::string inputFormat(std::optional<Mode> mode) {
-  if (!mode) return "";
-  return *mode == Mode::power ? "%1^{%0}" : "\\sqrt[%0]{%1}";
-}
-
-}  // namespace
-
 TaviExponentSolver::TaviExponentSolver(TaviStringOutput& collector, TaviMathOperation& arithmetic)
     : operation(arithmetic), output(collector) {}
 
@@ -23,17 +14,9 @@ CalculationOutcome TaviExponentSolver::calculate(const std::optional<std::string
                                                  std::string_view firstId,
                                                  const std::optional<std::string>& secondText,
                                                  std::string_view secondId, std::optional<Mode> mode) {
-  std::string first = firstText.value_or("");
-  if (first.empty() && mode == Mode::root) first = "2";
-
-  AnalysisRequest request;
-  request.texts = {first, secondText.value_or("")};
-  request.ids = {std::string(firstId), std::string(secondId)};
-  request.inputFormat = {inputFormat(mode)};
-  request.isAllFractionIfOccuredOnce = false;
-  request.isDecimalEliminationForced = true;
-  request.requiredAmount = 2;
-  TermAnalysisResult analysis = TaviInputManager(output, operation).analyse(request);
+  TypedTask typed = typedTask(mode, firstText.value_or(""), secondText.value_or(""));
+  typed.request.ids = {std::string(firstId), std::string(secondId)};
+  TermAnalysisResult analysis = TaviInputManager(output, operation).analyse(std::move(typed));
 
   allInputs = std::move(analysis.allInputs);
   if (!allInputs) {

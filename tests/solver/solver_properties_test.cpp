@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "generated_task.h"
+#include "input/typed_task.h"
 #include "number/fatal_stop.h"
 #include "solver/rehearsal.h"
 
@@ -25,9 +26,12 @@ TEST(SolverProperties, HoldForEveryGeneratedTask) {
     const auto* outcome = std::get_if<CalculationOutcome>(&ending);
     if (!outcome) {
       ++stopped;
+      ASSERT_NO_THROW(typedLatex(typedTask(task.mode, *task.first, *task.second)));
       continue;
     }
     ASSERT_NE(outcome->errorKey.has_value(), outcome->solutionSteps.has_value());
+    const TypedTask typed = typedTask(task.mode, *task.first, *task.second);
+    ASSERT_EQ(typed.errorKey, outcome->errorKey);
     if (outcome->errorKey) {
       ++rejected;
       ASSERT_FALSE(outcome->errorFieldIds->empty());
@@ -38,6 +42,7 @@ TEST(SolverProperties, HoldForEveryGeneratedTask) {
     ASSERT_GE(steps.size(), 2U);
     ASSERT_EQ(steps.front().title, "Your Input");
     ASSERT_EQ(steps.front().latexString, outcome->latexString);
+    ASSERT_EQ(typedLatex(typed), outcome->latexString);
 
     int numbered = 0;
     int endings = 0;
