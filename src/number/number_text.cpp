@@ -4,6 +4,7 @@
 #include <charconv>
 #include <cmath>
 #include <cstddef>
+#include <cstdint>
 
 #include <locale.h>  // NOLINT(modernize-deprecated-headers): newlocale is no C++
 #include <stdlib.h>  // NOLINT(modernize-deprecated-headers): nor is strtod_l
@@ -16,6 +17,9 @@ namespace {
 
 // Enough for the shortest digits of any double in either notation below 1e16.
 using Buffer = std::array<char, 32>;
+
+// Below it the shortest digits of a whole number are all of its digits.
+constexpr double exactIntegers = 1e15;
 
 std::string_view written(const Buffer& buffer, std::to_chars_result result) {
   return {buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())};
@@ -119,6 +123,9 @@ std::string decimalText(double value, int maximumFractionDigits) {
   if (std::isnan(value)) return "NaN";
   std::string text(std::signbit(value) ? "-" : "");
   if (std::isinf(value)) return text + "∞";
+  if (std::abs(value) < exactIntegers && value == std::trunc(value)) {
+    return text + std::to_string(static_cast<std::int64_t>(std::abs(value)));
+  }
   ShortestDigits number;
   if (value != 0) {
     number = shortestDigits(std::abs(value));

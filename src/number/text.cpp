@@ -8,9 +8,9 @@ namespace tavi {
 std::string joined(std::initializer_list<std::string_view> pieces) {
   std::size_t size = 0;
   for (const std::string_view piece : pieces) size += piece.size();
-  std::string text;
-  text.reserve(size);
-  for (const std::string_view piece : pieces) text += piece;
+  std::string text(size, '\0');
+  char* at = text.data();
+  for (const std::string_view piece : pieces) at = std::copy(piece.begin(), piece.end(), at);
   return text;
 }
 

@@ -14,7 +14,9 @@ TaviStringOutput& TaviStringOutput::shared() {
 }
 
 void TaviStringOutput::addStep(std::string_view title, std::string latexString) {
-  solutionSteps.push_back({std::string(title), std::move(latexString), std::nullopt});
+  SolutionStep& step = solutionSteps.emplace_back();
+  step.title.emplace(title);
+  step.latexString.emplace(std::move(latexString));
 }
 
 std::string TaviStringOutput::numberedTitle(std::string_view title) {

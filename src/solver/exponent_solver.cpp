@@ -14,6 +14,15 @@ CalculationOutcome TaviExponentSolver::calculate(const std::optional<std::string
                                                  std::string_view firstId,
                                                  const std::optional<std::string>& secondText,
                                                  std::string_view secondId, std::optional<Mode> mode) {
+  CalculationOutcome outcome = collect(firstText, firstId, secondText, secondId, mode);
+  if (!outcome.errorKey) outcome.solutionSteps = output.solutionSteps;
+  return outcome;
+}
+
+CalculationOutcome TaviExponentSolver::collect(const std::optional<std::string>& firstText,
+                                               std::string_view firstId,
+                                               const std::optional<std::string>& secondText,
+                                               std::string_view secondId, std::optional<Mode> mode) {
   TypedTask typed = typedTask(mode, firstText.value_or(""), secondText.value_or(""));
   typed.request.ids = {std::string(firstId), std::string(secondId)};
   TermAnalysisResult analysis = TaviInputManager(output, operation).analyse(std::move(typed));
@@ -25,7 +34,7 @@ CalculationOutcome TaviExponentSolver::calculate(const std::optional<std::string
   operation.withFraction = true;
   if (mode == Mode::power) calculatePower();
   if (mode == Mode::root) calculateRoot();
-  return {.solutionSteps = output.solutionSteps, .latexString = task()};
+  return {.latexString = task()};
 }
 
 std::string TaviExponentSolver::task() const {

@@ -42,6 +42,11 @@ class TaviExponentSolver {
                                const std::optional<std::string>& secondText, std::string_view secondId,
                                std::optional<Mode> mode);
 
+  /// As `calculate`, but the steps are left in the collector alone.
+  CalculationOutcome collect(const std::optional<std::string>& firstText, std::string_view firstId,
+                             const std::optional<std::string>& secondText, std::string_view secondId,
+                             std::optional<Mode> mode);
+
   TaviMathOperation& operation;
   TaviStringOutput& output;
   std::optional<std::vector<std::shared_ptr<Digit>>> allInputs;

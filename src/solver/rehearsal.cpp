@@ -1,9 +1,14 @@
 #include "solver/rehearsal.h"
 
+#include <utility>
+
 namespace tavi {
 
-Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation& operation,
-                   std::int64_t limit) {
+namespace {
+
+// The ending of the task; the steps of an outcome are in the collector alone.
+Rehearsal carriedOut(const Task& task, TaviStringOutput& output, TaviMathOperation& operation,
+                     std::int64_t limit) {
   const bool withFraction = operation.withFraction;
   const auto undone = [&](Rehearsal ending) {
     output.reset();
@@ -13,7 +18,7 @@ Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation
   TaviExponentSolver solver(output, operation);
   solver.expansionLimit = limit;
   try {
-    return solver.calculate(task.first, task.firstId, task.second, task.secondId, task.mode);
+    return solver.collect(task.first, task.firstId, task.second, task.secondId, task.mode);
   } catch (const FatalStop& stop) {
     return undone(stop);
   } catch (const ExpansionTooLong& expansion) {
@@ -21,10 +26,27 @@ Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation
   }
 }
 
+}  // namespace
+
+Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation& operation,
+                   std::int64_t limit) {
+  Rehearsal ending = carriedOut(task, output, operation, limit);
+  if (auto* outcome = std::get_if<CalculationOutcome>(&ending); outcome != nullptr && !outcome->errorKey) {
+    outcome->solutionSteps = output.solutionSteps;
+  }
+  return ending;
+}
+
 Rehearsal rehearse(const Task& task, std::int64_t limit) {
+  constexpr std::size_t usualSteps = 16;
   TaviStringOutput output;
+  output.solutionSteps.reserve(usualSteps);
   TaviMathOperation operation(output);
-  return rehearse(task, output, operation, limit);
+  Rehearsal ending = carriedOut(task, output, operation, limit);
+  if (auto* outcome = std::get_if<CalculationOutcome>(&ending); outcome != nullptr && !outcome->errorKey) {
+    outcome->solutionSteps = std::move(output.solutionSteps);
+  }
+  return ending;
 }
 
 }  // namespace tavi

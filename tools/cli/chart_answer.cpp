@@ -141,7 +141,7 @@ void write(std::ostream& out, const TreeChartView& tree) {
 void answerChartLine(std::ostream& out, const std::string& line) {
   const auto read = readChartRequest(line);
   if (const auto* error = std::get_if<ChartRequestError>(&read)) {
-    out << ordered_json{{"id", nullptr}, {"error", error->reason}} << std::endl;
+    out << ordered_json{{"id", nullptr}, {"error", error->reason}};
     return;
   }
   const auto& [id, width, charts] = std::get<ChartRequest>(read);
@@ -162,7 +162,7 @@ void answerChartLine(std::ostream& out, const std::string& line) {
   } catch (const FatalStop& stop) {
     out << R"(,"fatal":)" << ordered_json(stop.reason);
   }
-  out << '}' << std::endl;
+  out << '}';
 }
 
 }  // namespace tavi::cli

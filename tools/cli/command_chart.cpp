@@ -3,6 +3,7 @@
 #include <cmath>
 #include <iostream>
 #include <optional>
+#include <sstream>
 #include <string>
 #include <variant>
 
@@ -14,6 +15,7 @@
 #include "charts/chart_reader.h"
 #include "charts/view/chart_picture.h"
 #include "commands.h"
+#include "json_lines.h"
 #include "number/fatal_stop.h"
 #include "picture_files.h"
 #include "screenless.h"
@@ -56,9 +58,13 @@ std::optional<QSizeF> readSize(std::string_view text) {
   return QSizeF(sides[0], sides[1]);
 }
 
-int answerLines() {
-  for (std::string line; std::getline(std::cin, line);) answerChartLine(std::cout, line);
-  return success;
+int answerDescriptions() {
+  return answerLines([](std::string_view line, std::string& out) {
+    std::ostringstream answer;
+    answerChartLine(answer, std::string(line));
+    out += answer.view();
+    return true;
+  });
 }
 
 int wrongFile(std::string_view name, std::string_view reason) {
@@ -121,7 +127,7 @@ int chartCommand(Arguments arguments) {
   }
   if (isJsonLines) {
     const bool isAlone = !name && !size && files.areNone();
-    return isAlone ? answerLines() : usageError("--json-lines draws no file", usage);
+    return isAlone ? answerDescriptions() : usageError("--json-lines draws no file", usage);
   }
   if (!name) return usageError("chart needs a file that describes a row of charts", usage);
   if (files.areNone()) return usageError("chart needs a file to draw to", usage);

@@ -2,6 +2,7 @@
 #include <string>
 
 #include "commands.h"
+#include "json_lines.h"
 #include "solution/display_latex.h"
 
 namespace tavi::cli {
@@ -15,8 +16,10 @@ int displayLatexCommand(Arguments arguments) {
     return success;
   }
   if (!arguments.empty()) return usageError("display-latex takes no arguments", usage);
-  for (std::string line; std::getline(std::cin, line);) std::cout << displayLatex(line) << std::endl;
-  return success;
+  return answerLines([](std::string_view line, std::string& out) {
+    out += displayLatex(line);
+    return true;
+  });
 }
 
 }  // namespace tavi::cli

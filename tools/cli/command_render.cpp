@@ -2,9 +2,14 @@
 #include <memory>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
 
+#include <QtCore/QBuffer>
+
 #include "commands.h"
+#include "json_lines.h"
+#include "json_task.h"
 #include "picture_files.h"
 #include "screenless.h"
 #include "solution/rows/row_stack.h"
@@ -20,6 +25,7 @@ constexpr double rowHeight = 100;
 
 constexpr std::string_view usage = R"(Usage: tavi-cli render power EXPONENT BASE --png FILE [options]
        tavi-cli render root INDEX RADICAND --png FILE [options]
+       tavi-cli render --json-lines png|svg|pdf [options]
 
 Draws the whole working as one picture, as the solution screen shows it.
 
@@ -27,6 +33,10 @@ Draws the whole working as one picture, as the solution screen shows it.
   --scale S                           pixels to a unit, above 0 and up to 20 (default 2)
   --dark                              the dark appearance
   --language L                        titles in that language, such as de (default en)
+  --json-lines png|svg|pdf            answers each task of standard input, given as solve
+                                      takes it, by one line: {"svg": text}, {"png": base64}
+                                      or {"pdf": base64}; {"malformed": true}, also for
+                                      a picture too wide; else as solve answers it
 
 Exit codes: those of solve, and 73 when a file cannot be written.
 )";
@@ -39,12 +49,37 @@ Picture pictureOf(const SolutionSteps& steps) {
   return {sheet->size(), [sheet](QPainter& painter) { sheet->paint(painter, RowPalette::current()); }};
 }
 
+int drawLines(const PictureFiles& settings, const PictureFormat& format) {
+  return settings.inAppearance([&] {
+    return answerLines([&](std::string_view line, std::string& out) {
+      std::optional<JsonTask> task = readJsonTask(line);
+      if (!task) return false;
+      const Rehearsal ending =
+          rehearse({modeOf(task->mode), std::move(task->first), std::move(task->second)});
+      const auto* outcome = std::get_if<CalculationOutcome>(&ending);
+      if (outcome == nullptr || !outcome->solutionSteps) {
+        appendJsonEnding(out, ending);
+        return true;
+      }
+      QBuffer picture;
+      picture.open(QIODevice::WriteOnly);
+      if (!format.write(picture, pictureOf(*outcome->solutionSteps), settings.scale)) return false;
+      const QByteArray text = format.isText ? picture.data() : picture.data().toBase64();
+      out += R"({")" + std::string(format.name) + R"(":)";
+      appendJsonText(out, {text.data(), static_cast<std::size_t>(text.size())});
+      out += '}';
+      return true;
+    });
+  });
+}
+
 }  // namespace
 
 int renderCommand(Arguments arguments) {
   PictureFiles files;
   files.scale = 2;
   std::string_view language = "en";
+  const PictureFormat* format = nullptr;
   std::vector<std::string_view> operands;
   while (!arguments.empty()) {
     const std::string_view argument = arguments.front();
@@ -57,6 +92,12 @@ int renderCommand(Arguments arguments) {
       arguments = arguments.subspan(2);
       continue;
     }
+    if (argument == "--json-lines" && arguments.size() > 1) {
+      format = pictureFormat(arguments[1]);
+      if (format == nullptr) return usageError("lines are answered by png, svg or pdf", usage);
+      arguments = arguments.subspan(2);
+      continue;
+    }
     const PictureFiles::Read read = files.read(arguments);
     if (read == PictureFiles::Read::done) continue;
     if (read == PictureFiles::Read::wrong || argument.starts_with("--")) {
@@ -65,13 +106,17 @@ int renderCommand(Arguments arguments) {
     operands.push_back(argument);
     arguments = arguments.subspan(1);
   }
+  const Screenless application;
+  if (const auto problem = useLanguage(language)) return usageError(*problem, usage);
+  if (format != nullptr) {
+    const bool isToFile = !files.areNone() || !operands.empty();
+    return isToFile ? usageError("--json-lines draws to no file", usage) : drawLines(files, *format);
+  }
   if (operands.size() != 3) return usageError("render takes a mode and two operands", usage);
   if (files.areNone()) return usageError("render needs a file to draw to", usage);
   const std::optional<Mode> mode = readMode(operands[0]);
   if (!mode) return usageError("the mode is power or root", usage);
 
-  const Screenless application;
-  if (const auto problem = useLanguage(language)) return usageError(*problem, usage);
   const Rehearsal ending = rehearse({*mode, std::string(operands[1]), std::string(operands[2])});
   const auto* outcome = std::get_if<CalculationOutcome>(&ending);
   if (outcome != nullptr && outcome->solutionSteps) {

@@ -4,20 +4,19 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <utility>
 #include <vector>
-
-#include <nlohmann/json.hpp>
 
 #include <QtCore/QCoreApplication>
 
 #include "commands.h"
+#include "json_lines.h"
+#include "json_task.h"
 #include "solution/display_latex.h"
 #include "solver/rehearsal.h"
 
 namespace tavi::cli {
 namespace {
-
-using nlohmann::ordered_json;
 
 constexpr std::string_view usage = R"(Usage: tavi-cli solve [options] power EXPONENT BASE
        tavi-cli solve [options] root INDEX RADICAND
@@ -39,31 +38,7 @@ Exit codes: 2 the input is rejected, 3 the task would end the process,
 4 the power would be written out with more than 10000 copies of its base.
 )";
 
-// What each ending of a task prints: as JSON, for a reader, and its exit code.
-
-ordered_json asJson(const CalculationOutcome& outcome) {
-  if (outcome.errorKey) {
-    return {{"errorKey", *outcome.errorKey},
-            {"errorFieldIds", outcome.errorFieldIds.value_or(std::vector<std::string>{})}};
-  }
-  ordered_json steps = ordered_json::array();
-  for (const SolutionStep& step : *outcome.solutionSteps) {
-    steps.push_back({{"title", step.title.value_or("")}, {"latexString", step.latexString.value_or("")}});
-  }
-  return {{"steps", std::move(steps)}, {"latexString", outcome.latexString.value_or("")}};
-}
-ordered_json asJson(const FatalStop&) {
-  return {{"fatal", true}};
-}
-ordered_json asJson(const ExpansionTooLong& expansion) {
-  return {{"huge", expansion.copies}};
-}
-
-// One line; bytes of a hostile operand that are no UTF-8 are replaced.
-std::string jsonLine(const Rehearsal& ending) {
-  return std::visit([](const auto& result) { return asJson(result); }, ending)
-      .dump(-1, ' ', false, ordered_json::error_handler_t::replace);
-}
+// What each ending of a task tells a reader, and its exit code.
 
 int explain(const CalculationOutcome& outcome) {
   if (!outcome.errorKey) return success;
@@ -98,7 +73,9 @@ void printSteps(const SolutionSteps& steps, bool isRaw) {
 int solveOne(const Task& task, std::string_view form) {
   const Rehearsal ending = rehearse(task);
   if (form == "--json") {
-    std::cout << jsonLine(ending) << '\n';
+    std::string line;
+    appendJsonEnding(line, ending);
+    std::cout << line << '\n';
   } else if (const auto* outcome = std::get_if<CalculationOutcome>(&ending);
              outcome != nullptr && outcome->solutionSteps) {
     printSteps(*outcome->solutionSteps, form == "--raw");
@@ -106,26 +83,11 @@ int solveOne(const Task& task, std::string_view form) {
   return std::visit([](const auto& result) { return explain(result); }, ending);
 }
 
-std::optional<Rehearsal> answer(const std::string& line) {
-  const ordered_json task = ordered_json::parse(line, nullptr, false);
-  if (!task.is_object() || !task.contains("first") || !task.contains("second") || !task.contains("mode")) {
-    return std::nullopt;
-  }
-  const auto isText = [](const ordered_json& value) { return value.is_string() || value.is_null(); };
-  if (!isText(task["first"]) || !isText(task["second"]) || !task["mode"].is_number_integer())
-    return std::nullopt;
-  const auto text = [](const ordered_json& value) {
-    return value.is_null() ? std::nullopt : std::optional(value.get<std::string>());
-  };
-  return rehearse({modeOf(task["mode"].get<std::int64_t>()), text(task["first"]), text(task["second"])});
-}
-
-int solveLines() {
-  for (std::string line; std::getline(std::cin, line);) {
-    const std::optional<Rehearsal> ending = answer(line);
-    std::cout << (ending ? jsonLine(*ending) : R"({"malformed":true})") << std::endl;
-  }
-  return success;
+bool answer(std::string_view line, std::string& out) {
+  std::optional<JsonTask> task = readJsonTask(line);
+  if (!task) return false;
+  appendJsonEnding(out, rehearse({modeOf(task->mode), std::move(task->first), std::move(task->second)}));
+  return true;
 }
 
 }  // namespace
@@ -166,7 +128,7 @@ int solveCommand(Arguments arguments) {
     if (const auto problem = useLanguage(*language)) return usageError(*problem, usage);
   }
   if (form == "--json-lines") {
-    return operands.empty() ? solveLines() : usageError("--json-lines takes no operands", usage);
+    return operands.empty() ? answerLines(answer) : usageError("--json-lines takes no operands", usage);
   }
   if (operands.size() != 3) return usageError("solve takes a mode and two operands", usage);
   const std::optional<Mode> mode = readMode(operands[0]);

@@ -1,20 +1,20 @@
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <iostream>
 #include <optional>
 #include <string>
 
-#include <nlohmann/json.hpp>
+#include <nlohmann/detail/conversions/to_chars.hpp>
 
 #include "commands.h"
+#include "json_lines.h"
 #include "number/fatal_stop.h"
 #include "typeset/bundled_font.h"
 #include "typeset/typeset.h"
 
 namespace tavi::cli {
 namespace {
-
-using nlohmann::ordered_json;
 
 constexpr std::string_view usage = R"(Usage: tavi-cli typeset --json-lines [--size EM]
 
@@ -32,29 +32,51 @@ double rounded(double value) {
   return std::round(value * 1e6) / 1e6 + 0.0;
 }
 
-ordered_json asJson(const std::string& latex, double size, const typeset::Layout& layout) {
-  ordered_json glyphs = ordered_json::array();
+// A key, with what stands in front of it, and its number.
+void appendNumber(std::string& out, std::string_view key, double value) {
+  std::array<char, 64> digits{};
+  // The JSON library's own writer of numbers, so that a line reads as if the library had written all of it.
+  const char* const end = nlohmann::detail::to_chars(digits.data(), digits.data() + digits.size(), value);
+  out += key;
+  out.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
+}
+
+void appendJson(std::string& out, std::string_view latex, double size, const typeset::Layout& layout) {
+  out += R"({"latex":)";
+  appendJsonText(out, latex);
+  appendNumber(out, R"(,"size":)", size);
+  appendNumber(out, R"(,"width":)", rounded(layout.width));
+  appendNumber(out, R"(,"height":)", rounded(layout.height));
+  appendNumber(out, R"(,"depth":)", rounded(layout.depth));
+  out += R"(,"glyphs":[)";
+  std::string_view separator;
   for (const typeset::Glyph& glyph : layout.glyphs) {
-    glyphs.push_back({{"cp", static_cast<std::uint32_t>(glyph.codePoint)},
-                      {"x", rounded(glyph.x)},
-                      {"y", rounded(glyph.y)},
-                      {"size", rounded(glyph.size)}});
+    out += separator;
+    out += R"({"cp":)" + std::to_string(static_cast<std::uint32_t>(glyph.codePoint));
+    appendNumber(out, R"(,"x":)", rounded(glyph.x));
+    appendNumber(out, R"(,"y":)", rounded(glyph.y));
+    appendNumber(out, R"(,"size":)", rounded(glyph.size));
+    out += '}';
+    separator = ",";
   }
-  ordered_json rules = ordered_json::array();
+  out += R"(],"rules":[)";
+  separator = "";
   for (const typeset::Rule& rule : layout.rules) {
-    rules.push_back({{"x", rounded(rule.x)},
-                     {"y", rounded(rule.y)},
-                     {"w", rounded(rule.width)},
-                     {"h", rounded(rule.height)}});
+    out += separator;
+    appendNumber(out, R"({"x":)", rounded(rule.x));
+    appendNumber(out, R"(,"y":)", rounded(rule.y));
+    appendNumber(out, R"(,"w":)", rounded(rule.width));
+    appendNumber(out, R"(,"h":)", rounded(rule.height));
+    out += '}';
+    separator = ",";
   }
-  return {{"latex", latex},
-          {"size", size},
-          {"width", rounded(layout.width)},
-          {"height", rounded(layout.height)},
-          {"depth", rounded(layout.depth)},
-          {"glyphs", std::move(glyphs)},
-          {"rules", std::move(rules)},
-          {"error", layout.error ? ordered_json(layout.error->text()) : ordered_json(nullptr)}};
+  out += R"(],"error":)";
+  if (layout.error) {
+    appendJsonText(out, layout.error->text());
+  } else {
+    out += "null";
+  }
+  out += '}';
 }
 
 std::optional<double> readSize(std::string_view text) {
@@ -91,11 +113,10 @@ int typesetCommand(Arguments arguments) {
 
   auto font = typeset::MathFont::open(typeset::bundledMathFont());
   if (!font) fatalStop("the bundled font has no mathematics");
-  for (std::string line; std::getline(std::cin, line);) {
-    const ordered_json answer = asJson(line, size, typeset::typeset(line, *font, size));
-    std::cout << answer.dump(-1, ' ', false, ordered_json::error_handler_t::replace) << std::endl;
-  }
-  return success;
+  return answerLines([&font, size](std::string_view line, std::string& out) {
+    appendJson(out, line, size, typeset::typeset(line, *font, size));
+    return true;
+  });
 }
 
 }  // namespace tavi::cli

@@ -16,7 +16,8 @@ constexpr int fatal = 3;     ///< The task would end the process.
 constexpr int tooLong = 4;   ///< The expansion of the power would be too long to write out.
 constexpr int wrongUsage = 64;
 constexpr int wrongData = 65;    ///< EX_DATAERR: a file is not what it should be.
-constexpr int cannotWrite = 73;  ///< EX_CANTCREAT.
+constexpr int cannotWrite = 73;  ///< A file, EX_CANTCREAT.
+constexpr int ioError = 74;      ///< The standard streams, EX_IOERR.
 
 using Arguments = std::span<const std::string_view>;
 

@@ -1,5 +1,6 @@
 #include "picture_files.h"
 
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <cmath>
@@ -31,7 +32,7 @@ void paintScaled(QPaintDevice& device, const Picture& picture, double scale) {
   picture.paint(painter);
 }
 
-bool writePng(QSaveFile& file, const Picture& picture, double scale) {
+bool writePng(QIODevice& file, const Picture& picture, double scale) {
   const QSizeF size = picture.size * scale;
   if (size.width() > widestImage || size.height() > widestImage) {
     std::cerr << "tavi-cli: the picture would be " << std::ceil(size.width())
@@ -45,7 +46,7 @@ bool writePng(QSaveFile& file, const Picture& picture, double scale) {
   return image.save(&file, "PNG");
 }
 
-bool writeSvg(QSaveFile& file, const Picture& picture, double scale) {
+bool writeSvg(QIODevice& file, const Picture& picture, double scale) {
   QSvgGenerator generator;
   generator.setOutputDevice(&file);
   generator.setResolution(96);
@@ -56,7 +57,7 @@ bool writeSvg(QSaveFile& file, const Picture& picture, double scale) {
   return true;
 }
 
-bool writePdf(QSaveFile& file, const Picture& picture, double scale) {
+bool writePdf(QIODevice& file, const Picture& picture, double scale) {
   QPdfWriter writer(&file);
   writer.setResolution(72);
   writer.setPageSize(QPageSize(picture.size * scale, QPageSize::Point, {}, QPageSize::ExactMatch));
@@ -66,7 +67,7 @@ bool writePdf(QSaveFile& file, const Picture& picture, double scale) {
 }
 
 bool save(const QString& name, const Picture& picture, double scale,
-          bool (*write)(QSaveFile& file, const Picture& picture, double scale)) {
+          bool (*write)(QIODevice& file, const Picture& picture, double scale)) {
   if (name.isEmpty()) return true;
   QSaveFile file(name);
   const bool isSaved = file.open(QIODevice::WriteOnly) && write(file, picture, scale) && file.commit();
@@ -96,11 +97,26 @@ PictureFiles::Read PictureFiles::read(Arguments& arguments) {
 }
 
 int PictureFiles::draw(const std::function<Picture()>& make) const {
+  return inAppearance([&] {
+    const Picture picture = make();
+    const bool areSaved = save(png, picture, scale, writePng) && save(svg, picture, scale, writeSvg) &&
+                          save(pdf, picture, scale, writePdf);
+    return areSaved ? success : cannotWrite;
+  });
+}
+
+int PictureFiles::inAppearance(const std::function<int()>& work) const {
   Appearance::shared().force(isDark);
-  const Picture picture = make();
-  const bool areSaved = save(png, picture, scale, writePng) && save(svg, picture, scale, writeSvg) &&
-                        save(pdf, picture, scale, writePdf);
-  return areSaved ? success : cannotWrite;
+  return work();
+}
+
+const PictureFormat* pictureFormat(std::string_view name) {
+  static constexpr std::array formats{PictureFormat{"png", writePng, false},
+                                      PictureFormat{"svg", writeSvg, true},
+                                      PictureFormat{"pdf", writePdf, false}};
+  const auto* const found = std::find_if(formats.begin(), formats.end(),
+                                         [name](const PictureFormat& each) { return each.name == name; });
+  return found == formats.end() ? nullptr : found;
 }
 
 }  // namespace tavi::cli

@@ -1,12 +1,14 @@
 #pragma once
 
 #include <functional>
+#include <string_view>
 
 #include <QtCore/QSizeF>
 #include <QtCore/QString>
 
 #include "commands.h"
 
+class QIODevice;
 class QPainter;
 
 namespace tavi::cli {
@@ -35,6 +37,20 @@ struct PictureFiles {
   /// Draws what `make` makes in the colours of the appearance. Needs an application object. The result is the
   /// exit code.
   int draw(const std::function<Picture()>& make) const;
+
+  /// Does the work with that application; the result is the work's.
+  int inAppearance(const std::function<int()>& work) const;
 };
+
+/// A format of pictures by its name, "png", "svg" or "pdf".
+struct PictureFormat {
+  std::string_view name;
+  /// False where the picture is too large for the format or the device takes it not.
+  bool (*write)(QIODevice& device, const Picture& picture, double scale);
+  bool isText;  ///< UTF-8, as against bytes of any kind.
+};
+
+/// None of another name.
+const PictureFormat* pictureFormat(std::string_view name);
 
 }  // namespace tavi::cli

@@ -1,0 +1,148 @@
+#include "json_lines.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cstring>
+#include <iostream>
+#include <vector>
+
+#include <nlohmann/json.hpp>
+#include <unistd.h>
+
+#include "commands.h"
+
+namespace tavi::cli {
+namespace {
+
+constexpr std::size_t blockSize = 64UL * 1024;  // what a pipe holds
+
+// What an answer to one line may leave behind in the buffer for the next ones.
+constexpr std::size_t keptCapacity = 1024UL * 1024;
+
+bool writeAll(std::string& out) {
+  std::string_view rest = out;
+  while (!rest.empty()) {
+    const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) {
+      std::cerr << "tavi-cli: cannot write: " << std::strerror(errno) << '\n';
+      return false;
+    }
+    rest.remove_prefix(static_cast<std::size_t>(written));
+  }
+  out.clear();
+  if (out.capacity() > keptCapacity) out.shrink_to_fit();
+  return true;
+}
+
+// Cuts a stream of blocks into lines. A line that lies in one block is never copied.
+class LineFilter {
+ public:
+  explicit LineFilter(const LineAnswer& answer) : answer_(answer) {}
+
+  // False when the output cannot be written.
+  bool take(std::string_view block) {
+    for (std::size_t end = 0; (end = block.find('\n')) != std::string_view::npos;
+         block.remove_prefix(end + 1)) {
+      if (begun_.empty()) {
+        reply(block.substr(0, end));
+      } else {
+        keep(block.substr(0, end));
+        finish();
+      }
+      if (out_.size() >= blockSize && !writeAll(out_)) return false;
+    }
+    keep(block);
+    return writeAll(out_);
+  }
+
+  // The last line needs no line end.
+  bool close() {
+    if (!begun_.empty()) finish();
+    return writeAll(out_);
+  }
+
+ private:
+  // One byte beyond the limit tells that the line is too long; more is not kept.
+  void keep(std::string_view piece) { begun_ += piece.substr(0, lineLimit + 1 - begun_.size()); }
+
+  void finish() {
+    reply(begun_);
+    begun_.clear();
+  }
+
+  void reply(std::string_view line) {
+    if (line.size() > lineLimit || !answer_(line, out_)) out_ += R"({"malformed":true})";
+    out_ += '\n';
+  }
+
+  const LineAnswer& answer_;
+  std::string begun_;
+  std::string out_;
+};
+
+// The letter behind the backslash of what JSON escapes: 'u' for four digits, 0 for what stands as it is.
+constexpr std::array<char, 128> escapes = [] {
+  std::array<char, 128> letters{};
+  std::fill(letters.begin(), letters.begin() + ' ', 'u');
+  letters['\b'] = 'b';
+  letters['\f'] = 'f';
+  letters['\n'] = 'n';
+  letters['\r'] = 'r';
+  letters['\t'] = 't';
+  letters['"'] = '"';
+  letters['\\'] = '\\';
+  return letters;
+}();
+
+constexpr std::size_t longestEscape = 6;
+
+}  // namespace
+
+int answerLines(const LineAnswer& answer) {
+  LineFilter filter(answer);
+  std::vector<char> block(blockSize);
+  while (true) {
+    const ssize_t size = read(STDIN_FILENO, block.data(), block.size());
+    if (size == 0) return filter.close() ? success : ioError;
+    if (size < 0 && errno == EINTR) continue;
+    if (size < 0) {
+      std::cerr << "tavi-cli: cannot read: " << std::strerror(errno) << '\n';
+      return ioError;
+    }
+    if (!filter.take({block.data(), static_cast<std::size_t>(size)})) return ioError;
+  }
+}
+
+void appendJsonText(std::string& out, std::string_view text) {
+  const std::size_t begin = out.size();
+  out.resize(begin + text.size() * longestEscape + 2);
+  char* at = &out[begin];
+  *at++ = '"';
+  for (const char character : text) {
+    const auto code = static_cast<unsigned char>(character);
+    if (code >= escapes.size()) {
+      // Beyond ASCII the library checks and repairs.
+      out.resize(begin);
+      using nlohmann::json;
+      out += json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+      return;
+    }
+    const char letter = escapes[code];
+    if (letter == 0) {
+      *at++ = character;
+      continue;
+    }
+    *at++ = '\\';
+    *at++ = letter;
+    if (letter == 'u') {
+      constexpr std::string_view digits = "0123456789abcdef";
+      for (const unsigned digit : {0U, 0U, code / 16U, code % 16U}) *at++ = digits[digit];
+    }
+  }
+  *at++ = '"';
+  out.resize(static_cast<std::size_t>(at - out.data()));
+}
+
+}  // namespace tavi::cli

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <cstdint>
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "solver/rehearsal.h"
+
+namespace tavi::cli {
+
+/// A task as one line of JSON tells it.
+struct JsonTask {
+  std::optional<std::string> first, second;
+  std::int64_t mode = 0;
+};
+
+/// Reads {"first": text or null, "second": text or null, "mode": integer}; absent for anything else.
+std::optional<JsonTask> readJsonTask(std::string_view line);
+
+/// Appends how a task ends: {"steps", "latexString"}, {"errorKey", "errorFieldIds"}, {"fatal": true} or
+/// {"huge": copies}. Bytes of a hostile operand that are no UTF-8 are replaced.
+void appendJsonEnding(std::string& out, const Rehearsal& ending);
+
+}  // namespace tavi::cli
