@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QLatin1StringView>
+#include <array>
 
 /// Every event the application reports, by the name it is reported under. A comment gives the parameters; an
 /// event without one passes none at all. "taviApp" is the English name of an application, "sendingApp" the
@@ -50,5 +51,10 @@ inline constexpr QLatin1StringView taviAdsOpenedAdProduct{"taviAds_openedAdProdu
 // "app": text, a fixed code of two letters, "rating": floating point, the stars given.
 inline constexpr QLatin1StringView tappedRatedApp{"tapped_rated_app"};
 inline constexpr QLatin1StringView tappedRatedAppCancel{"tapped_rated_app_cancel"};
+
+// Parameters in which stands what the user typed, or its working.
+inline constexpr std::array<QLatin1StringView, 3> typedParameters{QLatin1StringView{"solutionSteps"},
+                                                                  QLatin1StringView{"calc_parameters"},
+                                                                  QLatin1StringView{"latex_string"}};
 
 }  // namespace tavi::events

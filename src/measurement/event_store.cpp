@@ -1,0 +1,204 @@
+#include "measurement/event_store.h"
+
+#include <QDebug>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QRandomGenerator>
+
+#include <sqlite3.h>
+
+namespace tavi {
+namespace {
+
+// No lock is awaited and no flush, so that no call holds up the screen. With its lock held for good the file
+// needs no shared memory beside it.
+constexpr const char* prepareFile =
+    "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = WAL; PRAGMA synchronous = OFF;"
+    // Numbers are never used twice.
+    "CREATE TABLE IF NOT EXISTS events(id INTEGER PRIMARY KEY AUTOINCREMENT, record BLOB NOT NULL);"
+    "CREATE TABLE IF NOT EXISTS notes(name TEXT PRIMARY KEY, value BLOB NOT NULL);"
+    "BEGIN IMMEDIATE; COMMIT";
+
+bool isDefective(int error) {
+  return error == SQLITE_CORRUPT || error == SQLITE_NOTADB || error == SQLITE_ERROR;
+}
+
+// What a trim takes away beyond the limit, so that not each event of a full store makes one.
+constexpr qint64 eventSlack = EventStore::eventLimit / 20;
+constexpr qint64 byteSlack = EventStore::byteLimit / 20;
+
+}  // namespace
+
+void EventStore::Close::operator()(sqlite3* database) const {
+  sqlite3_close_v2(database);
+}
+void EventStore::Finalize::operator()(sqlite3_stmt* statement) const {
+  sqlite3_finalize(statement);
+}
+
+EventStore::EventStore(QString path) : path_(std::move(path)) {
+  QDir().mkpath(QFileInfo(path_).absolutePath());
+  if (!open()) qInfo().noquote() << "Measurement: nothing will be kept in" << path_;
+}
+
+bool EventStore::open() {
+  for (int attempt = 0; attempt < 2; ++attempt) {
+    sqlite3* raw = nullptr;
+    int error = sqlite3_open(QFile::encodeName(path_).constData(), &raw);
+    database_.reset(raw);
+    if (error == SQLITE_OK) {
+      sqlite3_db_config(raw, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+      sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+      error = sqlite3_exec(raw, prepareFile, nullptr, nullptr, nullptr);
+    }
+    sqlite3_stmt* statement = nullptr;
+    if (error == SQLITE_OK) {
+      error = sqlite3_prepare_v2(raw, "SELECT count(*), coalesce(sum(length(record)), 0) FROM events", -1,
+                                 &statement, nullptr);
+    }
+    const Statement counting(statement);
+    if (error == SQLITE_OK && (error = sqlite3_step(statement)) == SQLITE_ROW) {
+      count_ = sqlite3_column_int64(statement, 0);
+      bytes_ = sqlite3_column_int64(statement, 1);
+      return true;
+    }
+    database_.reset();
+    if (!isDefective(error) || !discard(path_)) return false;
+  }
+  return false;
+}
+
+void EventStore::startAfresh() {
+  database_.reset();
+  count_ = 0;
+  bytes_ = 0;
+  if (discard(path_)) open();
+}
+
+bool EventStore::run(const char* sql, const std::vector<QByteArray>& values) {
+  if (!database_) return false;
+  sqlite3_stmt* raw = nullptr;
+  int error = sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
+  {
+    const Statement statement(raw);
+    for (std::size_t i = 0; error == SQLITE_OK && i < values.size(); ++i) {
+      error = sqlite3_bind_blob64(raw, static_cast<int>(i) + 1, values[i].constData(),
+                                  static_cast<sqlite3_uint64>(values[i].size()), SQLITE_STATIC);
+    }
+    if (error == SQLITE_OK) error = sqlite3_step(raw);
+  }
+  if (error == SQLITE_DONE) return true;
+  if (isDefective(error)) startAfresh();
+  return false;
+}
+
+void EventStore::add(const QByteArray& record) {
+  if (record.size() > byteLimit) return;
+  if (!run("INSERT INTO events(record) VALUES(?1)", {record})) return;
+  ++count_;
+  bytes_ += record.size();
+  if (count_ > eventLimit || bytes_ > byteLimit) trim();
+}
+
+void EventStore::trim() {
+  qint64 lastId = 0;
+  const qint64 keptEvents = eventLimit - eventSlack;
+  const qint64 keptBytes = byteLimit - byteSlack;
+  qint64 events = count_;
+  qint64 bytes = bytes_;
+  sqlite3_stmt* raw = nullptr;
+  sqlite3_prepare_v2(database_.get(), "SELECT id, length(record) FROM events ORDER BY id", -1, &raw, nullptr);
+  {
+    const Statement statement(raw);
+    while ((events > keptEvents || bytes > keptBytes) && events > 1 && sqlite3_step(raw) == SQLITE_ROW) {
+      lastId = sqlite3_column_int64(raw, 0);
+      bytes -= sqlite3_column_int64(raw, 1);
+      --events;
+    }
+  }
+  remove(lastId);
+}
+
+EventBatch EventStore::batch(int events, qsizetype bytes) {
+  EventBatch batch;
+  if (!database_) return batch;
+  sqlite3_stmt* raw = nullptr;
+  int error =
+      sqlite3_prepare_v2(database_.get(), "SELECT id, record FROM events ORDER BY id", -1, &raw, nullptr);
+  {
+    const Statement statement(raw);
+    while (std::ssize(batch.records) < events && (error = sqlite3_step(raw)) == SQLITE_ROW) {
+      const auto* data = static_cast<const char*>(sqlite3_column_blob(raw, 1));
+      const QByteArray record(data, sqlite3_column_bytes(raw, 1));
+      bytes -= record.size();
+      if (bytes < 0 && !batch.records.empty()) break;
+      batch.records.push_back(record);
+      batch.lastId = sqlite3_column_int64(raw, 0);
+    }
+  }
+  if (!isDefective(error)) return batch;
+  startAfresh();
+  return {};
+}
+
+void EventStore::remove(qint64 lastId) {
+  if (!database_) return;
+  const bool isDone = run("DELETE FROM events WHERE id <= CAST(?1 AS INTEGER)", {QByteArray::number(lastId)});
+  sqlite3_stmt* raw = nullptr;
+  if (isDone) {
+    sqlite3_prepare_v2(database_.get(), "SELECT count(*), coalesce(sum(length(record)), 0) FROM events", -1,
+                       &raw, nullptr);
+  }
+  const Statement statement(raw);
+  if (!isDone || sqlite3_step(raw) != SQLITE_ROW) return startAfresh();
+  count_ = sqlite3_column_int64(raw, 0);
+  bytes_ = sqlite3_column_int64(raw, 1);
+}
+
+QByteArray EventStore::note(const char* name) {
+  if (!database_) return {};
+  sqlite3_stmt* raw = nullptr;
+  sqlite3_prepare_v2(database_.get(), "SELECT value FROM notes WHERE name = ?1", -1, &raw, nullptr);
+  const Statement statement(raw);
+  sqlite3_bind_text(raw, 1, name, -1, SQLITE_STATIC);
+  if (sqlite3_step(raw) != SQLITE_ROW) return {};
+  const auto* data = static_cast<const char*>(sqlite3_column_blob(raw, 0));
+  return {data, sqlite3_column_bytes(raw, 0)};
+}
+
+void EventStore::setNote(const char* name, const QByteArray& value) {
+  run("INSERT INTO notes(name, value) VALUES(CAST(?1 AS TEXT), ?2) ON CONFLICT(name) DO UPDATE SET value = "
+      "excluded.value",
+      {name, value});
+}
+
+SendState EventStore::sendState() {
+  return {.notBefore = note("notBefore").toLongLong(), .failures = note("failures").toInt()};
+}
+
+void EventStore::setSendState(const SendState& state) {
+  setNote("notBefore", QByteArray::number(state.notBefore));
+  setNote("failures", QByteArray::number(state.failures));
+}
+
+QByteArray EventStore::dailyNumber(const QDate& today) {
+  const QByteArray day = today.toString(Qt::ISODate).toLatin1();
+  const QByteArray kept = note("daily");
+  if (kept.startsWith(day + ' ')) return kept.mid(day.size() + 1);
+  const QByteArray number =
+      QByteArray::number(QRandomGenerator::system()->generate64(), 16).rightJustified(16, '0');
+  setNote("daily", day + ' ' + number);
+  return number;
+}
+
+bool EventStore::discard(const QString& path) {
+  bool isGone = true;
+  for (const char* part : {"", "-wal", "-shm", "-journal"}) {
+    const QString file = path + part;
+    isGone = (QFile::remove(file) || !QFileInfo::exists(file)) && isGone;
+  }
+  return isGone;
+}
+
+}  // namespace tavi

@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QByteArray>
+#include <QDateTime>
+#include <QString>
+#include <memory>
+#include <vector>
+
+struct sqlite3;
+struct sqlite3_stmt;
+
+namespace tavi {
+
+/// What waits to be sent, oldest first, and up to which number of the store.
+struct EventBatch {
+  std::vector<QByteArray> records;
+  qint64 lastId = 0;
+};
+
+/// When and how often sending failed; kept, so that a new start does not knock at once again.
+struct SendState {
+  qint64 notBefore = 0;  ///< Milliseconds since 1970; 0 for any time.
+  int failures = 0;      ///< In a row.
+};
+
+/// Events in a database file of their own. An event is in the file when `add` returns, and there it outlives
+/// the process; a power cut may cost the file, which then begins afresh: nothing here waits for the disk. One
+/// process at a time has it; to another, and where there is no file to be had, nothing is kept. Main thread
+/// only.
+class EventStore {
+ public:
+  static constexpr qint64 eventLimit = 10'000;
+  static constexpr qint64 byteLimit = 5LL * 1024 * 1024;
+
+  /// Opens or creates the file at the path.
+  explicit EventStore(QString path);
+
+  /// Keeps a record. Beyond a limit the oldest go.
+  void add(const QByteArray& record);
+
+  /// The oldest records, as many as both limits allow, but one at least.
+  EventBatch batch(int events, qsizetype bytes);
+
+  /// Forgets the records up to that number. They never come back in a batch, even from a file that cannot be
+  /// written any more.
+  void remove(qint64 lastId);
+
+  qint64 count() const { return count_; }
+
+  SendState sendState();
+  void setSendState(const SendState& state);
+
+  /// The random number of the day (UTC); another tomorrow.
+  QByteArray dailyNumber(const QDate& today);
+
+  /// Deletes the file at the path and what belongs to it. False when something of it stays.
+  static bool discard(const QString& path);
+
+ private:
+  struct Close {
+    void operator()(sqlite3* database) const;
+  };
+  struct Finalize {
+    void operator()(sqlite3_stmt* statement) const;
+  };
+  using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
+
+  bool open();
+  void startAfresh();
+  bool run(const char* sql, const std::vector<QByteArray>& values);
+  QByteArray note(const char* name);
+  void setNote(const char* name, const QByteArray& value);
+  void trim();
+
+  QString path_;
+  std::unique_ptr<sqlite3, Close> database_;
+  qint64 count_ = 0;
+  qint64 bytes_ = 0;
+};
+
+}  // namespace tavi

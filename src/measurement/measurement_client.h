@@ -1,0 +1,84 @@
+#pragma once
+
+#include <QNetworkAccessManager>
+#include <QNetworkReply>
+#include <QObject>
+#include <QTimer>
+#include <QUrl>
+#include <chrono>
+#include <memory>
+#include <optional>
+
+#include "measurement/event_store.h"
+#include "platform/analytics.h"
+#include "platform/network_access.h"
+#include "platform/resource_bundle.h"
+
+namespace tavi {
+
+/// Where events are sent and within which limits.
+struct MeasurementSettings {
+  QUrl endpoint;  ///< Of a collector's logs, https and usually with the path "/v1/logs"; empty for none.
+  bool allowsLoopbackHttp = false;
+  bool sendsWorkings = false;  ///< Whether what the user typed and its working may go with an event.
+  int batchEvents = 200;
+  qsizetype batchBytes = 256L * 1024;
+  std::chrono::milliseconds interval = std::chrono::minutes(15);  ///< Between two batches.
+  std::chrono::milliseconds shortestPause = std::chrono::minutes(1);
+  std::chrono::milliseconds longestPause = std::chrono::hours(6);
+  std::chrono::milliseconds timeout = std::chrono::seconds(30);    ///< For a whole exchange.
+  std::chrono::milliseconds endTimeout = std::chrono::seconds(1);  ///< For the one at the end of the process.
+
+  /// From "ProjectSettings.json" of the bundle; whatever is missing or misshapen there keeps its default.
+  static MeasurementSettings fromBundle(const ResourceBundle& bundle);
+
+  /// Whether there is an address and it may be used.
+  bool isUsable() const;
+};
+
+/// Keeps the events of a user who agreed, and sends them in batches. Until then, and from a withdrawal on,
+/// nothing is kept or sent and there is no file. What a collector acknowledged or refused is forgotten; what
+/// it did not answer is sent again after a pause that grows from failure to failure. Main thread only.
+class MeasurementClient : public QObject {
+  Q_OBJECT
+
+ public:
+  /// Keeps its events in the file at the path, once consent is given.
+  MeasurementClient(MeasurementSettings settings, QString storePath,
+                    NetworkAccessFactory makeAccess = makeNetworkAccess);
+  ~MeasurementClient() override;
+
+  /// The client of the settings in the bundle; none where they name no usable address.
+  static std::unique_ptr<MeasurementClient> fromBundle(const ResourceBundle& bundle);
+
+  /// The user's answer. A withdrawal deletes what is kept and ends what is being sent.
+  void setConsent(bool isGiven);
+
+  /// Keeps the event, if the user agreed. This is what `Analytics` hands its events to.
+  void take(const AnalyticsEvent& event);
+
+  /// How many events wait to be sent.
+  qint64 waiting() const { return store_ ? store_->count() : 0; }
+
+  /// Sends a last batch at the proper end of the process, unless a failure's pause is on, and waits for the
+  /// answer as long as `endTimeout`.
+  void finish();
+
+ private:
+  void schedule();
+  void send();
+  void receive(QNetworkReply* reply, qint64 lastId);
+  void settle(qint64 lastId);
+  void postpone(std::chrono::milliseconds asked);
+  void cancel();
+
+  MeasurementSettings settings_;
+  QString storePath_;
+  NetworkAccessFactory makeAccess_;
+  std::optional<EventStore> store_;  // there while consent is given
+  std::unique_ptr<QNetworkAccessManager> access_;
+  QNetworkReply* reply_ = nullptr;  // of the batch on its way
+  QTimer timer_;
+};
+
+}  // namespace tavi

@@ -1,0 +1,311 @@
+#include "measurement/measurement_client.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QJsonArray>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include "measurement/collector.h"
+#include "measurement/otlp.h"
+#include "platform/test_support.h"
+
+namespace tavi {
+namespace {
+
+using namespace std::chrono_literals;
+
+class Measurement : public testing::Test {
+ protected:
+  // As fast as it goes, so that a test need not wait for pauses.
+  MeasurementSettings settings(const QUrl& endpoint) const {
+    return {.endpoint = endpoint,
+            .allowsLoopbackHttp = true,
+            .interval = 0ms,
+            .shortestPause = 1ms,
+            .longestPause = 2ms};
+  }
+
+  QString path() const { return folder_.filePath("measurement.sqlite"); }
+  QStringList kept() const { return runSql(path(), "SELECT record FROM events"); }
+  bool isAnyFile() const { return QFile::exists(path()) || QFile::exists(path() + "-wal"); }
+
+  QTemporaryDir folder_;
+};
+
+void well(qsizetype /*batch*/, QTcpSocket& socket) {
+  Collector::say(socket);
+}
+
+TEST_F(Measurement, KeepsAndSendsNothingWithoutConsent) {
+  Collector collector(well);
+  MeasurementClient client(settings(collector.address()), path());
+  client.take({"tapped_clear", std::nullopt});
+  client.finish();
+  EXPECT_FALSE(isAnyFile());
+
+  client.setConsent(true);
+  client.take({"asked", std::nullopt});
+  EXPECT_TRUE(waitUntil([&] { return collector.names() == QStringList{"asked"}; }));
+}
+
+TEST_F(Measurement, AWithdrawalDeletesAtOnceAlsoWhatIsOnItsWay) {
+  Collector collector([](qsizetype, QTcpSocket&) {});
+  MeasurementClient client(settings(collector.address()), path());
+  client.setConsent(true);
+  client.take({"one", std::nullopt});
+  EXPECT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+  client.setConsent(false);
+  EXPECT_FALSE(isAnyFile());
+  client.take({"two", std::nullopt});
+  EXPECT_FALSE(isAnyFile());
+}
+
+TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
+  Collector collector(well);
+  MeasurementClient client(settings(collector.address()), path());
+  client.setConsent(true);
+  client.take({"taviAds_presented",
+               QVariantMap{{"taviAdId", "π"}, {"countTaviAdsPresented", 7}, {"is", true}, {"rating", 4.5}}});
+  ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+  EXPECT_TRUE(collector.lastHead().startsWith("post /v1/logs http/1.1"));
+  EXPECT_TRUE(collector.lastHead().contains("content-type: application/json"));
+  EXPECT_TRUE(collector.lastHead().contains("content-encoding: gzip"));
+
+  const QJsonValue logs = collector.batches()[0]["resourceLogs"][0];
+  EXPECT_EQ(logs["resource"]["attributes"][0]["key"].toString(), "service.name");
+  EXPECT_EQ(logs["resource"]["attributes"][0]["value"]["stringValue"].toString(), "tavi");
+  const QJsonValue record = logs["scopeLogs"][0]["logRecords"][0];
+  EXPECT_EQ(record["eventName"].toString(), "taviAds_presented");
+  EXPECT_EQ(record["body"]["stringValue"].toString(), "taviAds_presented");
+  EXPECT_EQ(record["severityNumber"].toInt(), 9);
+  EXPECT_GT(record["timeUnixNano"].toString().toLongLong(), 1'600'000'000'000'000'000);
+  QStringList attributes;
+  for (const QJsonValue attribute : record["attributes"].toArray()) {
+    const QJsonObject value = attribute["value"].toObject();
+    attributes.append(
+        attribute["key"].toString() + ' ' + value.keys().join(',') + ' ' +
+        (attribute["key"] == "tavi.day" ? QString("*") : value.begin()->toVariant().toString()));
+  }
+  EXPECT_EQ(attributes,
+            (QStringList{"countTaviAdsPresented intValue 7", "is boolValue true", "rating doubleValue 4.5",
+                         "tavi.day stringValue *", "taviAdId stringValue π"}));
+}
+
+TEST_F(Measurement, SendsWhatWasTypedOnlyIfTheSettingSaysSo) {
+  const AnalyticsEvent event{"tavi_calculate",
+                             QVariantMap{{"solutionSteps", QVariantList{QVariantMap{{"title", "secret"}}}},
+                                         {"calc_parameters", QVariantMap{{"aTextField", "secret"}}},
+                                         {"latex_string", "secret"},
+                                         {"solutionStepsCount", 1}}};
+  for (const bool isAllowed : {false, true}) {
+    MeasurementSettings some = settings(QUrl("https://collector.invalid/v1/logs"));
+    some.sendsWorkings = isAllowed;
+    {
+      MeasurementClient client(some, path());
+      client.setConsent(true);
+      client.take(event);
+    }
+    ASSERT_EQ(kept().size(), 1);
+    EXPECT_EQ(kept()[0].count("secret"), isAllowed ? 3 : 0);
+    EXPECT_TRUE(kept()[0].contains("solutionStepsCount"));
+    MeasurementClient(some, path()).setConsent(false);
+  }
+}
+
+struct Behaviour {
+  const char* name;
+  Collector::Answer answer;  // to the first batch; later ones are taken
+  bool isSentAgain;
+};
+
+const Behaviour behaviours[] = {
+    {"Well", well, false},
+    {"WithNothing", [](qsizetype, QTcpSocket& s) { Collector::say(s, "200 OK", ""); }, false},
+    {"PartlyRejected",
+     [](qsizetype, QTcpSocket& s) {
+       Collector::say(s, "200 OK", R"({"partialSuccess":{"rejectedLogRecords":"1","errorMessage":"no"}})");
+     },
+     false},
+    {"WithAPage", [](qsizetype, QTcpSocket& s) { Collector::say(s, "200 OK", "<html>"); }, true},
+    {"Refusing", [](qsizetype, QTcpSocket& s) { Collector::say(s, "400 Bad Request", ""); }, false},
+    {"Timeout", [](qsizetype, QTcpSocket& s) { Collector::say(s, "408 Timeout", ""); }, true},
+    {"TooMany", [](qsizetype, QTcpSocket& s) { Collector::say(s, "429 Too Many", ""); }, true},
+    {"Elsewhere",
+     [](qsizetype, QTcpSocket& s) { Collector::say(s, "307 Moved", "", "Location: /other\r\n"); }, true},
+    {"Broken",
+     [](qsizetype, QTcpSocket& s) { Collector::say(s, "503 Unavailable", "", "Retry-After: x\r\n"); }, true},
+    {"Halfway",
+     [](qsizetype, QTcpSocket& s) {
+       s.write("HTTP/1.1 200 OK\r\nContent-Length: 100\r\n\r\n{");
+       s.disconnectFromHost();
+     },
+     true},
+    {"HangingUp", [](qsizetype, QTcpSocket& s) { s.abort(); }, true},
+    {"WithNoise",
+     [](qsizetype, QTcpSocket& s) {
+       s.write(QByteArray(1000, '\xff'));
+       s.disconnectFromHost();
+     },
+     true},
+    {"TooLong", [](qsizetype, QTcpSocket& s) { Collector::say(s, "200 OK", QByteArray(1'000'000, ' ')); },
+     true},
+    {"Never", [](qsizetype, QTcpSocket&) {}, true},
+};
+
+class MeasurementAnswers : public Measurement, public testing::WithParamInterface<Behaviour> {};
+
+// The second event shows what became of the first one's batch: it comes alone, or behind the first again.
+TEST_P(MeasurementAnswers, EndInAcknowledgementOrAnotherAttempt) {
+  Collector collector([](qsizetype batch, QTcpSocket& socket) {
+    if (batch == 0) return GetParam().answer(batch, socket);
+    Collector::say(socket);
+  });
+  MeasurementSettings some = settings(collector.address());
+  if (std::string_view(GetParam().name) == "Never") some.timeout = 50ms;
+  MeasurementClient client(some, path());
+  client.setConsent(true);
+  client.take({"first", std::nullopt});
+  const qsizetype attempts = GetParam().isSentAgain ? 2 : 1;
+  ASSERT_TRUE(waitUntil([&] { return collector.batches().size() >= attempts; }));
+  ASSERT_TRUE(waitUntil([&] { return client.waiting() == 0; }));
+  client.take({"second", std::nullopt});
+  ASSERT_TRUE(waitUntil([&] { return collector.names().contains("second"); }));
+  EXPECT_EQ(collector.names(), GetParam().isSentAgain ? (QStringList{"first", "first", "second"})
+                                                      : (QStringList{"first", "second"}));
+}
+
+INSTANTIATE_TEST_SUITE_P(Of, MeasurementAnswers, testing::ValuesIn(behaviours),
+                         [](const auto& behaviour) { return behaviour.param.name; });
+
+TEST_F(Measurement, KeepsItsPauseOverANewStart) {
+  Collector collector([](qsizetype, QTcpSocket& socket) {
+    Collector::say(socket, "503 Unavailable", "", "Retry-After: 3600\r\n");
+  });
+  {
+    MeasurementClient client(settings(collector.address()), path());
+    client.setConsent(true);
+    client.take({"one", std::nullopt});
+    ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+    client.finish();
+  }
+  const qint64 notBefore = EventStore(path()).sendState().notBefore;
+  EXPECT_GT(notBefore, QDateTime::currentMSecsSinceEpoch() + 3000 * 1000);
+  MeasurementClient client(settings(collector.address()), path());
+  client.setConsent(true);
+  client.take({"two", std::nullopt});
+  client.finish();
+  EXPECT_EQ(collector.batches().size(), 1);
+}
+
+TEST_F(Measurement, SendsALastBatchAtTheEnd) {
+  Collector collector(well);
+  MeasurementSettings some = settings(collector.address());
+  some.interval = 1h;
+  some.endTimeout = 10s;
+  MeasurementClient client(some, path());
+  client.setConsent(true);
+  client.take({"one", std::nullopt});
+  ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+  client.finish();
+  client.take({"two", std::nullopt});
+  client.finish();
+  EXPECT_EQ(collector.names(), (QStringList{"one", "two"}));
+}
+
+TEST_F(Measurement, CutsBatchesAtBothLimits) {
+  EventStore store(path());
+  for (int i = 0; i < 300; ++i) store.add(QByteArray(i < 2 ? 200'000 : 10, 'x'));
+  const EventBatch first = store.batch(200, 256 * 1024);
+  EXPECT_EQ(first.records.size(), 1U);
+  store.remove(first.lastId);
+  const EventBatch second = store.batch(200, 256 * 1024);
+  EXPECT_EQ(second.records.size(), 200U);
+  store.remove(second.lastId);
+  EXPECT_EQ(store.batch(200, 256 * 1024).records.size(), 99U);
+}
+
+TEST_F(Measurement, TheOldestGoFirst) {
+  {
+    EventStore store(path());
+    for (int i = 0; i < 10'001; ++i) store.add(QByteArray::number(i));
+    EXPECT_LE(store.count(), EventStore::eventLimit);
+    const EventBatch batch = store.batch(20'000, 1'000'000);
+    EXPECT_EQ(batch.records.back(), "10000");
+    EXPECT_GT(batch.records.size(), 9000U);
+    store.remove(batch.lastId);
+    for (int i = 0; i < 11; ++i) store.add(QByteArray(500'000, static_cast<char>('a' + i)));
+    EXPECT_EQ(store.batch(20'000, 10'000'000).records.back().front(), 'k');
+    EXPECT_LE(store.count(), 10);
+  }
+  EXPECT_EQ(EventStore(path()).batch(1, 1).records.size(), 1U);
+}
+
+TEST_F(Measurement, TheDailyNumberStaysForADay) {
+  const QDate day(2024, 2, 29);
+  const QByteArray number = EventStore(path()).dailyNumber(day);
+  EXPECT_EQ(number.size(), 16);
+  EXPECT_EQ(EventStore(path()).dailyNumber(day), number);
+  EXPECT_NE(EventStore(path()).dailyNumber(day.addDays(1)), number);
+}
+
+TEST_F(Measurement, ADefectiveFileBeginsAfresh) {
+  QFile file(path());
+  ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+  file.write(QByteArray(10'000, 'x'));
+  file.close();
+  EventStore store(path());
+  store.add("event");
+  EXPECT_EQ(store.batch(10, 1000).records, std::vector<QByteArray>{"event"});
+}
+
+TEST_F(Measurement, WithoutAPlaceNothingIsKeptAndNothingHappens) {
+  ASSERT_TRUE(QDir().mkpath(path() + "/taken"));
+  EventStore store(path());
+  store.add("event");
+  EXPECT_TRUE(store.batch(10, 1000).records.empty());
+  store.remove(1);
+  EXPECT_EQ(store.count(), 0);
+}
+
+TEST_F(Measurement, IsNotMadeWithoutAnAddress) {
+  EXPECT_EQ(MeasurementClient::fromBundle(ResourceBundle::main()), nullptr);
+  EXPECT_TRUE(settings(QUrl("https://collector.invalid/v1/logs")).isUsable());
+  EXPECT_FALSE(settings(QUrl("http://collector.invalid/v1/logs")).isUsable());
+  EXPECT_FALSE(settings(QUrl()).isUsable());
+}
+
+// What the process said it kept is kept, or was received, whenever it is killed.
+TEST_F(Measurement, NothingIsLostWhenTheProcessIsKilled) {
+  Collector collector(well);
+  QStringList acknowledged;
+  for (int round = 0; round < 10; ++round) {
+    QProcess child;
+    child.start(QCoreApplication::applicationFilePath(),
+                {"--child", path(), collector.address().toString(), QString::number(round)});
+    const int wanted = 1 + (round * 37) % 90;
+    int seen = 0;
+    ASSERT_TRUE(waitUntil([&] {
+      while (child.canReadLine()) {
+        acknowledged.append(QString::fromUtf8(child.readLine()).trimmed());
+        ++seen;
+      }
+      return seen >= wanted;
+    }));
+    child.kill();
+    ASSERT_TRUE(waitUntil([&] { return child.state() == QProcess::NotRunning; }));
+    while (child.canReadLine()) acknowledged.append(QString::fromUtf8(child.readLine()).trimmed());
+  }
+  const QString stored = kept().join('\n');
+  const QStringList received = collector.names();
+  const QSet<QString> arrived(received.begin(), received.end());
+  for (const QString& name : acknowledged) {
+    EXPECT_TRUE(arrived.contains(name) || stored.contains('"' + name + '"')) << name.toStdString();
+  }
+}
+
+}  // namespace
+}  // namespace tavi
