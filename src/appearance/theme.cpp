@@ -4,15 +4,21 @@
 #include "appearance/contrast.h"
 #include "appearance/interface_colors.h"
 #include "appearance/interface_fonts.h"
+#include "platform/motion.h"
 
 namespace tavi {
 
 Theme::Theme(QObject* parent) : QObject(parent) {
   connect(&Appearance::shared(), &Appearance::changed, this, &Theme::appearanceChanged);
+  connect(&Motion::shared(), &Motion::changed, this, &Theme::motionChanged);
 }
 
 bool Theme::isDark() const {
   return Appearance::shared().isDark();
+}
+
+bool Theme::isMotionReduced() const {
+  return Motion::shared().isReduced();
 }
 
 QColor Theme::label() const {

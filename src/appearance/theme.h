@@ -15,6 +15,7 @@ class Theme : public QObject {
   QML_ELEMENT
   QML_SINGLETON
   Q_PROPERTY(bool isDark READ isDark NOTIFY appearanceChanged)
+  Q_PROPERTY(bool isMotionReduced READ isMotionReduced NOTIFY motionChanged)
   Q_PROPERTY(QColor label READ label NOTIFY appearanceChanged)
   Q_PROPERTY(QColor secondaryGray READ secondaryGray NOTIFY appearanceChanged)
   Q_PROPERTY(QColor background READ background NOTIFY appearanceChanged)
@@ -40,6 +41,7 @@ class Theme : public QObject {
   explicit Theme(QObject* parent = nullptr);
 
   bool isDark() const;
+  bool isMotionReduced() const;  ///< What would move stands at once.
   QColor label() const;
   QColor secondaryGray() const;
   QColor background() const;
@@ -75,6 +77,7 @@ class Theme : public QObject {
 
  signals:
   void appearanceChanged();
+  void motionChanged();
 };
 
 }  // namespace tavi

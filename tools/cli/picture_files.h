@@ -38,7 +38,7 @@ struct PictureFiles {
   /// exit code.
   int draw(const std::function<Picture()>& make) const;
 
-  /// Does the work with that application; the result is the work's.
+  /// Does the work in the colours of the appearance; the result is the work's.
   int inAppearance(const std::function<int()>& work) const;
 };
 

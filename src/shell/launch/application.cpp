@@ -7,6 +7,7 @@
 #include "appearance/appearance.h"
 #include "platform/application_context.h"
 #include "platform/localization.h"
+#include "platform/motion.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
@@ -27,6 +28,7 @@ Application::Application(int& argumentCount, char** arguments)
   setWindowIcon(QIcon::fromTheme(desktopFileName()));
   loadTranslations();
   Appearance::shared().followSystem();
+  Motion::shared().followSystem();
 }
 
 Application::~Application() = default;

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Window
+import Tavi
 
 // A row of charts. They start half a second after the row has come into sight, each time it does.
 TableRow {
@@ -7,13 +8,19 @@ TableRow {
 
     readonly property bool isInSight: Window.window !== null && table !== null && y + height > table.contentY && y < table.contentY + table.height
 
-    signal started
-
     height: rowHeight.at(viewWidth)
+
+    ChartView {
+        id: chart
+
+        anchors.fill: parent
+        charts: row.content.chartData
+        isStill: Theme.isMotionReduced
+    }
 
     Timer {
         interval: 500
         running: row.isInSight
-        onTriggered: row.started()
+        onTriggered: chart.start()
     }
 }

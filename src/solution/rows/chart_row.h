@@ -11,6 +11,7 @@ namespace tavi {
 /// The row of charts that share it.
 struct ChartTableViewCell {
   Q_GADGET
+  Q_PROPERTY(tavi::ChartRow chartData MEMBER chartData)
 
  public:
   static constexpr const char* kind = "chart";
