@@ -431,6 +431,10 @@
         <source>manualButton</source>
         <translation>So geht es</translation>
     </message>
+    <message id="animateAgainButton">
+        <source>animateAgainButton</source>
+        <translation>Noch einmal abspielen</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>

@@ -431,6 +431,10 @@
         <source>manualButton</source>
         <translation>How it works</translation>
     </message>
+    <message id="animateAgainButton">
+        <source>animateAgainButton</source>
+        <translation>Play again</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>

@@ -54,12 +54,17 @@ void ChartPicture::paint(QPainter& painter, const ChartMoment& moment) const {
   painter.restore();
 }
 
+QRectF chartFrameIn(QSizeF row) {
+  constexpr double margin = 0.05;
+  return {QPointF(margin * row.width(), margin * row.height()), row * (1 - 2 * margin)};
+}
+
 void paintChartRow(QPainter& painter, QSizeF size, std::shared_ptr<const ChartView> view,
                    const ChartMoment& moment) {
-  constexpr double margin = 0.05;
+  const QRectF frame = chartFrameIn(size);
   painter.save();
-  painter.translate(margin * size.width(), margin * size.height());
-  ChartPicture(std::move(view), size * (1 - 2 * margin)).paint(painter, moment);
+  painter.translate(frame.topLeft());
+  ChartPicture(std::move(view), frame.size()).paint(painter, moment);
   painter.restore();
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QPointF>
+#include <QRectF>
 #include <QSizeF>
 #include <memory>
 #include <optional>
@@ -44,7 +45,10 @@ class ChartPicture {
   std::optional<CoordinatePicture> coordinates_;
 };
 
-/// Draws a view into a row of that size, with a margin of a twentieth at each side.
+/// Where a chart stands in a row of that size: within a margin of a twentieth at each side.
+QRectF chartFrameIn(QSizeF row);
+
+/// Draws a view into a row of that size.
 void paintChartRow(QPainter& painter, QSizeF size, std::shared_ptr<const ChartView> view,
                    const ChartMoment& moment = {});
 

@@ -274,6 +274,14 @@ std::optional<ChartMark> CoordinatePicture::nearestOf(std::size_t series, QPoint
   return nearest;
 }
 
+std::optional<ChartMark> CoordinatePicture::first() const {
+  for (ChartMark mark; mark.series < options_.series.size(); ++mark.series) {
+    for (mark.point = 0; mark.point < options_.series[mark.series].points.size(); ++mark.point)
+      if (placeIfDrawn(mark)) return mark;
+  }
+  return std::nullopt;
+}
+
 // Beyond either end a number wraps to one that no point and no series has.
 ChartMark CoordinatePicture::nextPoint(ChartMark mark, int way) const {
   const std::size_t count = options_.series[mark.series].points.size();

@@ -34,6 +34,9 @@ class CoordinatePicture {
   /// The point that is drawn nearest to a place; absent if none is drawn.
   std::optional<ChartMark> nearest(QPointF place) const;
 
+  /// The first point that is drawn; absent if none is.
+  std::optional<ChartMark> first() const;
+
   /// The next point that is drawn in the series of a marked one, and the nearest one of the next series: on
   /// by 1 or back by -1. The marked one where there is none.
   ChartMark nextPoint(ChartMark mark, int way) const;
