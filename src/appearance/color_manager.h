@@ -11,8 +11,7 @@
 namespace tavi {
 
 /// Gives all screens one look by walking the views of a screen and styling each by its kind and tag. Styles
-/// are written once, when a screen comes up; a change of the appearance reaches an open screen at the next
-/// time.
+/// are written when a screen comes up, and by its controller again whenever the appearance changes.
 class ColorManager {
  public:
   ColorManager() = delete;

@@ -2,6 +2,7 @@
 
 #include <array>
 
+#include "appearance/appearance.h"
 #include "appearance/interface_colors.h"
 
 namespace tavi {
@@ -27,8 +28,12 @@ KeypadPalette KeypadPalette::make() {
 }
 
 const KeypadPalette& KeypadPalette::shared() {
-  static const KeypadPalette palette = make();
-  return palette;
+  if (Appearance::shared().isDark()) {
+    static const KeypadPalette dark = make();
+    return dark;
+  }
+  static const KeypadPalette light = make();
+  return light;
 }
 
 std::optional<QColor> KeypadPalette::color(int tag) const {

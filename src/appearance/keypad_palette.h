@@ -16,7 +16,7 @@ struct KeypadPalette {
   /// The colours for the appearance in force.
   static KeypadPalette make();
 
-  /// Made at the first use; the appearance at that moment decides for the life of the process.
+  /// The one palette of the appearance in force. Each of the two is made at its first use.
   static const KeypadPalette& shared();
 
   /// The colour of a tag from 101 to 105; absent for any other.

@@ -1,14 +1,17 @@
 #include "appearance/view.h"
 
+#include "appearance/appearance.h"
 #include "appearance/interface_colors.h"
 
 namespace tavi {
 
-View::View(QObject* item)
-    : QObject(item),
-      titleColor_(InterfaceColor::label()),
-      tintColor_(InterfaceColor::label()),
-      imageTintColor_(InterfaceColor::label()) {}
+View::View(QObject* item) : QObject(item) {
+  connect(&Appearance::shared(), &Appearance::changed, this, &View::styleChanged);
+}
+
+QColor View::orLabel(const QColor& color) {
+  return color.isValid() ? color : InterfaceColor::label();
+}
 
 View* View::qmlAttachedProperties(QObject* item) {
   return std::make_unique<View>(item).release();  // the item owns it from here on

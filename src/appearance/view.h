@@ -82,14 +82,14 @@ class View : public QObject {
   int tag() const { return tag_; }
   void setTag(int tag);
 
-  /// Colours begin transparent, except title and tint colour, which begin as text.
+  /// Colours begin transparent, except title and tint colours, which are that of text until they are set.
   QColor backgroundColor() const { return backgroundColor_; }
   void setBackgroundColor(const QColor& color);
-  QColor titleColor() const { return titleColor_; }
+  QColor titleColor() const { return orLabel(titleColor_); }
   void setTitleColor(const QColor& color);
-  QColor tintColor() const { return tintColor_; }
+  QColor tintColor() const { return orLabel(tintColor_); }
   void setTintColor(const QColor& color);
-  QColor imageTintColor() const { return imageTintColor_; }
+  QColor imageTintColor() const { return orLabel(imageTintColor_); }
   void setImageTintColor(const QColor& color);
   QColor filledColor() const { return filledColor_; }
   void setFilledColor(const QColor& color);
@@ -104,6 +104,7 @@ class View : public QObject {
   void styleChanged();
 
  private:
+  static QColor orLabel(const QColor& color);
   template <typename Value>
   void assign(Value& member, const Value& value);
 

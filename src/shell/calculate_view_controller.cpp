@@ -67,14 +67,11 @@ void CalculateViewController::viewDidLoad() {
   setUpTabItem(localized("Input"), true);
   errorManager_.allFields = ErrorManager::Fields(allFields.begin(), allFields.end());
   errorManager_.requiredAmountOfFields = requiredAmountOfTextFields;
-  styleFields();
+  for (DTTextField* field : allFields) field->setBorderColor(InterfaceColor::fieldNeutral());
   deleteIcon_ = "arrowBack";
   calculateIcon_ = "check";
   refillFields();
-  if (QQuickItem* root = view()) {
-    ColorManager::applyStyleToSubviews(*root);
-    ViewManager::prepareSegmentedControls(*root);
-  }
+  if (const QQuickItem* root = view()) ViewManager::prepareSegmentedControls(*root);
   emit loaded();
 }
 
@@ -105,7 +102,7 @@ void CalculateViewController::configureFieldsBelow(const QQuickItem& item) {
   }
 }
 
-void CalculateViewController::styleFields() {
+void CalculateViewController::applyAppearance() {
   const KeypadPalette& palette = KeypadPalette::shared();
   // Each appearance has its own of the five that can be read on the background of a field.
   const bool isDark = InterfaceColor::background().lightnessF() < 0.5;
@@ -115,10 +112,9 @@ void CalculateViewController::styleFields() {
                          .labelFont = InterfaceFont::book(10),
                          .isLabelFloating = true,
                          .isBorderShown = true};
-  for (DTTextField* field : allFields) {
-    field->setStyle(style);
-    field->setBorderColor(InterfaceColor::fieldNeutral());
-  }
+  for (DTTextField* field : allFields) field->setStyle(style);
+  if (const QQuickItem* root = view()) ColorManager::applyStyleToSubviews(*root);
+  if (isAppearing()) errorManager_.refreshFields();
 }
 
 void CalculateViewController::refillFields() {

@@ -120,6 +120,7 @@ class CalculateViewController : public AdHandlingViewController {
 
  protected:
   void viewDidLoad() override;
+  void applyAppearance() override;
   void viewWillAppear() override;
   void viewDidAppear() override;
   void viewWillDisappear() override;
@@ -130,7 +131,6 @@ class CalculateViewController : public AdHandlingViewController {
 
   void configureFields();
   void configureFieldsBelow(const QQuickItem& item);
-  void styleFields();
   void refillFields();
   void fillFrom(const Calculation& calculation);
   void buildToolbar();

@@ -144,8 +144,12 @@ void SolutionViewController::viewDidLoad() {
   if (!tableView_) fatalStop("Der trailing Constraint der tableView wurde nicht gefunden.");
 }
 
-void SolutionViewController::viewWillAppear() {
+void SolutionViewController::applyAppearance() {
   if (view()) ColorManager::applyStyleToSubviews(*view());
+}
+
+void SolutionViewController::viewWillAppear() {
+  applyAppearance();
   isManualButtonHidden_ = !manualImageName_ || manualImageName_->isEmpty();
   isShareButtonHidden_ = data_.solutionSteps.empty();
   updateTabItem();

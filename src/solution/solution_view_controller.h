@@ -81,6 +81,7 @@ class SolutionViewController : public AdHandlingViewController {
 
  protected:
   void viewDidLoad() override;
+  void applyAppearance() override;
   void viewWillAppear() override;
 
  private:

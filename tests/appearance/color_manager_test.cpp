@@ -65,6 +65,19 @@ TEST_F(ColorManagerTest, DimsInDarkAppearanceOnly) {
   EXPECT_NEAR(KeypadPalette::make().color(103)->valueF(), 0.7, 0.001);
 }
 
+TEST_F(ColorManagerTest, WhatIsNotSetFollowsTheAppearance) {
+  View& button = view(add(&root, Kind::IconButton));
+  int changes = 0;
+  const QObject context;
+  QObject::connect(&button, &View::styleChanged, &context, [&changes] { ++changes; });
+  for (const bool isDark : {true, false}) {
+    Appearance::shared().force(isDark);
+    EXPECT_EQ(button.tintColor(), InterfaceColor::label());
+    EXPECT_EQ(KeypadPalette::shared().pink, KeypadPalette::make().pink);
+  }
+  EXPECT_EQ(changes, 2);
+}
+
 TEST_F(ColorManagerTest, FindsTheKeypadColoursByTag) {
   const KeypadPalette palette = KeypadPalette::make();
   EXPECT_EQ(palette.color(101), palette.darkGold);

@@ -70,7 +70,7 @@ class Toolbar : public QObject {
   struct Style {
     QFont titleFont;
     QColor titleColor;
-    QColor backgroundColor;
+    QColor backgroundColor = Qt::transparent;
     QColor statusBarColor = Qt::transparent;  ///< Transparent: no strip over the bar.
     double height = 56;
     double topInset = 0;

@@ -2,7 +2,6 @@
 
 #include <utility>
 
-#include "appearance/color_manager.h"
 #include "appearance/interface_colors.h"
 #include "appearance/interface_fonts.h"
 #include "output/localized_string.h"
@@ -31,9 +30,17 @@ void BasicToolbarController::transition(std::shared_ptr<ViewController> to,
 }
 
 void BasicToolbarController::viewDidLoad() {
-  toolbar_.setStyle({.titleFont = InterfaceFont::heavy(20),
-                     .titleColor = InterfaceColor::darkTitle(),
-                     .backgroundColor = KeypadPalette::shared().brightYellow});
+  toolbar_.setStyle({.titleFont = InterfaceFont::heavy(20), .titleColor = InterfaceColor::darkTitle()});
+}
+
+void BasicToolbarController::applyAppearance() {
+  Toolbar::Style style = toolbar_.style();
+  color(style, KeypadPalette::shared());
+  toolbar_.setStyle(style);
+}
+
+void BasicToolbarController::color(Toolbar::Style& style, const KeypadPalette& palette) const {
+  style.backgroundColor = palette.brightYellow;
 }
 
 void AppToolbarController::viewDidLoad() {
@@ -46,10 +53,14 @@ void AppToolbarController::viewDidLoad() {
   menuButton_->action = [this] { handleMenuButton(); };
 
   Toolbar::Style style = toolbar()->style();
-  style.statusBarColor = KeypadPalette::shared().darkGold;
   style.shrinksTitle = true;
   toolbar()->setStyle(style);
   toolbar()->setLeftViews({menuButton_});
+}
+
+void AppToolbarController::color(Toolbar::Style& style, const KeypadPalette& palette) const {
+  BasicToolbarController::color(style, palette);
+  style.statusBarColor = palette.darkGold;
 }
 
 void AppToolbarController::handleMenuButton() {
@@ -62,12 +73,15 @@ void MenuToolbarController::viewDidLoad() {
   BasicToolbarController::viewDidLoad();
   Toolbar::Style style = toolbar()->style();
   style.topInset = 57;
-  style.backgroundColor = KeypadPalette::shared().darkGold;
   style.shrinksTitle = true;
   style.height = 90;
   toolbar()->setStyle(style);
   const QString title = QString::fromStdString(LocalizedString::taviSolver.text());
   toolbar()->setTitle(QStringLiteral("  %1  ").arg(title));
+}
+
+void MenuToolbarController::color(Toolbar::Style& style, const KeypadPalette& palette) const {
+  style.backgroundColor = palette.darkGold;
 }
 
 }  // namespace tavi

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "appearance/keypad_palette.h"
 #include "shell/frame/toolbar.h"
 #include "shell/frame/view_controller.h"
 
@@ -28,6 +29,9 @@ class BasicToolbarController : public ViewController {
 
  protected:
   void viewDidLoad() override;
+  void applyAppearance() override;
+  /// The colours of the bar in the appearance whose palette that is.
+  virtual void color(Toolbar::Style& style, const KeypadPalette& palette) const;
   std::vector<ViewController*> visibleChildren() const override { return {root_.get()}; }
 
  private:
@@ -47,6 +51,7 @@ class AppToolbarController : public BasicToolbarController {
 
  protected:
   void viewDidLoad() override;
+  void color(Toolbar::Style& style, const KeypadPalette& palette) const override;
 
  private:
   std::shared_ptr<ToolbarButton> menuButton_;
@@ -61,6 +66,7 @@ class MenuToolbarController : public BasicToolbarController {
 
  protected:
   void viewDidLoad() override;
+  void color(Toolbar::Style& style, const KeypadPalette& palette) const override;
 };
 
 }  // namespace tavi

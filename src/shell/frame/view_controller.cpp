@@ -9,6 +9,7 @@
 #include <iterator>
 #include <utility>
 
+#include "appearance/appearance.h"
 #include "appearance/interface_fonts.h"
 #include "platform/localization.h"
 #include "shell/frame/alert_controller.h"
@@ -18,6 +19,9 @@ namespace tavi {
 
 ViewController::ViewController() {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
+  connect(&Appearance::shared(), &Appearance::changed, this, [this] {
+    if (isViewLoaded_) applyAppearance();
+  });
 }
 
 ViewController::~ViewController() {
@@ -38,6 +42,7 @@ QQuickItem* ViewController::view() {
     isViewLoaded_ = true;
     if (!view_ && engine_) load();
     viewDidLoad();
+    applyAppearance();
   }
   return view_.get();
 }

@@ -141,6 +141,8 @@ class ViewController : public QObject {
 
  protected:
   virtual void viewDidLoad() {}
+  /// Colours the view: when it has loaded, and again whenever the appearance changes.
+  virtual void applyAppearance() {}
   virtual void viewWillAppear() {}
   virtual void viewDidAppear() {}
   virtual void viewWillDisappear() {}

@@ -22,6 +22,9 @@ void HistoryTableViewController::viewDidLoad() {
   table_.reload(numberOfRowsInSection(0));
   editButton = makeButton("Edit", "edit", &HistoryTableViewController::handleEditButton);
   clearAllButton = makeButton("Clear History", "clear", &HistoryTableViewController::handleClearAllButton);
+}
+
+void HistoryTableViewController::applyAppearance() {
   if (const QQuickItem* root = view()) ColorManager::applyStyleToSubviews(*root);
 }
 

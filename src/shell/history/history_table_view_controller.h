@@ -69,6 +69,7 @@ class HistoryTableViewController : public ViewController {
 
  protected:
   void viewDidLoad() override;
+  void applyAppearance() override;
   void viewDidAppear() override;
 
  private:
