@@ -9,6 +9,7 @@
 #include <QtQml/QQmlProperty>
 #include <QtQuick/QQuickPaintedItem>
 
+#include "appearance/contrast.h"
 #include "typeset/bundled_font.h"
 #include "typeset/parser.h"
 #include "typeset/spoken_math.h"
@@ -116,7 +117,7 @@ void MathLabel::setTextColor(const QColor& color) {
 
 QColor MathLabel::backgroundColor() const {
   if (backgroundColor_.isValid()) return backgroundColor_;
-  return contrast(textColor_, Qt::white) > contrast(textColor_, Qt::black) ? Qt::white : Qt::black;
+  return contrastRatio(textColor_, Qt::white) > contrastRatio(textColor_, Qt::black) ? Qt::white : Qt::black;
 }
 
 void MathLabel::setBackgroundColor(const QColor& color) {

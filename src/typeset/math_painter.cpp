@@ -1,7 +1,6 @@
 #include "typeset/math_painter.h"
 
 #include <algorithm>
-#include <cmath>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -14,6 +13,7 @@
 #include <QtGui/QRawFont>
 #include <QtGui/QTransform>
 
+#include "appearance/contrast.h"
 #include "typeset/bundled_font.h"
 
 namespace tavi::typeset {
@@ -75,13 +75,6 @@ class SharedFont {
   std::map<double, QRawFont> sizes_;
 };
 
-double luminance(const QColor& color) {
-  const auto linear = [](double channel) {
-    return channel <= 0.04045 ? channel / 12.92 : std::pow((channel + 0.055) / 1.055, 2.4);
-  };
-  return 0.2126 * linear(color.redF()) + 0.7152 * linear(color.greenF()) + 0.0722 * linear(color.blueF());
-}
-
 QPainterPath outlineOf(const QGlyphRun& run) {
   QPainterPath outline;
   outline.setFillRule(Qt::WindingFill);
@@ -123,15 +116,10 @@ QPainterPath stacked(std::vector<QPainterPath> pieces) {
 
 }  // namespace
 
-double contrast(const QColor& first, const QColor& second) {
-  const auto [darker, lighter] = std::minmax({luminance(first), luminance(second)});
-  return (lighter + 0.05) / (darker + 0.05);
-}
-
 QColor legibleColor(const QColor& color, const QColor& background) {
-  const bool isDark = contrast(background, Qt::white) > contrast(background, Qt::black);
+  const bool isDark = contrastRatio(background, Qt::white) > contrastRatio(background, Qt::black);
   QColor fitted = color;
-  for (int lightness = color.lightness(); contrast(fitted, background) < leastContrast;) {
+  for (int lightness = color.lightness(); contrastRatio(fitted, background) < leastContrast;) {
     lightness = std::clamp(lightness + (isDark ? 2 : -2), 0, 255);
     fitted.setHsl(color.hslHue(), color.hslSaturation(), lightness);
     if (lightness == 0 || lightness == 255) break;

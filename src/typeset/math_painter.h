@@ -19,9 +19,6 @@ struct Ink {
   QColor background = Qt::white;
 };
 
-/// The ratio of contrast of two opaque colours as WCAG defines it, from 1 to 21.
-double contrast(const QColor& first, const QColor& second);
-
 /// `color` itself where it has a contrast of at least 4.5 to 1 against `background`, else the same hue
 /// lightened or darkened until it has. The one place where the colours of a working are fitted to the
 /// appearance.

@@ -6,10 +6,10 @@ cd "$(dirname "$0")/../.."
 # From below to above; rooms of one line use each other.
 rooms='number output
 charts
-typeset
 platform
 remote
 appearance
+typeset
 input solver
 charts/view
 exact
