@@ -49,7 +49,7 @@
     </message>
     <message id="Rate">
         <source>Rate</source>
-        <translation>Bewerten</translation>
+        <translation>Wie gefällt dir die App?</translation>
     </message>
     <message id="Send">
         <source>Send</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="Thanks">
         <source>Thanks</source>
-        <translation>Danke</translation>
+        <translation>Danke!</translation>
     </message>
     <message id="error">
         <source>error</source>
@@ -169,7 +169,9 @@
     </message>
     <message id="dsgvoYoutubeText">
         <source>dsgvoYoutubeText</source>
-        <translation>Die Videos kommen von YouTube. Wenn du eines ansiehst, erfährt YouTube deine Internetadresse und kann Daten auf deinem Gerät speichern. Möchtest du Videos hier sehen?</translation>
+        <translation>Die Videos kommen von YouTube, einem fremden Dienst. Wenn du zustimmst, werden sie von den Servern von YouTube geladen, sobald sie zu sehen sind. YouTube erfährt dabei deine Internetadresse, kann Daten auf deinem Gerät speichern und dich wiedererkennen, wenn du dort angemeldet bist.
+
+Vorher wird nichts geladen. Mit dem Schloss über den Videos kannst du deine Zustimmung jederzeit widerrufen; alles andere geht auch ohne Videos.</translation>
     </message>
     <message id="dsgvoTitlePro">
         <source>dsgvoTitlePro</source>
@@ -177,11 +179,13 @@
     </message>
     <message id="dsgvoTextPro">
         <source>dsgvoTextPro</source>
-        <translation>Alles, was du rechnest, bleibt auf diesem Gerät. Die App merkt sich ohne deinen Namen, welche Funktionen benutzt werden, damit sie besser werden kann. Bist du einverstanden?</translation>
+        <translation>Was du rechnest, bleibt auf diesem Gerät. Deine Aufgaben, deine Einstellungen und diese Antwort werden nur hier gespeichert.
+
+Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps aus dem Internet; über dich wird dabei nichts gesendet. Links öffnen sich in deinem Browser, und Videos kommen erst von YouTube, wenn du es erlaubt hast.</translation>
     </message>
     <message id="onboardingA">
         <source>onboardingA</source>
-        <translation>Willkommen! Hier lernst du Schritt für Schritt, wie man Potenzen und Wurzeln berechnet.</translation>
+        <translation>Willkommen bei §appname! Hier lernst du Schritt für Schritt, wie man Potenzen und Wurzeln berechnet.</translation>
     </message>
     <message id="onboardingB">
         <source>onboardingB</source>
@@ -193,11 +197,11 @@
     </message>
     <message id="onboardingD">
         <source>onboardingD</source>
-        <translation>Tippe auf den Haken, dann siehst du jeden Schritt der Lösung.</translation>
+        <translation>Tippe auf den Haken, dann siehst du jeden Schritt. Farben zeigen, was geschieht; lange Zeilen lassen sich seitwärts schieben.</translation>
     </message>
     <message id="onboardingE">
         <source>onboardingE</source>
-        <translation>Deine Aufgaben bleiben im Verlauf, und eine Lösung kannst du als Bild teilen.</translation>
+        <translation>Deine Aufgaben bleiben im Verlauf, den du im Menü findest. Der Teilen-Knopf macht aus einer Lösung ein Bild.</translation>
     </message>
     <message id="onboardingYoutube1">
         <source>onboardingYoutube1</source>
@@ -205,19 +209,19 @@
     </message>
     <message id="onboardingYoutube2">
         <source>onboardingYoutube2</source>
-        <translation>Die Videos unter einer Lösung passen zu deiner Aufgabe.</translation>
+        <translation>Die Videos unter einer Lösung erklären das gleiche Thema. Schiebe die Reihe seitwärts, um mehr zu sehen.</translation>
     </message>
     <message id="onboardingYoutube3">
         <source>onboardingYoutube3</source>
-        <translation>Sie kommen von YouTube, das Daten auf deinem Gerät speichern kann.</translation>
+        <translation>Sie kommen von YouTube. YouTube erfährt dabei deine Internetadresse und kann Daten auf deinem Gerät speichern.</translation>
     </message>
     <message id="onboardingYoutube4">
         <source>onboardingYoutube4</source>
-        <translation>Ohne deine Zustimmung wird nichts geladen.</translation>
+        <translation>Solange die Reihe gesperrt ist, wird von dort nichts geladen.</translation>
     </message>
     <message id="onboardingYoutube5">
         <source>onboardingYoutube5</source>
-        <translation>Im Menü kannst du dich jederzeit anders entscheiden.</translation>
+        <translation>Du kannst dich jederzeit anders entscheiden: Tippe auf das Schloss über den Videos.</translation>
     </message>
     <message id="introduction">
         <source>introduction</source>
@@ -434,6 +438,94 @@
     <message id="animateAgainButton">
         <source>animateAgainButton</source>
         <translation>Noch einmal abspielen</translation>
+    </message>
+    <message id="next">
+        <source>next</source>
+        <translation>Weiter</translation>
+    </message>
+    <message id="letsStart">
+        <source>letsStart</source>
+        <translation>Los geht's</translation>
+    </message>
+    <message id="pageOf">
+        <source>pageOf</source>
+        <translation>Seite %1 von %2</translation>
+    </message>
+    <message id="videoGuide">
+        <source>videoGuide</source>
+        <translation>Über die Videos</translation>
+    </message>
+    <message id="videoPrivacyLocked">
+        <source>videoPrivacyLocked</source>
+        <translation>Datenschutz der Videos: gesperrt</translation>
+    </message>
+    <message id="videoPrivacyOpen">
+        <source>videoPrivacyOpen</source>
+        <translation>Datenschutz der Videos: erlaubt</translation>
+    </message>
+    <message id="videoMissing">
+        <source>videoMissing</source>
+        <translation>Kein Video</translation>
+    </message>
+    <message id="videoCovered">
+        <source>videoCovered</source>
+        <translation>Video, noch nicht bereit</translation>
+    </message>
+    <message id="videoReady">
+        <source>videoReady</source>
+        <translation>Video</translation>
+    </message>
+    <message id="videoOutside">
+        <source>videoOutside</source>
+        <translation>Im Browser ansehen</translation>
+    </message>
+    <message id="ratingStars">
+        <source>ratingStars</source>
+        <translation>%1 von %2 Sternen</translation>
+    </message>
+    <message id="grabAdsDiscountForPercentage">
+        <source>grabAdsDiscountForPercentage</source>
+        <translation>§ Rabatt sichern</translation>
+    </message>
+    <message id="linkNotOpened">
+        <source>linkNotOpened</source>
+        <translation>Dieser Link lässt sich hier nicht öffnen.</translation>
+    </message>
+    <message id="manual1">
+        <source>manual1</source>
+        <translation>Wähle, ob du eine Potenz oder eine Wurzel willst.</translation>
+    </message>
+    <message id="manual2">
+        <source>manual2</source>
+        <translation>Die Basis, bei Wurzeln die Zahl unter dem Wurzelzeichen. Tippe auf ein Feld, um hineinzuschreiben.</translation>
+    </message>
+    <message id="manual3">
+        <source>manual3</source>
+        <translation>Der Exponent, bei Wurzeln der Wurzelexponent. Leer bedeutet er 2.</translation>
+    </message>
+    <message id="manual4">
+        <source>manual4</source>
+        <translation>Punkt, Bruchstrich und Buchstaben: Schreibe 0.5, 3/2, π oder x. Minus wechselt das Vorzeichen des Feldes.</translation>
+    </message>
+    <message id="manual5">
+        <source>manual5</source>
+        <translation>Links löschst du, der Haken startet die Rechnung.</translation>
+    </message>
+    <message id="manual6">
+        <source>manual6</source>
+        <translation>Die Lösung beginnt mit deiner Aufgabe. Zu lange Zeilen lassen sich seitwärts schieben.</translation>
+    </message>
+    <message id="manual7">
+        <source>manual7</source>
+        <translation>Rot: womit der nächste Schritt arbeitet. Blau und Violett: Zähler und Nenner eines Exponenten.</translation>
+    </message>
+    <message id="manual8">
+        <source>manual8</source>
+        <translation>Grün: was gerade ausgerechnet wurde.</translation>
+    </message>
+    <message id="manual9">
+        <source>manual9</source>
+        <translation>Das Ergebnis, zu erkennen am Balken links.</translation>
     </message>
     <message id="OK">
         <source>OK</source>

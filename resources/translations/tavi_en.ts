@@ -49,7 +49,7 @@
     </message>
     <message id="Rate">
         <source>Rate</source>
-        <translation>Rate</translation>
+        <translation>How do you like the app?</translation>
     </message>
     <message id="Send">
         <source>Send</source>
@@ -61,7 +61,7 @@
     </message>
     <message id="Thanks">
         <source>Thanks</source>
-        <translation>Thanks</translation>
+        <translation>Thank you!</translation>
     </message>
     <message id="error">
         <source>error</source>
@@ -169,7 +169,9 @@
     </message>
     <message id="dsgvoYoutubeText">
         <source>dsgvoYoutubeText</source>
-        <translation>The videos come from YouTube. When you watch one, YouTube learns your internet address and may store data on your device. Do you want to see videos here?</translation>
+        <translation>The videos come from YouTube, a service of others. If you accept, they are loaded from YouTube's servers as soon as they come into sight. YouTube then learns your internet address, can store data on your device and can recognise you if you are signed in there.
+
+Until then nothing is loaded. You can withdraw at any time with the lock over the videos, and everything else works without them.</translation>
     </message>
     <message id="dsgvoTitlePro">
         <source>dsgvoTitlePro</source>
@@ -177,47 +179,49 @@
     </message>
     <message id="dsgvoTextPro">
         <source>dsgvoTextPro</source>
-        <translation>Everything you calculate stays on this device. The app notes which functions are used, without your name, so that it can become better. Do you agree?</translation>
+        <translation>What you calculate stays on this device. Your tasks, your settings and this answer are stored here only.
+
+Where an address for it is set, the app fetches its list of videos and apps from the internet; nothing about you is sent along. Links open in your browser, and videos come from YouTube only after you have allowed it.</translation>
     </message>
     <message id="onboardingA">
         <source>onboardingA</source>
-        <translation>Welcome! Here you learn how powers and roots are worked out, one step at a time.</translation>
+        <translation>Welcome to §appname! Here you learn step by step how powers and roots are worked out.</translation>
     </message>
     <message id="onboardingB">
         <source>onboardingB</source>
-        <translation>Choose between power and root at the top.</translation>
+        <translation>At the top, choose between a power and a root.</translation>
     </message>
     <message id="onboardingC">
         <source>onboardingC</source>
-        <translation>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome too.</translation>
+        <translation>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome, too.</translation>
     </message>
     <message id="onboardingD">
         <source>onboardingD</source>
-        <translation>Tap the tick to see every step of the solution.</translation>
+        <translation>Tap the check mark, and you see every step. Colours show what happens; a long line scrolls sideways.</translation>
     </message>
     <message id="onboardingE">
         <source>onboardingE</source>
-        <translation>Your tasks stay in the history, and you can share a solution as a picture.</translation>
+        <translation>Your tasks stay in the history, which you find in the menu. The share button makes a picture of a working.</translation>
     </message>
     <message id="onboardingYoutube1">
         <source>onboardingYoutube1</source>
-        <translation>Some steps are easier to understand in a video.</translation>
+        <translation>Some steps are easier to understand with a video.</translation>
     </message>
     <message id="onboardingYoutube2">
         <source>onboardingYoutube2</source>
-        <translation>The videos below a solution fit the task you calculated.</translation>
+        <translation>The videos under a working explain the same topic. Push the row sideways to see more of them.</translation>
     </message>
     <message id="onboardingYoutube3">
         <source>onboardingYoutube3</source>
-        <translation>They come from YouTube, which may store data on your device.</translation>
+        <translation>They come from YouTube, which then learns your internet address and can store data on your device.</translation>
     </message>
     <message id="onboardingYoutube4">
         <source>onboardingYoutube4</source>
-        <translation>Nothing is loaded before you agree.</translation>
+        <translation>While the row is locked, nothing at all is loaded from there.</translation>
     </message>
     <message id="onboardingYoutube5">
         <source>onboardingYoutube5</source>
-        <translation>You can change your mind at any time in the menu.</translation>
+        <translation>You can change your mind at any time: tap the lock over the videos.</translation>
     </message>
     <message id="introduction">
         <source>introduction</source>
@@ -434,6 +438,94 @@
     <message id="animateAgainButton">
         <source>animateAgainButton</source>
         <translation>Play again</translation>
+    </message>
+    <message id="next">
+        <source>next</source>
+        <translation>Next</translation>
+    </message>
+    <message id="letsStart">
+        <source>letsStart</source>
+        <translation>Let's start</translation>
+    </message>
+    <message id="pageOf">
+        <source>pageOf</source>
+        <translation>Page %1 of %2</translation>
+    </message>
+    <message id="videoGuide">
+        <source>videoGuide</source>
+        <translation>About the videos</translation>
+    </message>
+    <message id="videoPrivacyLocked">
+        <source>videoPrivacyLocked</source>
+        <translation>Privacy of the videos: locked</translation>
+    </message>
+    <message id="videoPrivacyOpen">
+        <source>videoPrivacyOpen</source>
+        <translation>Privacy of the videos: allowed</translation>
+    </message>
+    <message id="videoMissing">
+        <source>videoMissing</source>
+        <translation>No video</translation>
+    </message>
+    <message id="videoCovered">
+        <source>videoCovered</source>
+        <translation>Video, not ready yet</translation>
+    </message>
+    <message id="videoReady">
+        <source>videoReady</source>
+        <translation>Video</translation>
+    </message>
+    <message id="videoOutside">
+        <source>videoOutside</source>
+        <translation>Watch in the browser</translation>
+    </message>
+    <message id="ratingStars">
+        <source>ratingStars</source>
+        <translation>%1 of %2 stars</translation>
+    </message>
+    <message id="grabAdsDiscountForPercentage">
+        <source>grabAdsDiscountForPercentage</source>
+        <translation>Get § off</translation>
+    </message>
+    <message id="linkNotOpened">
+        <source>linkNotOpened</source>
+        <translation>This link cannot be opened here.</translation>
+    </message>
+    <message id="manual1">
+        <source>manual1</source>
+        <translation>Choose whether you want a power or a root.</translation>
+    </message>
+    <message id="manual2">
+        <source>manual2</source>
+        <translation>The base; for a root, the number under the root sign. Tap a field to type into it.</translation>
+    </message>
+    <message id="manual3">
+        <source>manual3</source>
+        <translation>The exponent; for a root, its index. An empty index means 2.</translation>
+    </message>
+    <message id="manual4">
+        <source>manual4</source>
+        <translation>Point, slash and letters: type 0.5, 3/2, π or x. Minus changes the sign of the field.</translation>
+    </message>
+    <message id="manual5">
+        <source>manual5</source>
+        <translation>Delete on the left; the check mark starts the calculation.</translation>
+    </message>
+    <message id="manual6">
+        <source>manual6</source>
+        <translation>The working begins with your task. Rows that are too long scroll sideways.</translation>
+    </message>
+    <message id="manual7">
+        <source>manual7</source>
+        <translation>Red: what the next step works on. Blue and violet: numerator and denominator of an exponent.</translation>
+    </message>
+    <message id="manual8">
+        <source>manual8</source>
+        <translation>Green: what has just been worked out.</translation>
+    </message>
+    <message id="manual9">
+        <source>manual9</source>
+        <translation>The result, marked by the bar at its left.</translation>
     </message>
     <message id="OK">
         <source>OK</source>

@@ -16,5 +16,10 @@ QtObject {
     readonly property string clear: "\uf5e9"
     readonly property string trash: "\uf1c0"
     readonly property string remove: "\uf376"
+    readonly property string lock: "\uf33e"
+    readonly property string lockOpen: "\uf33f"
+    readonly property string play: "\uf40a"
+    readonly property string star: "\uf4ce"
+    readonly property string starOutline: "\uf4d2"
     readonly property string history: "\uf2da"
 }

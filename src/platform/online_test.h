@@ -14,9 +14,9 @@ class OnlineTest {
 
   static OnlineTest& shared();
 
-  /// Address to ask and how long to wait; the standard is a large public website and a minute.
+  /// Address to ask and how long to wait; the standard is a large public website and eight seconds.
   explicit OnlineTest(QUrl address = standardAddress(),
-                      std::chrono::milliseconds timeout = std::chrono::minutes(1),
+                      std::chrono::milliseconds timeout = std::chrono::seconds(8),
                       NetworkAccessFactory makeAccess = makeNetworkAccess);
 
   static QUrl standardAddress();

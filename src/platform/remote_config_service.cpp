@@ -33,7 +33,8 @@ RemoteConfigSettings RemoteConfigSettings::fromBundle(const ResourceBundle& bund
       bundle.data(QStringLiteral("ProjectSettings"), QStringLiteral("json")).value_or(QByteArray());
   const QJsonObject settings = QJsonDocument::fromJson(text).object();
   return {.endpoint = QUrl(settings[u"remoteConfigEndpoint"].toString(), QUrl::StrictMode),
-          .allowsLoopbackHttp = settings[u"allowsLoopbackHttp"].toBool()};
+          .allowsLoopbackHttp = settings[u"allowsLoopbackHttp"].toBool(),
+          .defaults = settings[u"remoteConfigDefaults"].toObject()};
 }
 
 RemoteConfigService& RemoteConfigService::shared() {
@@ -59,7 +60,10 @@ void RemoteConfigService::setMinimumFetchInterval(std::chrono::seconds interval)
 }
 
 QByteArray RemoteConfigService::dataValue(const QString& key) const {
-  return active_.value(key).toString().toUtf8();
+  if (active_.contains(key)) return active_.value(key).toString().toUtf8();
+  const QJsonObject standard = settings_.defaults[key].toObject();
+  return settings_.defaults.contains(key) ? QJsonDocument(standard).toJson(QJsonDocument::Compact)
+                                          : QByteArray();
 }
 
 void RemoteConfigService::fetch(std::chrono::seconds expiry, FetchCompletion completion) {

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QDateTime>
+#include <QJsonObject>
 #include <QObject>
 #include <QUrl>
 #include <QVariantMap>
@@ -27,6 +28,8 @@ struct RemoteConfigSettings {
   bool allowsLoopbackHttp = false;
   std::chrono::milliseconds timeout{30'000};  ///< For the whole fetch, redirects included.
   qint64 bodyLimit = 4LL * 1024 * 1024;       ///< Bytes.
+  QJsonObject defaults =
+      {};  ///< What a key reads as before anything was fetched, as JSON and not as its text.
 
   /// From "ProjectSettings.json" of the bundle; whatever is missing or misshapen there keeps its default.
   static RemoteConfigSettings fromBundle(const ResourceBundle& bundle);
@@ -55,7 +58,7 @@ class RemoteConfigService : public QObject {
   /// No fetch goes out earlier after the last one, whatever expiry is asked for.
   void setMinimumFetchInterval(std::chrono::seconds interval);
 
-  /// The active value of the key; empty for an unknown key.
+  /// The active value of the key, else its default; empty for an unknown key.
   virtual QByteArray dataValue(const QString& key) const;
 
   /// Fetches, unless the last successful fetch is younger than the expiry, which counts as success too. Calls

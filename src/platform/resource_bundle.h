@@ -23,6 +23,11 @@ class ResourceBundle {
   /// The whole content of the file; absent if there is none or it cannot be read.
   std::optional<QByteArray> data(const QString& name, const QString& extension) const;
 
+  /// The drawing of that name, as SVG; absent if there is none.
+  std::optional<QByteArray> picture(const QString& name) const {
+    return data(QStringLiteral("pictures/") + name, QStringLiteral("svg"));
+  }
+
  private:
   QString root_;
 };

@@ -12,6 +12,7 @@
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "remote/analytics_events.h"
+#include "remote/manual/manual_view_controller.h"
 #include "shell/frame/is_calculating.h"
 #include "shell/frame/page_tab_bar_controller.h"
 #include "shell/frame/toolbar_controller.h"
@@ -159,6 +160,7 @@ void CalculateViewController::buildToolbar() {
 void CalculateViewController::viewDidAppear() {
   AdHandlingViewController::viewDidAppear();
   if (currentTextField && currentTextField->isFirstResponder()) currentTextField->forceActiveFocus();
+  emit appeared();
 }
 
 // The snapshot from which the next instance of this page is filled.
@@ -339,7 +341,7 @@ void CalculateViewController::clearAll() {
 }
 
 void CalculateViewController::showManual() {
-  emit manualRequested("qrx_info");
+  ManualViewController::show(*this, QStringLiteral("qrx_info"));
 }
 
 }  // namespace tavi

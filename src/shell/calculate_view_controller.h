@@ -89,7 +89,7 @@ class CalculateViewController : public AdHandlingViewController {
   /// Adds a task to the history. Fewer texts than identifiers are a fatal stop.
   void recordCalculation(const std::vector<std::string>& texts, const std::string& latex);
 
-  /// Asks for the page that explains this one.
+  /// Shows what explains this page.
   void showManual();
 
   /// False where the minus key would be a fatal stop; the keypad then switches the key off.
@@ -116,7 +116,8 @@ class CalculateViewController : public AdHandlingViewController {
   void loaded();
   void bottomBannerInsetChanged();
   void caretChanged();
-  void manualRequested(const QString& imageName);
+  /// The page has come on the screen, as it does at each visit.
+  void appeared();
 
  protected:
   void viewDidLoad() override;

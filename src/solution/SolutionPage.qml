@@ -57,6 +57,8 @@ Rectangle {
                 VideoRow {
                     width: table.width
                     viewWidth: page.width
+                    measures: page.controller.measures
+                    videos: page.controller.videos
                 }
             }
         }

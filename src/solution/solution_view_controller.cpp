@@ -10,6 +10,7 @@
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "remote/analytics_events.h"
+#include "remote/manual/manual_view_controller.h"
 #include "shell/frame/alert_controller.h"
 #include "shell/frame/detached_task.h"
 #include "shell/frame/page_tab_bar_controller.h"
@@ -24,8 +25,12 @@
 namespace tavi {
 
 SolutionViewController::SolutionViewController(const RemoteConfigManager& remoteConfig,
-                                               NotificationCenter& notifications)
-    : remoteConfig_(remoteConfig), notifications_(notifications) {
+                                               NotificationCenter& notifications,
+                                               PreferenceStore& preferences, const ProjectSettings& settings,
+                                               const Links& links)
+    : remoteConfig_(remoteConfig),
+      notifications_(notifications),
+      videos_(*this, preferences, settings, links) {
   updateTabItem();
 }
 
@@ -93,10 +98,18 @@ QCoro::Task<> SolutionViewController::share() {
   if (self) self->presentShareSheet(*items);
 }
 
+std::vector<SolutionRow> SolutionViewController::picturedRows() const {
+  std::vector<SolutionRow> rows = table_.rows();
+  for (SolutionRow& row : rows)
+    if (auto* videos = std::get_if<VideoCollectionTableViewCell>(&row.content))
+      videos->isLocked = videos_.isLocked();
+  return rows;
+}
+
 PicturedTable SolutionViewController::picturedTable() {
   const double viewWidth = view() ? view()->width() : 0;
   PicturedTable table{.width = tableView_ ? tableView_->width() : viewWidth, .sections = {{}}};
-  for (const SolutionRow& row : table_.rows())
+  for (const SolutionRow& row : picturedRows())
     table.sections.front().rows.emplace_back(
         [row, viewWidth] { return makePainter(row, RowTarget{.viewWidth = viewWidth}); });
   return table;
@@ -110,7 +123,7 @@ QString SolutionViewController::subject() const {
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
   if (items.images.empty() || (isCovered() && !items.isMessageRead)) return;
   auto sheet = std::make_shared<ShareSheetController>(
-      SharedWorking{items.images.front(), table_.rows(), view() ? view()->width() : 0, subject()});
+      SharedWorking{items.images.front(), picturedRows(), view() ? view()->width() : 0, subject()});
   if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
 }
@@ -133,7 +146,7 @@ void SolutionViewController::copyRow(int row, RowCopy::Form form) {
 }
 
 void SolutionViewController::manualButtonPressed() {
-  if (manualImageName_ && !manualImageName_->isEmpty()) emit manualRequested(*manualImageName_);
+  if (manualImageName_ && !manualImageName_->isEmpty()) ManualViewController::show(*this, *manualImageName_);
 }
 
 void SolutionViewController::viewDidLoad() {

@@ -10,6 +10,7 @@
 
 #include "platform/notification_center.h"
 #include "remote/remote_config_manager.h"
+#include "remote/videos/video_row_controller.h"
 #include "shell/frame/view_controller.h"
 #include "solution/rows/row_measures.h"
 #include "solution/rows/solution_table_data.h"
@@ -29,6 +30,7 @@ class SolutionViewController : public AdHandlingViewController {
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(QAbstractItemModel* table READ table CONSTANT)
   Q_PROPERTY(tavi::RowMeasures measures READ measures CONSTANT)
+  Q_PROPERTY(tavi::VideoRowController* videos READ videos CONSTANT)
   Q_PROPERTY(bool isShareButtonHidden READ isShareButtonHidden NOTIFY layoutChanged)
   Q_PROPERTY(bool isManualButtonHidden READ isManualButtonHidden NOTIFY layoutChanged)
   Q_PROPERTY(bool hasFooter READ hasFooter NOTIFY layoutChanged)
@@ -41,7 +43,13 @@ class SolutionViewController : public AdHandlingViewController {
   using RowHeights = SolutionTableData::RowHeights;
 
   explicit SolutionViewController(const RemoteConfigManager& remoteConfig = RemoteConfigManager::shared(),
-                                  NotificationCenter& notifications = NotificationCenter::shared());
+                                  NotificationCenter& notifications = NotificationCenter::shared(),
+                                  PreferenceStore& preferences = PreferenceStore::standard(),
+                                  const ProjectSettings& settings = ProjectSettings::shared(),
+                                  const Links& links = Links::shared());
+
+  /// The view goes first: its row of videos looks at what belongs to this object.
+  ~SolutionViewController() override { setView({}); }
 
   /// Fills the solution page of the tabs (page 1) and opens it; nothing without tabs or steps. Fewer than two
   /// pages is a fatal stop, and so are steps without a list of charts. A step has the height configured for
@@ -60,6 +68,7 @@ class SolutionViewController : public AdHandlingViewController {
 
   SolutionTable* table() { return &table_; }
   static RowMeasures measures() { return rowMeasures; }
+  VideoRowController* videos() { return &videos_; }
   bool isShareButtonHidden() const { return isShareButtonHidden_; }
   bool isManualButtonHidden() const { return isManualButtonHidden_; }
   bool hasFooter() const { return hasFooter_; }  ///< A quarter of the table's height, empty.
@@ -77,7 +86,6 @@ class SolutionViewController : public AdHandlingViewController {
   void scrollToTopRequested();
   /// A new solution is on the screen.
   void solutionShown();
-  void manualRequested(const QString& imageName);
 
  protected:
   void viewDidLoad() override;
@@ -85,6 +93,7 @@ class SolutionViewController : public AdHandlingViewController {
   void viewWillAppear() override;
 
  private:
+  /// What the message before a share sheet and the capture behind it share.
   /// What the message before a share sheet and the capture behind it share.
   struct ShareItems {
     std::vector<QImage> images;
@@ -94,6 +103,8 @@ class SolutionViewController : public AdHandlingViewController {
   void updateTabItem();
   void scrollToTop();
   QCoro::Task<> share();
+  /// The rows as they stand: the lock of the videos is not among what they hold.
+  std::vector<SolutionRow> picturedRows() const;
   PicturedTable picturedTable();
   /// The task in words.
   QString subject() const;
@@ -106,6 +117,7 @@ class SolutionViewController : public AdHandlingViewController {
   std::optional<QString> manualImageName_;
 
   SolutionTable table_;
+  VideoRowController videos_;
   bool isShareButtonHidden_ = true;
   bool isManualButtonHidden_ = true;
   bool hasFooter_ = false;

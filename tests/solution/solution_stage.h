@@ -60,10 +60,11 @@ class SolutionStage : public testing::Test {
   RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};
   RemoteConfigManager remoteConfigManager{remoteConfig};
   NotificationCenter notifications;
+  PreferenceStore preferences{folder.filePath("preferences.sqlite")};
   QQmlEngine engine;
   QQuickWindow window;
   std::shared_ptr<SolutionViewController> solution =
-      std::make_shared<SolutionViewController>(remoteConfigManager, notifications);
+      std::make_shared<SolutionViewController>(remoteConfigManager, notifications, preferences);
   std::shared_ptr<AppPageTabBarController> tabs = std::make_shared<AppPageTabBarController>(
       std::vector<std::shared_ptr<ViewController>>{std::make_shared<ViewController>(), solution});
   std::shared_ptr<AppToolbarController> root = std::make_shared<AppToolbarController>(tabs);

@@ -10,7 +10,9 @@
 
 #include "appearance/appearance.h"
 #include "number/fatal_stop.h"
+#include "platform/preferences.h"
 #include "tour/measure.h"
+#include "tour/sample_records.h"
 #include "tour/tour.h"
 
 namespace tavi::tour {
@@ -125,6 +127,9 @@ bool goThrough(const Options& options, Application& application) {
     if (isWanted) {
       isFound = true;
       Appearance::shared().force(visit.isDark);
+      storeSampleRecords();
+      for (const auto* answered : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted})
+        PreferenceStore::standard().setValue(*answered, !visit.isFirstStart);
       Stage stage(application);
       stage.resize(visit.size);
       isPassed = run(visit, options, stage);

@@ -13,6 +13,7 @@
 #include <utility>
 #include <vector>
 
+#include "platform/preferences.h"
 #include "shell/calc_manager.h"
 #include "shell/history/history_table_view_cell.h"
 #include "tour/stage.h"
@@ -230,6 +231,8 @@ bool measure() {
 
 int probe(int argumentCount, char** arguments) {
   Application application(argumentCount, arguments);
+  for (const auto* answered : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted})
+    PreferenceStore::standard().setValue(*answered, true);
   Stage stage(application);
   tell(firstFrame, 0);
 

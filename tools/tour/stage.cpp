@@ -105,6 +105,14 @@ void Stage::scrollWideLine() {
   if (line->property("contentX").toReal() <= 0) throw Failure("the wide line does not scroll");
 }
 
+void Stage::clearTheView() {
+  delegate().drawer()->dismissPresented();
+  delegate().drawer()->closeLeftView();
+  waitUntil([this] { return delegate().drawer()->presentedController() == nullptr; },
+            "nothing lies over the pages");
+  picture();
+}
+
 void Stage::openHistory() {
   delegate().drawer()->dismissPresented();
   delegate().leftViewController()->didSelectRow(LeftViewController::mainSection, 1);

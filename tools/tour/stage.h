@@ -52,6 +52,9 @@ class Stage {
   /// Draws a finger to the left over the first formula that is wider than the page.
   void scrollWideLine();
 
+  /// Takes away whatever lies over the pages.
+  void clearTheView();
+
   /// Puts the history in the place of the pages.
   void openHistory();
 

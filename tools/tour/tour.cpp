@@ -61,13 +61,6 @@ void openDrawer(Stage& stage) {
   waitUntil([&stage] { return stage.shows(QStringLiteral("menuRow 3 0")); }, "all of the menu is open");
 }
 
-void introduction(Stage& stage) {
-  openDrawer(stage);
-  stage.picture();
-  stage.tap(QStringLiteral("menuRow 0 2"));
-  waitUntil([&stage] { return stage.shows(QStringLiteral("sheet")); }, "the introduction is open");
-}
-
 void fillHistory() {
   constexpr auto tasks = std::to_array<std::pair<int, const char*>>(
       {{0, "\\frac{3}{2}^{-2}"},
@@ -146,6 +139,8 @@ void typingAt(Stage& stage) {
 
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
+constexpr QSize narrow{360, 640};
+constexpr QSize low{800, 360};
 
 constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"02-power", power},
@@ -158,22 +153,19 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"16-history", history},
                                                  {"17-edit-history", editHistory},
                                                  {"18-clear-history", clearHistory},
-                                                 {"19-empty-history", emptyHistory},
-                                                 {"25-introduction", introduction}});
+                                                 {"19-empty-history", emptyHistory}});
 constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"10-dark-solution", power},
                                                 {"11-dark-missing-value", missingValue},
                                                 {"12-dark-drawer", openDrawer},
                                                 {"20-dark-history", history},
                                                 {"21-dark-edit-history", editHistory},
-                                                {"22-dark-empty-history", emptyHistory},
-                                                {"26-dark-introduction", introduction}});
+                                                {"22-dark-empty-history", emptyHistory}});
 constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
                                                   {"14-tablet-solution", manySteps},
                                                   {"15-tablet-drawer", openDrawer},
                                                   {"23-tablet-history", history},
-                                                  {"24-tablet-edit-history", editHistory},
-                                                  {"27-tablet-introduction", introduction}});
+                                                  {"24-tablet-edit-history", editHistory}});
 constexpr auto shareSteps = std::to_array<Step>({{"28-share", shareManySteps}});
 constexpr auto darkShareSteps = std::to_array<Step>({{"29-dark-share", shareWideLine}});
 constexpr auto tabletShareSteps = std::to_array<Step>({{"30-tablet-share", shareNoSolution}});
@@ -190,6 +182,45 @@ constexpr auto darkSizeSteps =
                          {"40-dark-input-800x360", typingAt<Mode::power, 800, 360>},
                          {"41-dark-input-1280x800", typingAt<Mode::root, 1280, 800>},
                          {"42-dark-input-412x870", typingAt<Mode::power, 412, 870>}});
+constexpr auto startSteps = std::to_array<Step>({{"51-first-consent", firstConsent},
+                                                 {"52-introduction-1", introductionPage1},
+                                                 {"53-introduction-2", introductionPage2},
+                                                 {"54-introduction-3", introductionPage3},
+                                                 {"55-introduction-4", introductionPage4},
+                                                 {"56-introduction-5", introductionPage5}});
+constexpr auto aroundSteps = std::to_array<Step>({{"57-manual", inputManual},
+                                                  {"58-locked-videos", lockedVideos},
+                                                  {"59-video-consent", videoConsent},
+                                                  {"60-video-guide", videoGuide},
+                                                  {"61-ready-videos", readyVideos},
+                                                  {"62-unknown-video", unknownVideo},
+                                                  {"63-advertisement", advertisement},
+                                                  {"64-rating", rating}});
+constexpr auto darkAroundSteps = std::to_array<Step>({{"65-dark-introduction", menuIntroduction},
+                                                      {"66-dark-manual", solutionManual},
+                                                      {"67-dark-locked-videos", lockedVideos},
+                                                      {"68-dark-video-guide", videoGuide},
+                                                      {"69-dark-ready-videos", readyVideos},
+                                                      {"70-dark-advertisement", advertisement},
+                                                      {"71-dark-rating", rating}});
+constexpr auto tabletAroundSteps = std::to_array<Step>({{"72-tablet-introduction", menuIntroduction},
+                                                        {"73-tablet-manual", inputManual},
+                                                        {"74-tablet-locked-videos", lockedVideos},
+                                                        {"75-tablet-video-guide", videoGuide},
+                                                        {"76-tablet-ready-videos", readyVideos},
+                                                        {"77-tablet-advertisement", advertisement},
+                                                        {"78-tablet-rating", rating}});
+constexpr auto narrowSteps = std::to_array<Step>({{"79-narrow-introduction", menuIntroduction},
+                                                  {"80-narrow-manual", inputManual},
+                                                  {"81-narrow-videos", lockedVideos},
+                                                  {"82-narrow-video-consent", videoConsent},
+                                                  {"83-narrow-rating", rating}});
+constexpr auto lowSteps = std::to_array<Step>({{"84-low-introduction", menuIntroduction},
+                                               {"85-low-manual", inputManual},
+                                               {"86-low-videos", lockedVideos},
+                                               {"87-low-video-consent", videoConsent},
+                                               {"88-low-advertisement", advertisement},
+                                               {"89-low-rating", rating}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps},
@@ -197,7 +228,13 @@ constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps
                                               {"dark-share", phone, true, darkShareSteps},
                                               {"sizes", phone, false, sizeSteps},
                                               {"dark-sizes", phone, true, darkSizeSteps},
-                                              {"tablet-share", tablet, false, tabletShareSteps}});
+                                              {"tablet-share", tablet, false, tabletShareSteps},
+                                              {"start", phone, false, startSteps, true},
+                                              {"around", phone, false, aroundSteps},
+                                              {"dark-around", phone, true, darkAroundSteps},
+                                              {"tablet-around", tablet, false, tabletAroundSteps},
+                                              {"narrow-around", narrow, false, narrowSteps},
+                                              {"low-around", low, false, lowSteps}});
 
 }  // namespace
 

@@ -19,8 +19,27 @@ struct Visit {
   QSize size;  ///< Of the window, in device-independent pixels.
   bool isDark;
   std::span<const Step> steps;
+  bool isFirstStart = false;  ///< Nothing was answered before.
 };
 
 std::span<const Visit> allVisits();
+
+// Stations around the calculation.
+void firstConsent(Stage& stage);
+void introductionPage1(Stage& stage);
+void introductionPage2(Stage& stage);
+void introductionPage3(Stage& stage);
+void introductionPage4(Stage& stage);
+void introductionPage5(Stage& stage);
+void menuIntroduction(Stage& stage);
+void inputManual(Stage& stage);
+void solutionManual(Stage& stage);
+void lockedVideos(Stage& stage);
+void videoConsent(Stage& stage);
+void videoGuide(Stage& stage);
+void readyVideos(Stage& stage);
+void unknownVideo(Stage& stage);
+void advertisement(Stage& stage);
+void rating(Stage& stage);
 
 }  // namespace tavi::tour

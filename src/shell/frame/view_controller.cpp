@@ -14,6 +14,7 @@
 #include "platform/localization.h"
 #include "shell/frame/alert_controller.h"
 #include "shell/frame/page_loader.h"
+#include "shell/frame/view_manager.h"
 
 namespace tavi {
 
@@ -143,7 +144,9 @@ void ViewController::setUpTabItem(const QString& title, bool isEnabled) {
 
 void ViewController::runWhenOnline(std::function<void()> action, std::function<void()> failureAction,
                                    const OnlineTest& test) {
+  ViewManager::showSpinner();
   test.run(this, [this, action = std::move(action), failureAction = std::move(failureAction)](bool isOnline) {
+    ViewManager::hideSpinner();
     if (isOnline) return action();
     std::vector<AlertAction> actions;
     if (failureAction) actions.push_back({localized("OK"), failureAction});

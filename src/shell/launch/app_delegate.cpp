@@ -7,6 +7,8 @@
 #include "platform/localization.h"
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
+#include "remote/consent/dsgvo_manager.h"
+#include "remote/introduction/onboarding_manager.h"
 #include "shell/frame/page_loader.h"
 #include "shell/frame/window_messages.h"
 
@@ -31,7 +33,11 @@ void sayLaterThatNothingIsKept() {
 }  // namespace
 
 AppDelegate::AppDelegate(QQmlEngine& engine, const AppServices& services)
-    : engine_(engine), services_(services) {}
+    : engine_(engine), services_(services) {
+  if (!services_.rating)
+    services_.rating = std::make_shared<RatingViewController>(
+        services_.userDefaults, services_.onlineTest, [this] { leftViewController()->openRatingPage(); });
+}
 
 AppDelegate::~AppDelegate() = default;
 
@@ -71,17 +77,28 @@ void AppDelegate::openWindow() {
   drawer_->endAppearance();
 }
 
-/// Introduction and consent have no pages yet: what would call for them is read, and nothing is shown.
+/// The introduction until it was seen to its end, and over it, or over the pages, the privacy text until it
+/// was accepted.
 void AppDelegate::presentFirstRun() {
-  const bool needsOnboarding = !services_.userDefaults.value(preferences::isOnboardingFinished);
-  const bool needsConsent = !services_.userDefaults.value(preferences::isDsgvoAccepted);
-  std::ignore = needsOnboarding || needsConsent;
+  PreferenceStore& store = services_.userDefaults;
+  std::shared_ptr<ViewController> top = drawer_;
+  if (!store.value(preferences::isOnboardingFinished)) {
+    const auto onboarding = OnboardingManager::introduction(store);
+    onboarding->setPresentationStyle(ViewController::PresentationStyle::OverFullScreen);
+    onboarding->presentFrom(*drawer_, false);
+    top = onboarding;
+  }
+  if (!store.value(preferences::isDsgvoAccepted)) DsgvoManager::showConsent(*top, store);
 }
 
 const std::shared_ptr<CalculateViewController>& AppDelegate::calculateViewController() {
-  if (!calculateViewController_)
+  if (!calculateViewController_) {
     build(calculateViewController_, engine_, "shell/CalculatePage.qml", services_.calcManager,
           services_.notifications);
+    CalculateViewController* page = calculateViewController_.get();
+    connect(page, &CalculateViewController::appeared, page,
+            [page, rating = services_.rating] { rating->presentIfNeeded(*page); });
+  }
   return calculateViewController_;
 }
 
@@ -97,7 +114,7 @@ const std::shared_ptr<LeftViewController>& AppDelegate::leftViewController() {
 const std::shared_ptr<SolutionViewController>& AppDelegate::solutionViewController() {
   if (!solutionViewController_)
     build(solutionViewController_, engine_, "solution/SolutionPage.qml", services_.remoteConfigManager,
-          services_.notifications);
+          services_.notifications, services_.userDefaults, services_.settings, services_.links);
   return solutionViewController_;
 }
 

@@ -7,9 +7,11 @@
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "remote/analytics_events.h"
+#include "remote/consent/dsgvo_manager.h"
+#include "remote/introduction/onboarding_manager.h"
 #include "shell/frame/alert_controller.h"
+#include "shell/frame/link_opening.h"
 #include "shell/frame/navigation_drawer_controller.h"
-#include "shell/frame/sheet_controller.h"
 #include "shell/frame/toolbar_controller.h"
 
 namespace tavi {
@@ -17,6 +19,13 @@ namespace tavi {
 namespace {
 
 constexpr auto headerKeys = std::to_array<const char*>({nullptr, "Visit us:", "All in one:", "Other apps:"});
+
+constexpr int communityRow = 0;
+
+/// The record that is built in has none.
+bool isRatingPageKnown(const AppMetaData& app) {
+  return !app.ratingURLPro.isEmpty();
+}
 
 QUrl addressOf(const QString& text) {
   return {text, QUrl::StrictMode};
@@ -104,9 +113,19 @@ void LeftViewController::reloadTable() {
   QList<MenuTable::Row> rows;
   for (int section = 0; section < numberOfSections(); ++section) {
     int rowInSection = 0;
-    for (const QString& title : rowTitles(section)) rows.append({section, rowInSection++, title});
+    for (const QString& title : rowTitles(section)) {
+      if (isShown(section, rowInSection)) rows.append({section, rowInSection, title});
+      ++rowInSection;
+    }
   }
   table_.reload(std::move(rows));
+}
+
+bool LeftViewController::isShown(int section, int row) {
+  if (section != contactSection) return true;
+  if (row == communityRow) return services_.settings.communityLink.isValid();
+  const std::optional<AppMetaData>& app = services_.remoteConfigManager.currentApp();
+  return app && isRatingPageKnown(*app);
 }
 
 QStringList LeftViewController::titles(std::span<const Row> rows) {
@@ -156,27 +175,24 @@ void LeftViewController::openHistory() {
 }
 
 void LeftViewController::showIntroduction() {
-  presentSheet("introduction");
+  const auto introduction = OnboardingManager::introduction(services_.userDefaults);
+  introduction->setPresentationStyle(PresentationStyle::FormSheet);
+  introduction->presentFrom(*this, true);
 }
 
 void LeftViewController::showPrivacyPolicy() {
-  presentSheet("privacyPolicy");
-}
-
-void LeftViewController::presentSheet(const char* titleKey) {
-  auto sheet = std::make_shared<SheetController>(localized(titleKey));
-  if (engine()) sheet->setPage(*engine(), QStringLiteral("shell/frame/SheetPage.qml"));
-  present(std::move(sheet));
+  DsgvoManager::showConsent(*this, services_.userDefaults);
 }
 
 void LeftViewController::openCommunity() {
-  services_.links.open(addressOf(communityLink));
+  const QUrl& link = services_.settings.communityLink;
+  if (link.isValid()) openOrSay(services_.links, link);
 }
 
 void LeftViewController::openRatingPage() {
   const std::optional<AppMetaData>& app = services_.remoteConfigManager.currentApp();
   if (!app) return presentAlert(localized("noInternet"), std::nullopt, {}, AlertStyle::alert);
-  if (!openIfPossible(app->ratingURLPro)) return;
+  if (!isRatingPageKnown(*app) || !openIfPossible(app->ratingURLPro)) return;
   const QString name = required(englishName(*app), "the application has no English name");
   Analytics::logEvent(events::tappedRatingInMenu, QVariantMap{{QStringLiteral("taviApp"), name}});
 }
@@ -184,7 +200,8 @@ void LeftViewController::openRatingPage() {
 void LeftViewController::openApp(std::span<const AppMetaData> apps, int row) const {
   const AppMetaData& app = elementAt(apps, static_cast<std::size_t>(row));
   const bool isInstalled = openIfPossible(app.appURLPro) || openIfPossible(app.appURL);
-  if (!isInstalled) services_.links.open(addressOf(app.storeURLPro));
+  const QUrl store = addressOf(app.storeURLPro);
+  if (!isInstalled && store.isValid()) openOrSay(services_.links, store);
   Analytics::logEvent(events::tappedAppLink,
                       QVariantMap{{QStringLiteral("has_app"), isInstalled},
                                   {QStringLiteral("taviApp"), englishName(app).value_or(QString())}});
@@ -194,7 +211,7 @@ bool LeftViewController::openIfPossible(const QString& text) const {
   const QUrl address = addressOf(text);
   if (!address.isValid()) fatalStop("a record's link is no address");
   if (!services_.links.canOpen(address)) return false;
-  services_.links.open(address);
+  openOrSay(services_.links, address);
   return true;
 }
 

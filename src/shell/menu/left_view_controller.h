@@ -22,9 +22,6 @@ class LeftViewController : public ViewController {
  public:
   enum Section { mainSection, contactSection, multiAppsSection, singleAppsSection };
 
-  /// The invitation to the community's chat.
-  static constexpr QLatin1StringView communityLink{"https://community.example.org/tavi"};
-
   using MakeScreen = std::function<std::shared_ptr<ViewController>()>;
 
   /// Screens that rows lead to, made anew at each tap.
@@ -44,8 +41,8 @@ class LeftViewController : public ViewController {
   void didUpdateMenu();
 
   /// Opens this application's page in its store and reports that. Says that there is no network if the
-  /// record of this application is missing. A record without an English name or with a link that is no
-  /// address is a fatal stop.
+  /// record of this application is missing, and does nothing if that knows no such page. A record without an
+  /// English name or with a link that is no address is a fatal stop.
   void openRatingPage();
 
   // What the page calls.
@@ -75,12 +72,13 @@ class LeftViewController : public ViewController {
   static QStringList titles(std::span<const Row> rows);
   QStringList names(const QList<AppMetaData>& apps) const;
   void reloadTable();
+  /// A row that leads to an address is there only while that is known.
+  bool isShown(int section, int row);
 
   void rebuildRoot();
   void openHistory();
   void showIntroduction();
   void showPrivacyPolicy();
-  void presentSheet(const char* titleKey);
   void openCommunity();
   void openApp(std::span<const AppMetaData> apps, int row) const;
   bool openIfPossible(const QString& text) const;

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <algorithm>
 
 namespace tavi {
 
@@ -8,6 +9,7 @@ namespace tavi {
 /// device-independent pixels.
 struct RowMeasures {
   Q_GADGET
+  Q_PROPERTY(double pageMargin MEMBER pageMargin CONSTANT)
   Q_PROPERTY(double edge MEMBER edge CONSTANT)
   Q_PROPERTY(double padding MEMBER padding CONSTANT)
   Q_PROPERTY(double gap MEMBER gap CONSTANT)
@@ -31,6 +33,12 @@ struct RowMeasures {
 
   /// The em of the formulas on a page of that width.
   Q_INVOKABLE double formulaSize(double viewWidth) const { return viewWidth >= tabletWidth ? 24 : 20; }
+
+  /// The card of a row of videos in a row of that height and a table of that height. Videos need no more,
+  /// however wide the window and so high the row is.
+  Q_INVOKABLE double videoCardHeight(double rowHeight, double tableHeight) const {
+    return std::min(rowHeight - pageMargin, std::clamp(tableHeight - 2 * pageMargin, 260.0, 440.0));
+  }
 
   /// Pages from this width on are laid out as a tablet's.
   static constexpr double tabletWidth = 840;

@@ -11,16 +11,18 @@ namespace tavi {
 /// The row of tutorial videos.
 struct VideoCollectionTableViewCell {
   Q_GADGET
+  Q_PROPERTY(QStringList videoUrlStringArray MEMBER videoUrlStringArray)
 
  public:
   static constexpr const char* kind = "video";
 
   QStringList videoUrlStringArray;
+  bool isLocked = true;  ///< How a picture of the row shows it.
 
   bool operator==(const VideoCollectionTableViewCell&) const = default;
 };
 
-/// Without players there is nothing to be seen of the row.
+/// The row with no player in it: locked, or with its videos covered.
 std::unique_ptr<RowPainter> makePainter(const VideoCollectionTableViewCell& row);
 
 /// As high as the first window is wide at the first use, and from then on fixed. Without a window: fatal

@@ -46,7 +46,8 @@ void FrameStage::open(QQuickItem* holder) {
   auto menu = made<LeftViewController>(
       *engine_, "shell/menu/LeftPage.qml", LeftViewController::Screens(),
       AppServices{services.remoteConfig, services.remoteConfigManager, services.calcManager,
-                  services.preferences, services.notifications, services.links});
+                  services.preferences, services.notifications, services.links, OnlineTest::shared(),
+                  ApplicationContext::current, services.settings});
   drawer_ = made<AppNavigationDrawerController>(
       *engine_, "shell/frame/DrawerPage.qml",
       made<AppToolbarController>(*engine_, "shell/frame/ToolbarPage.qml", tabs_),

@@ -49,13 +49,16 @@ class FrameStage : public QObject {
   void qmlEngineAvailable(QQmlEngine* engine);
 
  private:
-  /// What the menu works with: stores of its own, the built-in list of applications, links that go nowhere.
+  /// What the menu works with: stores of its own, a list of applications, links that go nowhere.
   struct Services {
     QTemporaryDir folder;
     PreferenceStore preferences{folder.filePath("preferences.sqlite")};
     CalcManager calcManager{preferences};
     RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};
-    RemoteConfigManager remoteConfigManager{remoteConfig};
+    ResourceBundle records{QStringLiteral(TAVI_SOURCE_DIR "/tests/qml/frame")};
+    RemoteConfigManager remoteConfigManager{remoteConfig, NotificationCenter::shared(), records};
+    ProjectSettings settings{
+        .communityLink = QUrl("https://community.example.org/tavi"), .videoHost = {}, .videoPlayer = {}};
     NotificationCenter notifications;
     Links links;
   };

@@ -1,4 +1,5 @@
 #include "output/catalogues.h"
+#include "remote/introduction/onboard_view_controller.h"
 #include "shell/launch/launch_fixture.h"
 
 namespace tavi {
@@ -15,14 +16,39 @@ TEST_F(LaunchTest, OpensTheInputPageWithTheSampleTaskInTheHistory) {
   EXPECT_FALSE(TaviFormulaUnit::shared().units.empty()) << "the engine finds the catalogues";
 }
 
-TEST_F(LaunchTest, ShowsNothingOverThePagesWhateverTheFirstRunFlagsSay) {
-  for (const bool isDone : {false, true}) {
-    preferences.setValue("isOnboardingFinished", isDone);
-    preferences.setValue("isDsgvoAccepted", isDone);
+TEST_F(LaunchTest, ShowsTheIntroductionAndThePrivacyTextUntilEachIsDone) {
+  const struct {
+    bool isOnboardingFinished;
+    bool isDsgvoAccepted;
+    const char* shown;  ///< From below to above.
+  } cases[] = {{false, false, "introduction alert"},
+               {false, true, "introduction"},
+               {true, false, "alert"},
+               {true, true, ""}};
+  for (const auto& [isFinished, isAccepted, shown] : cases) {
+    preferences.setValue("isOnboardingFinished", isFinished);
+    preferences.setValue("isDsgvoAccepted", isAccepted);
     launch();
-    EXPECT_EQ(delegate->drawer()->presentedController(), nullptr);
+    QCoreApplication::processEvents();
+    QStringList over;
+    for (const ViewController* each = delegate->drawer()->presentedController(); each;
+         each = each->presentedController())
+      over.append(qobject_cast<const OnboardViewController*>(each) ? "introduction" : "alert");
+    EXPECT_EQ(over.join(' ').toStdString(), shown);
     delegate.reset();
+    QCoreApplication::processEvents();
   }
+}
+
+TEST_F(LaunchTest, AsksForARatingOnTheFifthVisitOfTheInputPage) {
+  preferences.setValue("isOnboardingFinished", true);
+  preferences.setValue("isDsgvoAccepted", true);
+  preferences.setValue("counterForRating", 2);
+  launch();
+  EXPECT_EQ(preferences.variant("counterForRating"), 1);
+  delegate->leftViewController()->didSelectRow(LeftViewController::mainSection, 0);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(qobject_cast<RatingViewController*>(delegate->drawer()->presentedController()));
 }
 
 TEST_F(LaunchTest, BuildsEachControllerOnce) {

@@ -10,9 +10,9 @@
 #include "platform/analytics.h"
 #include "platform/localization.h"
 #include "platform/test_support.h"
+#include "remote/introduction/onboard_view_controller.h"
 #include "shell/frame/alert_controller.h"
 #include "shell/frame/recording_controller.h"
-#include "shell/frame/sheet_controller.h"
 #include "shell/launch/app_delegate.h"
 
 namespace tavi {
@@ -73,7 +73,7 @@ class SideMenuTest : public testing::Test {
         LeftViewController::Screens{.makeRoot = [this] { return page("fresh"); },
                                     .makeHistory = [this] { return page("history"); }},
         AppServices{remoteConfig, remoteConfigManager, calcManager, preferences, notifications, links,
-                    onlineTest, [this] { return context; }});
+                    onlineTest, [this] { return context; }, settings});
     toolbar = std::make_shared<AppToolbarController>(page("pages"));
     drawer = std::make_shared<AppNavigationDrawerController>(toolbar,
                                                              std::make_shared<MenuToolbarController>(menu));
@@ -115,6 +115,8 @@ class SideMenuTest : public testing::Test {
   QStringList opened;
   ApplicationContext context{.identifier = "org.example.own", .languageCode = "de"};
 
+  ProjectSettings settings{
+      .communityLink = QUrl("https://community.example.org/tavi"), .videoHost = {}, .videoPlayer = {}};
   QTemporaryDir folder;
   LoopbackServer server{[this](const QByteArray&, QTcpSocket& socket) {
     const QByteArray apps = QJsonDocument(QJsonObject{{"apps", records_}}).toJson();
@@ -199,11 +201,11 @@ TEST_F(SideMenuTest, RefreshesOnlyWhileItIsOnTheScreen) {
   EXPECT_EQ(appRows(), "none") << "before it was ever open";
   drawer->setLeftViewOpened(true);
   EXPECT_EQ(appRows(), "none") << "opening it reads nothing";
-  EXPECT_EQ(menu->table()->rowCount(), 6);
+  EXPECT_EQ(menu->table()->rowCount(), 5);
 
   notifications.post(NotificationCenter::applicationDidBecomeActive);
   EXPECT_EQ(appRows(), "all | sums");
-  EXPECT_EQ(menu->table()->rowCount(), 8) << "the table follows its lists";
+  EXPECT_EQ(menu->table()->rowCount(), 7) << "the table follows its lists";
   fetch(lines);
   EXPECT_EQ(appRows(), "all | lines");
 
@@ -243,26 +245,46 @@ TEST_F(SideMenuTest, WithoutADrawerOnlyTheHistoryRowIsAFatalStop) {
   EXPECT_THROW(alone.didSelectRow(Section::mainSection, 1), FatalStop);
 }
 
-TEST_F(SideMenuTest, ThePageRowsPresentASheetOverTheWindow) {
+TEST_F(SideMenuTest, ThePageRowsPresentIntroductionAndPrivacyTextOverTheOpenMenu) {
   makeMenu();
   drawer->setLeftViewOpened(true);
-  const std::pair<const char*, const char*> sheets[] = {{"tapped_onboarding", "introduction"},
-                                                        {"tapped_privacy_policy", "privacyPolicy"}};
-  int row = 2;
-  for (const auto& [event, title] : sheets) {
-    menu->didSelectRow(Section::mainSection, row++);
-    EXPECT_EQ(takeEvents(), QStringList(event));
-    auto* sheet = qobject_cast<SheetController*>(drawer->presentedController());
-    ASSERT_TRUE(sheet);
-    EXPECT_EQ(sheet->title(), localized(title));
-    sheet->dismiss();
-    EXPECT_EQ(drawer->presentedController(), nullptr);
-    EXPECT_TRUE(drawer->isLeftViewOpened());
-  }
+  menu->didSelectRow(Section::mainSection, 2);
+  EXPECT_EQ(takeEvents(), QStringList("tapped_onboarding"));
+  auto* introduction = qobject_cast<OnboardViewController*>(drawer->presentedController());
+  ASSERT_TRUE(introduction);
+  EXPECT_EQ(introduction->presentationStyle(), ViewController::PresentationStyle::FormSheet);
+  for (int page = 0; page < 5; ++page) introduction->advance();
+  EXPECT_EQ(preferences.variant("isOnboardingFinished"), true);
+
+  menu->didSelectRow(Section::mainSection, 3);
+  EXPECT_EQ(takeEvents(), QStringList("tapped_privacy_policy"));
+  ASSERT_TRUE(waitUntil([this] { return alert() != nullptr; }));
+  EXPECT_EQ(alert()->title(), localized("dsgvoTitlePro"));
+  EXPECT_TRUE(drawer->isLeftViewOpened());
+}
+
+TEST_F(SideMenuTest, AContactRowIsThereOnlyWhileItsAddressIsKnown) {
+  fetch({app("own")});
+  const auto rows = [this] {
+    makeMenu().view();
+    return menu->table()->rowCount() - 4;
+  };
+  EXPECT_EQ(rows(), 2);
+  settings.communityLink = QUrl();
+  EXPECT_EQ(rows(), 1);
+  fetch({app("own", {{"ratingURLPro", ""}})});
+  RemoteConfigManager fresh(remoteConfig, notifications, bundle, [this] { return context; });
+  fresh.reload();
+  LeftViewController alone({}, {remoteConfig, fresh, calcManager, preferences, notifications, links, online,
+                                [this] { return context; }, settings});
+  alone.view();
+  EXPECT_EQ(alone.table()->rowCount(), 4) << "a record without a rating page";
+  alone.openRatingPage();
+  EXPECT_TRUE(opened.isEmpty());
 }
 
 TEST_F(SideMenuTest, TheContactRowsReportTheTapAndThenWaitForTheNetwork) {
-  const QString community = LeftViewController::communityLink;
+  const QString community = settings.communityLink.toString();
   const QString rating = "https://store.example.org/own-pro/reviews";
   openable = {community, rating};
   fetch({app("own")});
@@ -308,8 +330,7 @@ TEST_F(SideMenuTest, TheRatingPageNeedsTheOwnRecordAndALinkThatOpens) {
 TEST_F(SideMenuTest, ADefectiveOwnRecordEndsInTheRatingPage) {
   const QString anywhere = "https://store.example.org/";
   openable = {anywhere};
-  const QJsonObject defects[] = {{{"ratingURLPro", ""}},
-                                 {{"ratingURLPro", "not an address"}},
+  const QJsonObject defects[] = {{{"ratingURLPro", "not an address"}},
                                  {{"ratingURLPro", anywhere}, {"appName", QJsonObject{{"de", "Eigene"}}}}};
   for (const QJsonObject& defect : defects) {
     fetch({app("own", defect)});

@@ -1,0 +1,122 @@
+import QtQuick
+import QtQuick.Templates as T
+import Tavi
+
+// One video: covered until its player is ready. Without a player a tap opens it in the browser; a link to no video
+// stays an empty tile.
+Item {
+    id: tile
+
+    required property VideoRowController controller
+    required property string link
+    property bool isInSight: false
+    readonly property bool isVideo: controller.isVideo(link)
+    readonly property bool isPlaying: isVideo && isInSight && !controller.isLocked
+    readonly property Component playerComponent: isPlaying ? controller.player() : null
+    readonly property bool isReady: player.item !== null && player.item.isReady
+    readonly property bool opensOutside: isPlaying && (playerComponent === null || isGivenUp)
+    property bool isGivenUp: false
+
+    objectName: "videoTile"
+    Accessible.role: Accessible.Grouping
+    Accessible.name: qsTrId(!isVideo ? "videoMissing" : isReady ? "videoReady" : "videoCovered")
+    Accessible.ignored: opensOutside
+    onIsPlayingChanged: isGivenUp = false
+
+    View.kind: View.Plain
+    Component.onCompleted: controller.applyFloatingShadow(tile)
+
+    Shadow {
+        anchors.fill: parent
+        anchors.margins: -extent
+        cornerRadius: 12
+        shadow: tile.View.shadow
+    }
+    Rectangle {
+        anchors.fill: parent
+        radius: 12
+        color: Theme.background
+    }
+    Loader {
+        id: player
+
+        anchors.fill: parent
+        anchors.margins: 6
+        active: tile.playerComponent !== null && !tile.isGivenUp
+        sourceComponent: tile.playerComponent
+        onLoaded: item.play(tile.controller.page(tile.link), tile.controller.pageAddress())
+    }
+    Connections {
+        target: player.item
+        ignoreUnknownSignals: true
+        function onIsFailedChanged() {
+            tile.isGivenUp = true;
+        }
+    }
+    // A web view whose engine is missing says nothing at all.
+    Timer {
+        interval: 15000
+        running: player.active && !tile.isReady
+        onTriggered: tile.isGivenUp = true
+    }
+
+    T.AbstractButton {
+        id: coveringView
+
+        objectName: "coveringView"
+        anchors.fill: parent
+        visible: !tile.isReady
+        enabled: tile.opensOutside
+        hoverEnabled: false
+        text: qsTrId("videoOutside")
+        Accessible.role: Accessible.Button
+        Accessible.name: text
+        Accessible.ignored: !tile.opensOutside
+        Keys.onReturnPressed: click()
+        onClicked: tile.controller.openOutside(tile.link)
+
+        background: Rectangle {
+            radius: 12
+            color: coveringView.down ? Qt.darker(Theme.page, 1.1) : Theme.page
+        }
+        contentItem: Item {
+            Rectangle {
+                anchors.centerIn: parent
+                width: 64
+                height: 64
+                radius: 32
+                visible: tile.isVideo
+                color: tile.opensOutside ? Theme.pink : "transparent"
+                border.width: 2
+                border.color: tile.opensOutside ? Theme.pink : Theme.secondaryGray
+
+                Icon {
+                    anchors.centerIn: parent
+                    size: 36
+                    text: Icons.play
+                    color: tile.opensOutside ? Theme.darkTitle : Theme.secondaryGray
+                }
+            }
+            Text {
+                anchors.bottom: parent.bottom
+                anchors.bottomMargin: 14
+                width: parent.width
+                visible: tile.opensOutside
+                text: coveringView.text
+                font: Theme.book(14)
+                color: Theme.label
+                wrapMode: Text.Wrap
+                leftPadding: 8
+                rightPadding: 8
+                horizontalAlignment: Text.AlignHCenter
+                Accessible.ignored: true
+            }
+        }
+
+        FocusRing {
+            control: coveringView
+            ground: Theme.page
+            radius: 12
+        }
+    }
+}
