@@ -26,11 +26,15 @@ MathFont& sharedFont() {
   return font;
 }
 
+}  // namespace
+
 std::string translatedPhrase(const Phrase& phrase) {
   const std::string id(phrase.key);
   const QString translated = qtTrId(id.c_str());
   return translated == QLatin1String(id) ? englishPhrase(phrase) : translated.toStdString();
 }
+
+namespace {
 
 QString spoken(const List& line) {
   return QString::fromStdString(spokenMath(line, translatedPhrase));

@@ -10,10 +10,14 @@
 
 #include "typeset/math_font.h"
 #include "typeset/math_painter.h"
+#include "typeset/spoken_math.h"
 
 namespace tavi::typeset {
 
 class MathSlice;
+
+/// The phrase in the language of the installed translations.
+std::string translatedPhrase(const Phrase& phrase);
 
 /// A line of LaTeX in words, in the language of the installed translations.
 QString spokenText(const QString& latex);
