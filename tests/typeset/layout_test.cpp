@@ -89,37 +89,5 @@ TEST(Layout, AnEmptyLineIsNothing) {
   EXPECT_TRUE(layout.glyphs.empty());
 }
 
-// The bar of a root goes on where its sign ends, and a bar of a fraction stands on the axis of the fences
-// around it.
-TEST(Layout, BarsMeetTheirSigns) {
-  for (const std::string_view radicand :
-       {"2", "x^{2}", "\\frac{1}{2}", "\\frac{\\frac{1}{2}}{\\frac{\\frac{3}{4}}{5}}"}) {
-    SCOPED_TRACE(radicand);
-    const Layout layout = set("\\sqrt{" + std::string(radicand) + "}");
-    const auto& bar = layout.rules.back();
-    double signEnd = 0;
-    double signTop = 0;
-    for (const Glyph& glyph : layout.glyphs) {
-      if (glyph.codePoint != U'√') continue;
-      for (const auto& shape : testFont().verticalShapes(U'√').variants) {
-        if (shape.id != glyph.id) continue;
-        signEnd = glyph.x + shape.width * glyph.size;
-        signTop = std::max(signTop, glyph.y + shape.height * glyph.size);
-      }
-    }
-    if (signEnd == 0) continue;  // an assembly, whose pieces are no variants
-    EXPECT_NEAR(bar.x, signEnd, 1e-9);
-    EXPECT_NEAR(bar.y + bar.height, signTop, 1e-9);
-  }
-}
-
-TEST(Layout, ADeepLineIsSet) {
-  std::string latex = "2";
-  for (int depth = 0; depth < 150; ++depth) latex = "\\sqrt[3]{\\left(" + latex + "\\right)}";
-  const Layout layout = set(latex);
-  EXPECT_TRUE(layout.error.has_value());
-  EXPECT_GT(layout.width, 0);
-}
-
 }  // namespace
 }  // namespace tavi::typeset

@@ -98,22 +98,6 @@ INSTANTIATE_TEST_SUITE_P(
         Golden{"error", "2+\\foo^{3}中"}),
     [](const auto& test) { return std::string(test.param.name); });
 
-TEST(GoldenTolerance, CatchesABarMovedByHalfAPixel) {
-  const Layout layout = typeset("\\frac{\\sqrt{2}}{3}", testFont(), goldenSize);
-  for (std::size_t moved = 0; moved < layout.rules.size(); ++moved) {
-    Layout other = layout;
-    other.rules[moved].y += 0.5;
-    const auto drawn = [](const Layout& shown) {
-      QImage image(60, 120, QImage::Format_RGB32);
-      image.fill(Qt::white);
-      QPainter painter(&image);
-      MathPicture(shown).paint(painter, {8, 80}, {});
-      return image;
-    };
-    EXPECT_GT(differingShare(drawn(layout), drawn(other)), goldenTolerance);
-  }
-}
-
 // A figure covers a pixel as much as that one of its pieces does which covers it most.
 TEST(MathPicture, TheOutlineOfAFigureIsThatOfItsPieces) {
   const Ink ink;
