@@ -125,11 +125,23 @@
     </message>
     <message id="historyDelete">
         <source>historyDelete</source>
-        <translation>Löschen</translation>
+        <translation>%0 löschen</translation>
     </message>
-    <message id="historyMove">
-        <source>historyMove</source>
-        <translation>Verschieben</translation>
+    <message id="historyDeleted">
+        <source>historyDeleted</source>
+        <translation>Aufgabe gelöscht</translation>
+    </message>
+    <message id="historyCleared">
+        <source>historyCleared</source>
+        <translation>Verlauf gelöscht</translation>
+    </message>
+    <message id="Undo">
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message id="historyMoved">
+        <source>historyMoved</source>
+        <translation>Verschoben auf %0 von %1</translation>
     </message>
     <message id="historyEmpty">
         <source>historyEmpty</source>

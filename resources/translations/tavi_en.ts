@@ -125,11 +125,23 @@
     </message>
     <message id="historyDelete">
         <source>historyDelete</source>
-        <translation>Delete</translation>
+        <translation>Delete %0</translation>
     </message>
-    <message id="historyMove">
-        <source>historyMove</source>
-        <translation>Move</translation>
+    <message id="historyDeleted">
+        <source>historyDeleted</source>
+        <translation>Calculation deleted</translation>
+    </message>
+    <message id="historyCleared">
+        <source>historyCleared</source>
+        <translation>History deleted</translation>
+    </message>
+    <message id="Undo">
+        <source>Undo</source>
+        <translation>Undo</translation>
+    </message>
+    <message id="historyMoved">
+        <source>historyMoved</source>
+        <translation>Moved to %0 of %1</translation>
     </message>
     <message id="historyEmpty">
         <source>historyEmpty</source>

@@ -25,7 +25,10 @@ QObject* accessibleOf(const QObject& object) {
 /// The nearest items below that are part of the tree.
 void appendParts(const Item& item, QList<QAccessibleInterface*>& parts) {
   for (Item* child : item.childItems()) {
-    if (auto* part = QAccessible::queryAccessibleInterface(child))
+    const QObject* accessible = accessibleOf(*child);
+    const bool isIgnored = accessible && accessible->property("ignored").toBool();
+    auto* part = isIgnored ? nullptr : QAccessible::queryAccessibleInterface(child);
+    if (part)
       parts.append(part);
     else
       appendParts(*child, parts);

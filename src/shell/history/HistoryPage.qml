@@ -24,28 +24,38 @@ Rectangle {
 
         // The list takes changes in at the next frame; the next key may come before that.
         function removeRow(row) {
-            if (row < 0 || !page.controller.canEditRow(row))
+            if (!page.controller.canEditRow(row))
                 return;
             page.controller.commitEditingStyle(HistoryTableViewController.Delete, row);
             forceLayout();
         }
 
-        function moveCurrent(way) {
-            const to = currentIndex + way;
-            if (!page.controller.isEditing || currentIndex < 0 || to < 0 || to >= count || !page.controller.canMoveRow(currentIndex))
+        function goTo(row) {
+            currentIndex = Math.max(0, Math.min(count - 1, row));
+            positionViewAtIndex(currentIndex, ListView.Contain);
+        }
+
+        // What a key does to the current row, if that is in sight; if not, the key only brings it there.
+        function onCurrent(action) {
+            const middle = currentItem ? currentItem.y + currentItem.height / 2 - contentY : -1;
+            if (0 <= middle && middle < height)
+                action(currentIndex);
+            if (count > 0)
+                goTo(currentIndex);
+        }
+
+        function moveRow(row, way) {
+            const to = row + way;
+            if (!page.controller.isEditing || to < 0 || to >= count || !page.controller.canMoveRow(row))
                 return;
-            page.controller.moveRow(currentIndex, to);
+            page.controller.moveRow(row, to);
             forceLayout();
+            moved.say(to);
         }
 
-        function select() {
-            if (!page.controller.isEditing && currentIndex >= 0)
-                page.controller.didSelectRow(currentIndex);
-        }
-
-        function scrollCurrent(way) {
-            if (currentItem)
-                currentItem.scrollBy(way);
+        function select(row) {
+            if (!page.controller.isEditing)
+                page.controller.didSelectRow(row);
         }
 
         objectName: "historyTable"
@@ -57,12 +67,13 @@ Rectangle {
         clip: true
         model: page.controller.table
         boundsBehavior: Flickable.StopAtBounds
+        highlightMoveDuration: 0
         activeFocusOnTab: count > 0
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("History")
         onMovementStarted: closeOpenRow()
         onActiveFocusChanged: if (activeFocus && currentIndex < 0 && count > 0)
-            currentIndex = 0
+            goTo(0)
 
         delegate: HistoryRow {
             controller: page.controller
@@ -98,10 +109,10 @@ Rectangle {
             }
         }
 
-        Keys.onReturnPressed: select()
-        Keys.onEnterPressed: select()
-        Keys.onSpacePressed: select()
-        Keys.onDeletePressed: removeRow(currentIndex)
+        Keys.onReturnPressed: onCurrent(select)
+        Keys.onEnterPressed: onCurrent(select)
+        Keys.onSpacePressed: onCurrent(select)
+        Keys.onDeletePressed: onCurrent(removeRow)
         Keys.onPressed: event => {
             const page = Math.max(1, Math.floor(height / 72) - 1);
             const isMoving = event.modifiers & Qt.AltModifier;
@@ -118,12 +129,41 @@ Rectangle {
                 return;
             event.accepted = true;
             if (isMoving)
-                moveCurrent(way);
+                onCurrent(row => moveRow(row, way));
             else
-                currentIndex = Math.max(0, Math.min(count - 1, currentIndex + way));
+                goTo(currentIndex + way);
         }
-        Keys.onLeftPressed: scrollCurrent(-48)
-        Keys.onRightPressed: scrollCurrent(48)
+        Keys.onLeftPressed: onCurrent(() => currentItem.scrollBy(-48))
+        Keys.onRightPressed: onCurrent(() => currentItem.scrollBy(48))
+    }
+
+    // Where a row has gone that was moved by key, for those who do not see it.
+    Item {
+        id: moved
+
+        property string words
+
+        function say(row) {
+            words = qsTrId("historyMoved").arg(row + 1).arg(list.count);
+            ViewManager.announce(moved);
+        }
+
+        objectName: "movedRow"
+        Accessible.role: Accessible.AlertMessage
+        Accessible.name: words
+        Accessible.ignored: !words
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Cancel]
+        enabled: page.controller.isEditing
+        onActivated: page.controller.handleEditButton()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Undo]
+        enabled: ViewManager.toastActionTitle === qsTrId("Undo")
+        onActivated: ViewManager.chooseToastAction()
     }
 
     ScrollThumb {
@@ -137,6 +177,10 @@ Rectangle {
         target: page.controller
         function onIsEditingChanged() {
             list.closeOpenRow();
+        }
+        function onRowRestored(row) {
+            list.forceLayout();
+            list.goTo(row);
         }
     }
 

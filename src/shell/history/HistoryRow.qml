@@ -49,6 +49,10 @@ HistoryTableViewCell {
     }
 
     mathLabel: formula
+    Accessible.role: Accessible.ListItem
+    Accessible.name: row.text
+    Accessible.focusable: true
+    Accessible.onPressAction: row.clicked()
     width: ListView.view.width
     height: Math.max(72, formula.implicitHeight + 12)
     opacity: isLifted ? 0 : 1
@@ -91,7 +95,7 @@ HistoryTableViewCell {
         visible: content.x > 0
         opacity: content.x / content.editX
         focusPolicy: Qt.NoFocus
-        text: qsTrId("historyDelete")
+        text: deleteButton.text
         iconText: Icons.remove
         tintColor: Theme.red
         onClicked: cell.table.openRow === cell ? cell.close() : cell.open()
@@ -152,10 +156,7 @@ HistoryTableViewCell {
             height: content.height
             focusPolicy: Qt.NoFocus
             text: formula.spokenText || qsTrId("historyUntitled")
-            Accessible.role: Accessible.ListItem
-            Accessible.name: text
-            Accessible.focusable: true
-            Accessible.focused: ring.visible
+            Accessible.ignored: true // The cell says it, so that what belongs to the row lies in it.
             onClicked: {
                 if (cell.table.openRow)
                     cell.table.closeOpenRow();
@@ -182,7 +183,7 @@ HistoryTableViewCell {
             }
         }
 
-        T.AbstractButton {
+        Pressable {
             id: deleteButton
 
             objectName: "deleteButton"
@@ -191,10 +192,8 @@ HistoryTableViewCell {
             width: 72
             height: 52
             focusPolicy: Qt.NoFocus
-            text: qsTrId("historyDelete")
+            text: qsTrId("historyDelete").arg(row.text)
             enabled: content.contentX > content.formulaEndX
-            Accessible.role: Accessible.Button
-            Accessible.name: text
             Accessible.ignored: !enabled
             onClicked: cell.table.removeRow(cell.index)
             background: Rectangle {
@@ -229,8 +228,6 @@ HistoryTableViewCell {
     }
 
     FocusRing {
-        id: ring
-
         anchors.margins: 3
         radius: 8
         visible: cell.table.activeFocus && cell.ListView.isCurrentItem

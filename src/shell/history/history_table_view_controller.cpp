@@ -11,15 +11,21 @@
 #include "shell/frame/alert_controller.h"
 #include "shell/frame/navigation_drawer_controller.h"
 #include "shell/frame/toolbar_controller.h"
+#include "shell/frame/view_manager.h"
 
 namespace tavi {
 
-HistoryTableViewController::HistoryTableViewController(CalcManager& store, RootFactory makeRoot)
-    : store_(store), makeRoot_(std::move(makeRoot)) {}
+HistoryTableViewController::HistoryTableViewController(CalcManager& store, RootFactory makeRoot,
+                                                       NotificationCenter& notifications)
+    : store_(store), notifications_(notifications), makeRoot_(std::move(makeRoot)) {}
 
 void HistoryTableViewController::viewDidLoad() {
   ViewController::viewDidLoad();
   table_.reload(numberOfRowsInSection(0));
+  // By a page of an earlier visit; this one shows its own at once.
+  notifications_.observe(didRestoreCalculations, this, [this] {
+    if (const int rows = numberOfRowsInSection(0); rows != table_.rowCount()) table_.reload(rows);
+  });
   editButton = makeButton("Edit", "edit", &HistoryTableViewController::handleEditButton);
   clearAllButton = makeButton("Clear History", "clear", &HistoryTableViewController::handleClearAllButton);
 }
@@ -72,8 +78,9 @@ void HistoryTableViewController::moveRow(int from, int to) {
 void HistoryTableViewController::commitEditingStyle(EditingStyle style, int row) {
   if (style != EditingStyle::Delete) return;
   Analytics::logEvent(events::tappedHistoryDeleteSingleCalc);
-  store_.removeCalculation(row);
+  const RemovedCalculations removed = store_.removeCalculation(row);
   table_.remove(row);
+  offerUndo(localized("historyDeleted"), removed);
 }
 
 void HistoryTableViewController::didSelectRow(int row) {
@@ -115,8 +122,23 @@ void HistoryTableViewController::handleClearAllButton() {
 void HistoryTableViewController::clear() {
   Analytics::logEvent(events::tappedHistoryClear,
                       QVariantMap{{QStringLiteral("calc_count"), qlonglong{store_.calculations().size()}}});
-  store_.clearCalculations();
+  const RemovedCalculations removed = store_.clearCalculations();
   table_.reload(numberOfRowsInSection(0));
+  if (!removed.isEmpty()) offerUndo(localized("historyCleared"), removed);
+}
+
+void HistoryTableViewController::offerUndo(const QString& text, const RemovedCalculations& removed) {
+  const auto undo = [page = QPointer(this), &store = store_, &notifications = notifications_, removed] {
+    const auto row = static_cast<int>(store.restoreCalculations(removed));
+    if (page && removed.size() == 1) page->showRestored(row);
+    notifications.post(didRestoreCalculations);
+  };
+  ViewManager::showToast(text, {localized("Undo"), undo});
+}
+
+void HistoryTableViewController::showRestored(int row) {
+  table_.insert(row);
+  emit rowRestored(row);
 }
 
 }  // namespace tavi

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "platform/notification_center.h"
 #include "shell/calc_manager.h"
 #include "shell/frame/toolbar.h"
 #include "shell/frame/view_controller.h"
@@ -30,7 +31,11 @@ class HistoryTableViewController : public ViewController {
   /// Makes fresh pages that take the place of everything under the drawer.
   using RootFactory = std::function<std::shared_ptr<ViewController>()>;
 
-  HistoryTableViewController(CalcManager& store, RootFactory makeRoot);
+  /// Posted when something was put back into the history.
+  static constexpr QLatin1StringView didRestoreCalculations{"didRestoreCalculations"};
+
+  HistoryTableViewController(CalcManager& store, RootFactory makeRoot,
+                             NotificationCenter& notifications = NotificationCenter::shared());
 
   TableRows* table() { return &table_; }
   bool isEditing() const { return isEditing_; }
@@ -47,7 +52,7 @@ class HistoryTableViewController : public ViewController {
   /// Exchanges the records of the two rows; the table shows the row moved.
   Q_INVOKABLE void moveRow(int from, int to);
 
-  /// Deletes the row; any other style does nothing.
+  /// Deletes the row and offers to undo that; any other style does nothing.
   Q_INVOKABLE void commitEditingStyle(tavi::HistoryTableViewController::EditingStyle style, int row);
 
   /// Picks the record for reopening and, if there is a drawer, opens fresh pages, which take it.
@@ -56,7 +61,7 @@ class HistoryTableViewController : public ViewController {
   /// Opens fresh pages with whatever they find; nothing without a drawer.
   Q_INVOKABLE void openCalculatePage();
 
-  void handleEditButton();
+  Q_INVOKABLE void handleEditButton();
   void handleClearAllButton();
 
   std::shared_ptr<ToolbarButton> editButton;
@@ -66,6 +71,7 @@ class HistoryTableViewController : public ViewController {
   void isEditingChanged();
   /// The cell of the row, if it is in view, is to be filled anew.
   void rowReloaded(int row);
+  void rowRestored(int row);
 
  protected:
   void viewDidLoad() override;
@@ -77,8 +83,11 @@ class HistoryTableViewController : public ViewController {
 
   std::shared_ptr<ToolbarButton> makeButton(const char* title, const char* icon, Handler handler);
   void clear();
+  void offerUndo(const QString& text, const RemovedCalculations& removed);
+  void showRestored(int row);
 
   CalcManager& store_;
+  NotificationCenter& notifications_;
   RootFactory makeRoot_;
   TableRows table_;
   bool isEditing_ = false;

@@ -10,6 +10,13 @@ void TableRows::reload(int rows) {
   endResetModel();
 }
 
+void TableRows::insert(int row) {
+  if (row != rows_) requireRow(row);
+  beginInsertRows({}, row, row);
+  ++rows_;
+  endInsertRows();
+}
+
 void TableRows::remove(int row) {
   requireRow(row);
   beginRemoveRows({}, row, row);

@@ -13,8 +13,9 @@ class TableRows : public QAbstractListModel {
   /// Makes all rows anew.
   void reload(int rows);
 
-  /// Takes one row away or moves it to where it shall stand afterwards. The cells of the others stay as they
-  /// are. A row outside the table is a fatal stop.
+  /// Puts one row in, takes one away or moves it to where it shall stand afterwards. The cells of the others
+  /// stay as they are. A row outside the table is a fatal stop.
+  void insert(int row);
   void remove(int row);
   void move(int from, int to);
 

@@ -134,7 +134,8 @@ const std::shared_ptr<AppToolbarController>& AppDelegate::appToolbarController()
 
 std::shared_ptr<HistoryTableViewController> AppDelegate::makeHistoryTableViewController() {
   std::shared_ptr<HistoryTableViewController> history;
-  build(history, engine_, "shell/history/HistoryPage.qml", services_.calcManager, rootFactory());
+  build(history, engine_, "shell/history/HistoryPage.qml", services_.calcManager, rootFactory(),
+        services_.notifications);
   return history;
 }
 

@@ -1,6 +1,8 @@
 #include "history_stage.h"
 
+#include <QAccessible>
 #include <QGuiApplication>
+#include <QMetaEnum>
 #include <QQmlContext>
 #include <QStyleHints>
 #include <algorithm>
@@ -10,17 +12,31 @@
 
 #include "platform/localization.h"
 #include "shell/frame/controller_host.h"
+#include "shell/frame/view_manager.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
 namespace tavi {
 
+namespace {
+
+QStringList linesOf(const QAccessibleInterface& item) {
+  const QMetaEnum roles = QMetaEnum::fromType<QAccessible::Role>();
+  QStringList lines{roles.valueToKey(item.role()) + QStringLiteral(" ") + item.text(QAccessible::Name)};
+  for (int i = 0; i < item.childCount(); ++i)
+    if (!item.child(i)->state().invisible) lines += linesOf(*item.child(i));
+  return lines;
+}
+
+}  // namespace
+
 void HistoryStage::open(QQuickItem* holder, const QStringList& tasks) {
-  const auto emptyPage = [this] {
+  const auto emptyPage = [] {
     auto page = std::make_shared<ViewController>();
-    page->setPage(*engine_, "shell/menu/LeftPage.qml");
+    page->setView(std::make_unique<QQuickItem>());
     return page;
   };
+  ViewManager::hideToast();
   store_.setCurrentSelectedCalculation(std::nullopt);
   QVariantList records;
   for (const QString& latex : tasks) records.append(Calculation({}, latex, {}, {}).properties());
@@ -46,6 +62,10 @@ void HistoryStage::close() {
   drawer_.reset();
   toolbar_.reset();
   history_.reset();
+}
+
+QStringList HistoryStage::told(QObject* item) {
+  return linesOf(*QAccessible::queryAccessibleInterface(item));
 }
 
 QStringList HistoryStage::stored() const {

@@ -27,6 +27,9 @@ class HistoryStage : public QObject {
   Q_INVOKABLE void open(QQuickItem* holder, const QStringList& tasks);
   Q_INVOKABLE void close();
 
+  /// What assistive technology is told of the item and of all below it, a line each: role and name.
+  Q_INVOKABLE static QStringList told(QObject* item);
+
   QStringList stored() const;
   QString picked() const;
   bool isEditing() const { return history_->isEditing(); }

@@ -8,6 +8,7 @@
 #include "platform/localization.h"
 #include "shell/frame/alert_controller.h"
 #include "shell/frame/recording_controller.h"
+#include "shell/frame/view_manager.h"
 #include "shell/launch/launch_fixture.h"
 
 namespace tavi {
@@ -109,6 +110,16 @@ TEST_F(HistoryScreenTest, DeletesARowForGood) {
   EXPECT_FALSE(Analytics::recentEvents().back().parameters);
 }
 
+TEST_F(HistoryScreenTest, OffersToUndoWhatItDeletes) {
+  history->commitEditingStyle(EditingStyle::Delete, 1);
+  EXPECT_EQ(ViewManager::shared().toastActionTitle(), localized("Undo"));
+  store.addCalculation(task("D"));
+  ViewManager::chooseToastAction();
+  EXPECT_EQ(stored(), QStringList({"D", "A", "B", "C"}));
+  ViewManager::chooseToastAction();
+  EXPECT_EQ(store.calculations().size(), 4) << "once";
+}
+
 TEST_F(HistoryScreenTest, EndsTheProcessAtARowThatIsNotThere) {
   EXPECT_THROW(history->commitEditingStyle(EditingStyle::Delete, 3), FatalStop);
   EXPECT_THROW(history->moveRow(0, 3), FatalStop);
@@ -151,6 +162,8 @@ TEST_F(HistoryScreenTest, ClearsAndReportsHowMuch) {
     EXPECT_EQ(Analytics::recentEvents().back().parameters, (QVariantMap{{"calc_count", qlonglong{count}}}));
     EXPECT_EQ(history->table()->rowCount(), 0);
     EXPECT_EQ(stored(), QStringList());
+    EXPECT_EQ(ViewManager::shared().toastActionTitle(), count > 0 ? localized("Undo") : QString());
+    ViewManager::hideToast();
   }
 }
 
@@ -243,6 +256,18 @@ TEST_F(HistoryVisitTest, ShowsTheStoresOrderAtTheNextVisit) {
     shown.append(cell->mathLabel->latex());
   }
   EXPECT_EQ(shown, QStringList({"C", "B", "A"}));
+}
+
+TEST_F(HistoryVisitTest, AnUndoOfTheLastVisitIsSeenByThisOne) {
+  launch();
+  visit();
+  history->commitEditingStyle(EditingStyle::Delete, 0);
+  visit();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(history->table()->rowCount(), 0);
+  ViewManager::chooseToastAction();
+  EXPECT_EQ(history->table()->rowCount(), 1);
+  EXPECT_EQ(calcManager.calculations().size(), 1);
 }
 
 TEST_F(HistoryVisitTest, OpensFreshPagesFromAnEmptyHistory) {

@@ -1,5 +1,8 @@
 #include "output/catalogues.h"
+#include "platform/localization.h"
+#include "platform/test_support.h"
 #include "remote/introduction/onboard_view_controller.h"
+#include "shell/frame/view_manager.h"
 #include "shell/launch/launch_fixture.h"
 
 namespace tavi {
@@ -49,6 +52,14 @@ TEST_F(LaunchTest, AsksForARatingOnTheFifthVisitOfTheInputPage) {
   delegate->leftViewController()->didSelectRow(LeftViewController::mainSection, 0);
   QCoreApplication::processEvents();
   EXPECT_TRUE(qobject_cast<RatingViewController*>(delegate->drawer()->presentedController()));
+}
+
+TEST_F(LaunchTest, SaysThatNothingCanBeKept) {
+  runSql(folder.filePath("preferences.sqlite"),
+         "CREATE TRIGGER refusal BEFORE INSERT ON elements BEGIN SELECT RAISE(ABORT, 'full'); END");
+  launch();
+  EXPECT_TRUE(waitUntil([] { return ViewManager::shared().toastText() == localized("nothingIsKept"); }));
+  EXPECT_EQ(calcManager.calculations().size(), 1) << "kept until the end";
 }
 
 TEST_F(LaunchTest, BuildsEachControllerOnce) {
