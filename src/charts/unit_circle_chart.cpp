@@ -28,14 +28,14 @@ std::string countedDegrees(double start, double end, double part) {
 }
 
 // Exact where the arrow stands on an axis.
-double sine(double degrees) {
+double sineOfDegrees(double degrees) {
   if (std::fmod(degrees, 180) == 0) return 0;
   if (std::fmod(degrees - 90, 360) == 0) return 1;
   if (std::fmod(degrees - 270, 360) == 0) return -1;
   return std::sin(degrees * std::numbers::pi / 180);
 }
 
-double cosine(double degrees) {
+double cosineOfDegrees(double degrees) {
   if (std::fmod(degrees + 90, 180) == 0) return 0;
   if (std::fmod(degrees, 360) == 0) return 1;
   if (std::fmod(degrees - 180, 360) == 0) return -1;
@@ -43,8 +43,8 @@ double cosine(double degrees) {
 }
 
 void setCoordinates(UnitCircleLabels& labels, double degrees) {
-  labels.pX = TaviMathOperation::rounded(2, cosine(degrees));
-  labels.pY = TaviMathOperation::rounded(2, sine(degrees));
+  labels.pX = TaviMathOperation::rounded(2, cosineOfDegrees(degrees));
+  labels.pY = TaviMathOperation::rounded(2, sineOfDegrees(degrees));
 }
 
 }  // namespace

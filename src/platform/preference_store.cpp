@@ -110,7 +110,7 @@ int splitArrays(sqlite3* database) {
   return SQLITE_OK;
 }
 
-constexpr SqliteSchema schema{
+constexpr SqliteSchema preferenceSchema{
     .applicationId = 0x54415649,  // "TAVI"
     .chiefTable = "preferences",
     .makeMissing =
@@ -132,7 +132,7 @@ PreferenceStore& PreferenceStore::standard() {
   return store;
 }
 
-PreferenceStore::PreferenceStore(const QString& path) : file_(openSqliteFile(path, schema)) {
+PreferenceStore::PreferenceStore(const QString& path) : file_(openSqliteFile(path, preferenceSchema)) {
   for (const char* sql : statements) statements_.push_back(prepareSql(file_.database.get(), sql));
 }
 
