@@ -1,7 +1,9 @@
 #include "platform/localization.h"
 
+#include <QDirIterator>
 #include <QFile>
 #include <QMap>
+#include <QRegularExpression>
 #include <QXmlStreamReader>
 #include <ostream>
 
@@ -28,15 +30,48 @@ QMap<QString, QString> wordsOf(const char* language) {
   return words;
 }
 
-TEST(LocalizationTest, GermanSaysEverythingThatEnglishSays) {
-  const auto english = wordsOf("en");
-  const auto german = wordsOf("de");
-  for (auto each = english.begin(); each != english.end(); ++each) {
-    const QString words = german.value(each.key());
-    EXPECT_FALSE(words.isEmpty()) << each.key().toStdString();
-    for (const char* limit : {"%0", "%1"})
-      EXPECT_EQ(words.contains(QLatin1String(limit)), each->contains(QLatin1String(limit)))
-          << each.key().toStdString();
+/// What formulas and charts are said in: English words by key, as they stand in the sources.
+QMap<QString, QString> spokenPhrases() {
+  static const QRegularExpression phrase(R"re(\{"((?:math|chart)[A-Z]\w*)",\s*"([^"]*)"\})re");
+  QMap<QString, QString> phrases;
+  for (const char* folder : {"typeset", "charts"}) {
+    QDirIterator files(QStringLiteral(TAVI_SOURCE_DIR "/src/") + folder, {"*.cpp", "*.h"}, QDir::Files,
+                       QDirIterator::Subdirectories);
+    while (files.hasNext()) {
+      QFile file(files.next());
+      EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+      const QString source = QString::fromUtf8(file.readAll());
+      for (auto found = phrase.globalMatch(source); found.hasNext();) {
+        const auto match = found.next();
+        phrases[match.captured(1)] = match.captured(2);
+      }
+    }
+  }
+  return phrases;
+}
+
+/// What of the words is put in at run time, in alphabetical order: "%1 %2 §appname".
+QString places(const QString& words) {
+  static const QRegularExpression place("%\\d|§\\w+", QRegularExpression::UseUnicodePropertiesOption);
+  QStringList places;
+  for (auto found = place.globalMatch(words); found.hasNext();) places.append(found.next().captured());
+  places.sort();
+  return places.join(' ');
+}
+
+TEST(LocalizationTest, EveryLanguageSaysEverythingThatEnglishSaysAndSpeaks) {
+  auto english = wordsOf("en");
+  const auto phrases = spokenPhrases();
+  ASSERT_TRUE(phrases.contains("mathPower") && phrases.contains("chartPoints"));
+  english.insert(phrases);
+  for (const QString& file : QDir(TAVI_TRANSLATIONS).entryList({"tavi_*.ts"})) {
+    const QString language = file.sliced(5, file.size() - 8);
+    if (language == "en") continue;
+    const auto words = wordsOf(qPrintable(language));
+    for (auto each = english.begin(); each != english.end(); ++each) {
+      EXPECT_FALSE(words.value(each.key()).isEmpty()) << qPrintable(language + ": " + each.key());
+      EXPECT_EQ(places(words.value(each.key())), places(*each)) << qPrintable(language + ": " + each.key());
+    }
   }
 }
 

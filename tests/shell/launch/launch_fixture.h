@@ -11,6 +11,30 @@
 
 namespace tavi {
 
+/// Asks nobody for remote values and notes when it is asked.
+class RecordingRemoteConfig : public RemoteConfigService {
+ public:
+  using RemoteConfigService::RemoteConfigService;
+
+  QByteArray dataValue(const QString& key) const override {
+    if (whenRead) whenRead();
+    return RemoteConfigService::dataValue(key);
+  }
+  void fetch(std::chrono::seconds expiry, FetchCompletion completion) override {
+    expiries.push_back(expiry);
+    pending = std::move(completion);
+  }
+  void activate(ActivateCompletion completion) override {
+    ++activations;
+    completion(true);
+  }
+
+  std::function<void()> whenRead;
+  std::vector<std::chrono::seconds> expiries;
+  FetchCompletion pending;
+  int activations = 0;
+};
+
 /// A launch over a store of its own, with nobody to ask for remote values.
 class LaunchTest : public testing::Test {
  protected:
@@ -34,10 +58,11 @@ class LaunchTest : public testing::Test {
   QTemporaryDir folder;
   PreferenceStore preferences{folder.filePath("preferences.sqlite")};
   CalcManager calcManager{preferences};
-  RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};
+  RecordingRemoteConfig remoteConfig{{}, folder.filePath("remote.sqlite")};
   RemoteConfigManager remoteConfigManager{remoteConfig};
   QQmlEngine engine;
-  const AppServices services{remoteConfig, remoteConfigManager, calcManager, preferences};
+  NotificationCenter notifications;
+  const AppServices services{remoteConfig, remoteConfigManager, calcManager, preferences, notifications};
   std::unique_ptr<AppDelegate> delegate;
 };
 

@@ -1,3 +1,5 @@
+#include <QTest>
+
 #include "output/catalogues.h"
 #include "platform/localization.h"
 #include "platform/test_support.h"
@@ -17,6 +19,36 @@ TEST_F(LaunchTest, OpensTheInputPageWithTheSampleTaskInTheHistory) {
   EXPECT_EQ(calcManager.calculations().size(), 1);
   EXPECT_EQ(delegate->appToolbarController()->toolbar()->rightViews().size(), 1);
   EXPECT_FALSE(TaviFormulaUnit::shared().units.empty()) << "the engine finds the catalogues";
+}
+
+TEST_F(LaunchTest, ReadsTheRemoteRecordsThenTheStoreThenOpensTheWindow) {
+  QStringList order;
+  const auto note = [&](const char* step) {
+    const bool isStoreReady = !calcManager.calculations().isEmpty();
+    const bool isWindowOpen = delegate->window() != nullptr;
+    order.append(QString("%1, store %2, window %3").arg(step).arg(isStoreReady).arg(isWindowOpen));
+  };
+  remoteConfig.whenRead = [&] {
+    if (order.isEmpty()) note("records read");
+  };
+  notifications.observe(NotificationCenter::applicationDidBecomeActive, &engine, [&] { note("active"); });
+  launch();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return order.size() > 1; })) << "the window comes to the front";
+  EXPECT_EQ(order, QStringList({"records read, store 0, window 0", "active, store 1, window 1"}));
+}
+
+TEST_F(LaunchTest, AsksForNewRecordsEachTimeItComesToTheFrontIfTheOldOnesAreSixHoursOld) {
+  launch();
+  remoteConfig.expiries.clear();
+  int observers = 0;
+  notifications.observe(NotificationCenter::applicationDidBecomeActive, &engine, [&] { ++observers; });
+  delegate->didBecomeActive();
+  delegate->didBecomeActive();
+  EXPECT_EQ(remoteConfig.expiries, std::vector(2, std::chrono::seconds(21600)));
+  EXPECT_EQ(observers, 2);
+  EXPECT_EQ(remoteConfig.activations, 0);
+  remoteConfig.pending(FetchStatus::success, std::nullopt);
+  EXPECT_EQ(remoteConfig.activations, 1) << "what was fetched is used";
 }
 
 TEST_F(LaunchTest, ShowsTheIntroductionAndThePrivacyTextUntilEachIsDone) {

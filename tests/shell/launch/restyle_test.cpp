@@ -1,5 +1,7 @@
 // What is on the screen while the appearance changes.
 #include <QTest>
+#include <algorithm>
+#include <cstdlib>
 
 #include "appearance/appearance.h"
 #include "appearance/contrast.h"
@@ -9,8 +11,26 @@
 namespace tavi {
 namespace {
 
+/// How far two pictures of one size are apart in the channel that differs most; a veil that has just come to
+/// rest may be a shade off.
+int furthest(const QImage& one, const QImage& other) {
+  int most = 0;
+  for (int y = 0; y < one.height(); ++y)
+    for (int x = 0; x < one.width(); ++x) {
+      const QRgb a = one.pixel(x, y);
+      const QRgb b = other.pixel(x, y);
+      most = std::max({most, std::abs(qRed(a) - qRed(b)), std::abs(qGreen(a) - qGreen(b)),
+                       std::abs(qBlue(a) - qBlue(b))});
+    }
+  return most;
+}
+
 class RestyleTest : public LaunchTest {
  protected:
+  RestyleTest() {
+    for (const char* done : {"isOnboardingFinished", "isDsgvoAccepted", "isRatingAlreadyDone"})
+      preferences.setValue(done, true);
+  }
   ~RestyleTest() override { Appearance::shared().force(std::nullopt); }
 
   /// Goes where this screen is: types so that a field goes off, opens the menu, asks.
@@ -20,7 +40,11 @@ class RestyleTest : public LaunchTest {
     page.currentTextField->setText("7");
     page.aTextField.front()->setText(screen == "input" ? "" : "2");
     if (screen == "solution") page.performCalculation();
-    if (screen == "menu") delegate->drawer()->setLeftViewOpened(true);
+    if (screen == "menu") {
+      delegate->drawer()->setLeftViewOpened(true);
+      const QQuickItem* menu = delegate->drawer()->leftController()->view();
+      EXPECT_TRUE(QTest::qWaitFor([menu] { return menu->isVisible() && menu->mapToScene({}).x() == 0; }));
+    }
     if (screen == "alert") delegate->drawer()->presentAlert("Title", "Message", {}, AlertStyle::alert);
     if (screen == "history")
       delegate->appToolbarController()->transition(delegate->makeHistoryTableViewController());
@@ -53,8 +77,8 @@ TEST_F(RestyleTest, EveryScreenLooksAsIfItHadComeUpInTheNewAppearance) {
     goTo(screen);
     const QImage dark = picture();
     Appearance::shared().force(false);
-    EXPECT_EQ(picture(), fresh) << screen;
-    EXPECT_NE(dark, fresh) << screen;
+    EXPECT_LE(furthest(picture(), fresh), 2) << screen;
+    EXPECT_GT(furthest(dark, fresh), 50) << screen;
     delegate.reset();
     QCoreApplication::processEvents();
   }
