@@ -6,6 +6,7 @@ namespace tavi {
 SplineChartView SplineChartManager::commonSplineChartView(
     const std::vector<const CommonSplineChartData*>& curves) {
   std::vector<ChartSeries> series;
+  series.reserve(curves.size());
   for (const CommonSplineChartData* curve : curves) {
     series.push_back(
         {replacedAll(curve->dataName, "function", "func"), curve->chartColorHexCode, curve->dataSet});

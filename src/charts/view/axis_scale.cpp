@@ -50,6 +50,13 @@ double roundStep(double least) {
   return 10 * power;
 }
 
+// Of a step, both whole numbers included.
+std::vector<double> multiples(double step, double first, double last) {
+  std::vector<double> values;
+  for (int index = 0; first + index <= last; ++index) values.push_back((first + index) * step);
+  return values;
+}
+
 std::string grouped(std::string text, std::string_view separator) {
   const std::size_t end = std::min(text.find('.'), text.size());
   const std::size_t start = text.starts_with('-') ? 1 : 0;
@@ -101,10 +108,9 @@ class ScaleMaker {
     const auto first = [&] { return std::ceil((range.low - margin) / step); };
     const auto last = [&] { return std::floor((range.high + margin) / step); };
     while (last() - first() >= needs_.mostLabels) step *= 2;
-    const double end = last();
-    for (double multiple = first(); multiple <= end; ++multiple) {
-      scale_.gridValues.push_back(multiple * step);
-      scale_.labels.push_back({multiple * step, piTickLabel(multiple * step)});
+    for (const double value : multiples(step, first(), last())) {
+      scale_.gridValues.push_back(value);
+      scale_.labels.push_back({value, piTickLabel(value)});
     }
     if (scale_.gridValues.empty()) return;
     range.low = std::min(range.low, scale_.gridValues.front());
@@ -125,11 +131,8 @@ class ScaleMaker {
     }
     scale_.minorInterval = axis_.hasAutomaticMinorTicks ? step / 5 : 0;
     chooseExponent(std::max(std::abs(range.low), std::abs(range.high)));
-    const double end = last();
-    for (double multiple = first(); multiple <= end; ++multiple) {
-      scale_.gridValues.push_back(multiple * step);
-      addLabel(multiple * step, scale_.exponent - decimalExponent(step));
-    }
+    scale_.gridValues = multiples(step, first(), last());
+    for (const double value : scale_.gridValues) addLabel(value, scale_.exponent - decimalExponent(step));
   }
 
   void chooseExponent(double largest) {

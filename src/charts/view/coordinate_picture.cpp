@@ -93,7 +93,7 @@ void CoordinatePicture::paintMinorMarks(QPainter& painter) const {
     const double first = scale.gridValues.front();
     const double begin = std::ceil((scale.range.low - first) / scale.minorInterval - 0.001);
     const double end = std::floor((scale.range.high - first) / scale.minorInterval + 0.001);
-    for (double index = begin; index <= end; ++index) mark(first + index * scale.minorInterval);
+    for (int index = 0; begin + index <= end; ++index) mark(first + (begin + index) * scale.minorInterval);
   };
   const double axisY = layout_.placeY(std::clamp(0.0, layout_.y.range.low, layout_.y.range.high));
   const double axisX = layout_.placeX(std::clamp(0.0, layout_.x.range.low, layout_.x.range.high));
@@ -182,7 +182,8 @@ void CoordinatePicture::paintJoined(QPainter& painter, const ChartSeries& series
         options_.type == ChartType::spline && static_cast<double>(points.size()) * leastPointDistance < width;
     if (isRound) points = flattened(curve(points), scaleOf(painter));
     for (const QPolygonF& part : clipped(points, frame)) drawJoined(painter, part, color, lineWidth);
-    if (points.size() == 1) drawDots(painter, points, color, singleRadius);
+    if (points.size() == 1 && layout_.isInPlot(points.front()))
+      drawDots(painter, points, color, singleRadius);
   }
 }
 
