@@ -130,6 +130,8 @@ bool goThrough(const Options& options, Application& application) {
       storeSampleRecords();
       for (const auto* answered : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted})
         PreferenceStore::standard().setValue(*answered, !visit.isFirstStart);
+      PreferenceStore::standard().setValue(preferences::counterForRating,
+                                           1000);  // The rating comes at its station.
       Stage stage(application);
       stage.resize(visit.size);
       isPassed = run(visit, options, stage);
