@@ -1,5 +1,5 @@
-// A first byte for the mode, then two field texts with a line break between them; all of it once more as a text that
-// is pasted.
+// A first byte for the mode, then two field texts with a line break between them; all of it once more as a
+// text that is pasted.
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -16,7 +16,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
   if (input.empty()) return 0;
   const auto mode = tavi::modeOf(input.front() % 2);
   const std::size_t end = std::min(input.find('\n', 1), input.size());
-  const auto task = tavi::typedTask(mode, std::string(input.substr(1, end - 1)), std::string(input.substr(end)));
+  const auto task =
+      tavi::typedTask(mode, std::string(input.substr(1, end - 1)), std::string(input.substr(end)));
   tavi::typedLatex(task);
   tavi::typingHint(mode, task);
   return 0;

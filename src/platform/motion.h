@@ -4,8 +4,8 @@
 
 namespace tavi {
 
-/// Whether the user has asked the desktop for less motion. The desktop portal is asked once, without waiting for it;
-/// where there is none, motion stays as it is.
+/// Whether the user has asked the desktop for less motion. The desktop portal is asked once, without waiting
+/// for it; where there is none, motion stays as it is.
 class Motion : public QObject {
   Q_OBJECT
 

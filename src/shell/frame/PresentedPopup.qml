@@ -50,7 +50,8 @@ T.Popup {
         controller.presentationGone();
     }
 
-    T.Overlay.modal: Veil {}
+    T.Overlay.modal: Veil {
+    }
     T.Overlay.onPressed: {
         if (style === ViewController.ActionSheet && !controller.presentedController)
             controller.cancel();

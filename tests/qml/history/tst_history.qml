@@ -288,7 +288,9 @@ Item {
         }
 
         function test_a_key_brings_the_current_row_into_sight_at_once() {
-            open(Array.from({ length: 400 }, (_, row) => String(row)));
+            open(Array.from({
+                        "length": 400
+                    }, (_, row) => String(row)));
             focusTable();
             for (const [key, row] of [[Qt.Key_End, 399], [Qt.Key_PageUp, 390], [Qt.Key_Home, 0], [Qt.Key_Down, 1]]) {
                 keyClick(key);
@@ -304,7 +306,9 @@ Item {
         }
 
         function test_a_key_does_nothing_to_a_row_out_of_sight() {
-            open(Array.from({ length: 400 }, (_, row) => String(row)));
+            open(Array.from({
+                        "length": 400
+                    }, (_, row) => String(row)));
             focusTable();
             for (const key of [Qt.Key_Delete, Qt.Key_Return, Qt.Key_Space, Qt.Key_Right]) {
                 table().positionViewAtEnd();
