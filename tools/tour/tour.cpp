@@ -221,6 +221,16 @@ constexpr auto lowSteps = std::to_array<Step>({{"84-low-introduction", menuIntro
                                                {"87-low-video-consent", videoConsent},
                                                {"88-low-advertisement", advertisement},
                                                {"89-low-rating", rating}});
+constexpr auto chartSteps = std::to_array<Step>({{"90-line-charts", lineCharts},
+                                                 {"91-step-charts", stepCharts},
+                                                 {"92-moving-circle", movingCircle},
+                                                 {"93-resting-circle", restingCircle},
+                                                 {"94-shared-charts", sharedCharts}});
+constexpr auto darkChartSteps = std::to_array<Step>({{"95-dark-line-charts", lineCharts},
+                                                     {"96-dark-step-charts", stepCharts},
+                                                     {"97-dark-circle", restingCircle}});
+constexpr auto tabletChartSteps =
+    std::to_array<Step>({{"98-tablet-line-charts", lineCharts}, {"99-tablet-circle", restingCircle}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps},
@@ -234,7 +244,10 @@ constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps
                                               {"dark-around", phone, true, darkAroundSteps},
                                               {"tablet-around", tablet, false, tabletAroundSteps},
                                               {"narrow-around", narrow, false, narrowSteps},
-                                              {"low-around", low, false, lowSteps}});
+                                              {"low-around", low, false, lowSteps},
+                                              {"charts", phone, false, chartSteps},
+                                              {"dark-charts", phone, true, darkChartSteps},
+                                              {"tablet-charts", tablet, false, tabletChartSteps}});
 
 }  // namespace
 

@@ -24,6 +24,13 @@ struct Visit {
 
 std::span<const Visit> allVisits();
 
+// Solutions with charts.
+void lineCharts(Stage& stage);
+void stepCharts(Stage& stage);
+void movingCircle(Stage& stage);
+void restingCircle(Stage& stage);
+void sharedCharts(Stage& stage);
+
 // Stations around the calculation.
 void firstConsent(Stage& stage);
 void introductionPage1(Stage& stage);
