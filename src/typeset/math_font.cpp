@@ -98,7 +98,7 @@ GlyphMetrics MathFont::measure(std::uint32_t id) const {
 }
 
 std::uint32_t MathFont::shapeOf(std::uint32_t glyph, ScriptShape shape) const {
-  if (shape == ScriptShape::plain || !scriptShapeLookup_) return glyph;
+  if (!scriptShapeLookup_) return glyph;
   const unsigned alternate = shape == ScriptShape::script ? 0 : 1;
   unsigned count = 1;
   hb_codepoint_t scriptGlyph = 0;
