@@ -31,13 +31,14 @@ Decoded decodeOne(std::string_view bytes) {
 }  // namespace
 
 std::u32string decodeUtf8(std::string_view bytes) {
-  std::u32string characters;
-  characters.reserve(bytes.size());
+  std::u32string characters(bytes.size(), U'\0');
+  std::size_t count = 0;
   while (!bytes.empty()) {
     const Decoded decoded = decodeOne(bytes);
-    characters.push_back(decoded.character);
+    characters[count++] = decoded.character;
     bytes.remove_prefix(decoded.length);
   }
+  characters.resize(count);
   return characters;
 }
 
