@@ -743,5 +743,59 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>mathPi</source>
         <translation>Pi</translation>
     </message>
+    <message id="settings">
+        <source>settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="appearance">
+        <source>appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message id="asSystem">
+        <source>asSystem</source>
+        <translation>System</translation>
+    </message>
+    <message id="light">
+        <source>light</source>
+        <translation>Hell</translation>
+    </message>
+    <message id="dark">
+        <source>dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message id="language">
+        <source>language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message id="languageName">
+        <source>languageName</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message id="fromNextStart">
+        <source>fromNextStart</source>
+        <translation>Eine andere Sprache gilt ab dem nächsten Start.</translation>
+    </message>
+    <message id="measurement">
+        <source>measurement</source>
+        <translation>Nutzungszahlen</translation>
+    </message>
+    <message id="measurementAccept">
+        <source>measurementAccept</source>
+        <translation>Senden, welche Funktionen genutzt werden</translation>
+    </message>
+    <message id="measurementWhat">
+        <source>measurementWhat</source>
+        <translation>Was gesendet wird</translation>
+    </message>
+    <message id="measurementNone">
+        <source>measurementNone</source>
+        <translation>Diese Version merkt sich nichts über ihre Nutzung und sendet nichts.</translation>
+    </message>
+    <message id="measurementText">
+        <source>measurementText</source>
+        <translation>Nur wenn du es in den Einstellungen erlaubst, merkt sich die App, welche ihrer Funktionen genutzt werden, und sendet das an %1. Du kannst das dort jederzeit widerrufen; was gemerkt ist, wird dann sofort gelöscht.
+
+Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, und Name und Version der App; nichts, was dich oder dein Gerät benennt. Dies sind die Ereignisse und was mit jedem geht:</translation>
+    </message>
 </context>
 </TS>

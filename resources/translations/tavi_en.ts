@@ -543,5 +543,59 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>OK</source>
         <translation>OK</translation>
     </message>
+    <message id="settings">
+        <source>settings</source>
+        <translation>Settings</translation>
+    </message>
+    <message id="appearance">
+        <source>appearance</source>
+        <translation>Appearance</translation>
+    </message>
+    <message id="asSystem">
+        <source>asSystem</source>
+        <translation>System</translation>
+    </message>
+    <message id="light">
+        <source>light</source>
+        <translation>Light</translation>
+    </message>
+    <message id="dark">
+        <source>dark</source>
+        <translation>Dark</translation>
+    </message>
+    <message id="language">
+        <source>language</source>
+        <translation>Language</translation>
+    </message>
+    <message id="languageName">
+        <source>languageName</source>
+        <translation>English</translation>
+    </message>
+    <message id="fromNextStart">
+        <source>fromNextStart</source>
+        <translation>Another language is spoken from the next start on.</translation>
+    </message>
+    <message id="measurement">
+        <source>measurement</source>
+        <translation>Usage figures</translation>
+    </message>
+    <message id="measurementAccept">
+        <source>measurementAccept</source>
+        <translation>Send which functions are used</translation>
+    </message>
+    <message id="measurementWhat">
+        <source>measurementWhat</source>
+        <translation>What is sent</translation>
+    </message>
+    <message id="measurementNone">
+        <source>measurementNone</source>
+        <translation>This version keeps and sends nothing about its use.</translation>
+    </message>
+    <message id="measurementText">
+        <source>measurementText</source>
+        <translation>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
+
+With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</translation>
+    </message>
 </context>
 </TS>

@@ -21,5 +21,8 @@ QtObject {
     readonly property string play: "\uf40a"
     readonly property string star: "\uf4ce"
     readonly property string starOutline: "\uf4d2"
+    readonly property string settings: "\uf493"
+    readonly property string fold: "\uf143"
+    readonly property string unfold: "\uf140"
     readonly property string history: "\uf2da"
 }

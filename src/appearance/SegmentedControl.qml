@@ -1,13 +1,13 @@
 import QtQuick
 import Tavi
 
-// Segments of equal width in a rounded frame, of which one is chosen. Each shows a picture.
+// Segments of equal width in a rounded frame, of which one is chosen. Each shows a picture or, without one, its name.
 Rectangle {
     id: control
 
     property string name
     property int selectedSegmentIndex: 0
-    property var segments: [] // of { name, picture }
+    property var segments: [] // of { name } or { name, picture }
 
     signal valueChanged(int index)
 
@@ -46,9 +46,10 @@ Rectangle {
                 color: segment.isChosen ? Theme.strongYellow : segment.down ? Theme.groupedBackground : "transparent"
             }
             contentItem: Loader {
+                property string name: segment.text
                 property color color: segment.isChosen ? Theme.darkTitle : Theme.label
 
-                sourceComponent: segment.modelData.picture
+                sourceComponent: segment.modelData.picture ?? segmentName
             }
 
             FocusRing {
@@ -56,6 +57,22 @@ Rectangle {
                 ground: segment.isChosen ? Theme.strongYellow : Theme.background
                 radius: 8
             }
+        }
+    }
+
+    Component {
+        id: segmentName
+
+        Text {
+            readonly property Loader place: parent
+
+            text: place.name
+            font: Theme.medium(15)
+            fontSizeMode: Text.HorizontalFit
+            minimumPixelSize: 10
+            color: place.color
+            horizontalAlignment: Text.AlignHCenter
+            verticalAlignment: Text.AlignVCenter
         }
     }
 

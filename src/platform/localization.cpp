@@ -16,10 +16,13 @@ const QString folder = QStringLiteral(":/i18n/");
 const QString namePrefix = QStringLiteral("tavi_");
 
 /// "de-AT" is also served by "de". English needs no file of its own: it lies under all others.
+bool load(QTranslator& translator, const QString& language) {
+  return translator.load(folder + namePrefix + QString(language).replace(u'-', u'_'));
+}
+
 bool install(const QString& language) {
   auto* translator = new QTranslator(QCoreApplication::instance());
-  const QString name = folder + namePrefix + QString(language).replace(u'-', u'_');
-  return translator->load(name) && QCoreApplication::installTranslator(translator);
+  return load(*translator, language) && QCoreApplication::installTranslator(translator);
 }
 
 }  // namespace
@@ -42,6 +45,11 @@ QStringList translatedLanguages() {
   QStringList languages = QDir(folder).entryList({namePrefix + u'*'}, QDir::Files, QDir::Name);
   for (QString& name : languages) name = name.mid(namePrefix.size()).section(u'.', 0, 0).replace(u'_', u'-');
   return languages;
+}
+
+QString languageName(const QString& language) {
+  QTranslator translator;
+  return load(translator, language) ? translator.translate("", "languageName") : language;
 }
 
 }  // namespace tavi

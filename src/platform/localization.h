@@ -17,4 +17,7 @@ bool loadTranslations(QStringList languages = {});
 /// The languages that there are, by their BCP 47 names.
 QStringList translatedLanguages();
 
+/// What the language calls itself, such as "Deutsch" for "de"; the code for one that there is not.
+QString languageName(const QString& language);
+
 }  // namespace tavi

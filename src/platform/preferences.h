@@ -15,10 +15,16 @@ inline const Preference<QVariantMap> currentSelectedCalculation{
     QLatin1StringView("CurrentSelectedCalculation")};
 inline const Preference<QDateTime> firstAppStartAt{QLatin1StringView("firstAppStartAt")};
 
+// Settings: "light" or "dark", otherwise as the system has it; a language that there is, otherwise the
+// system's.
+inline const Preference<QString> appearance{QLatin1StringView("appearance")};
+inline const Preference<QString> language{QLatin1StringView("language")};
+
 // Introduction and consent.
 inline constexpr Preference<bool> isOnboardingFinished{QLatin1StringView("isOnboardingFinished"), false};
 inline constexpr Preference<bool> isDsgvoAccepted{QLatin1StringView("isDsgvoAccepted"), false};
 inline constexpr Preference<bool> isYoutubeDsgvoAccepted{QLatin1StringView("isYoutubeDsgvoAccepted"), false};
+inline constexpr Preference<bool> isMeasurementAccepted{QLatin1StringView("isMeasurementAccepted"), false};
 
 // Rating and advertisements: visits left until the prompt, whether it is over for good, advertisements shown.
 inline constexpr Preference<qlonglong> counterForRating{QLatin1StringView("counterForRating"), 5};

@@ -52,6 +52,42 @@ inline constexpr QLatin1StringView taviAdsOpenedAdProduct{"taviAds_openedAdProdu
 inline constexpr QLatin1StringView tappedRatedApp{"tapped_rated_app"};
 inline constexpr QLatin1StringView tappedRatedAppCancel{"tapped_rated_app_cancel"};
 
+/// An event and what it carries.
+struct EventKind {
+  QLatin1StringView name;
+  std::array<QLatin1StringView, 3> parameters = {};  ///< By name; those that are empty are none.
+};
+
+/// All of them. What measurement keeps and the privacy text tells is what stands here.
+inline constexpr auto vocabulary = std::to_array<EventKind>(
+    {{tappedMenuButton},
+     {tappedMenuCalculate},
+     {tappedMenuHistory},
+     {tappedOnboarding},
+     {tappedPrivacyPolicy},
+     {tappedDiscord},
+     {tappedRateApp},
+     {tappedRatingInMenu, {QLatin1StringView{"taviApp"}}},
+     {tappedAppLink, {QLatin1StringView{"has_app"}, QLatin1StringView{"taviApp"}}},
+     {tappedClear},
+     {taviCalculate, {QLatin1StringView{"solutionSteps"}, QLatin1StringView{"solutionStepsCount"}}},
+     {taviGotError, {QLatin1StringView{"error_case"}}},
+     {tappedHistoryClear, {QLatin1StringView{"calc_count"}}},
+     {tappedHistoryDeleteSingleCalc},
+     {tappedHistoryItem, {QLatin1StringView{"calc_parameters"}, QLatin1StringView{"latex_string"}}},
+     {taviTappedShare, {QLatin1StringView{"solutionSteps"}, QLatin1StringView{"solutionStepsCount"}}},
+     {taviAdsPresented,
+      {QLatin1StringView{"sendingApp"}, QLatin1StringView{"taviAdId"},
+       QLatin1StringView{"countTaviAdsPresented"}}},
+     {taviAdsClosedAds,
+      {QLatin1StringView{"sendingApp"}, QLatin1StringView{"taviAdId"},
+       QLatin1StringView{"countTaviAdsPresented"}}},
+     {taviAdsOpenedAdProduct,
+      {QLatin1StringView{"sendingApp"}, QLatin1StringView{"taviAdId"},
+       QLatin1StringView{"countTaviAdsPresented"}}},
+     {tappedRatedApp, {QLatin1StringView{"app"}, QLatin1StringView{"rating"}}},
+     {tappedRatedAppCancel}});
+
 // Parameters in which stands what the user typed, or its working.
 inline constexpr std::array<QLatin1StringView, 3> typedParameters{QLatin1StringView{"solutionSteps"},
                                                                   QLatin1StringView{"calc_parameters"},

@@ -3,6 +3,7 @@
 #include <functional>
 #include <memory>
 
+#include "measurement/measurement_client.h"
 #include "platform/application_context.h"
 #include "platform/links.h"
 #include "platform/notification_center.h"
@@ -28,6 +29,7 @@ struct AppServices {
   std::function<ApplicationContext()> context = ApplicationContext::current;
   const ProjectSettings& settings = ProjectSettings::shared();
   std::shared_ptr<RatingViewController> rating = {};  ///< The one of the application; made at the launch.
+  MeasurementClient* measurement = nullptr;           ///< None where no collector is named.
 };
 
 }  // namespace tavi

@@ -91,6 +91,15 @@ void menuIntroduction(Stage& stage) {
   waitFor(stage, QStringLiteral("onboardAdvance"));
 }
 
+void settings(Stage& stage) {
+  stage.clearTheView();
+  stage.tap(QStringLiteral("menuButton"));
+  waitFor(stage, QStringLiteral("settingsButton"));
+  stage.picture();
+  stage.tap(QStringLiteral("settingsButton"));
+  waitFor(stage, QStringLiteral("languageRow"));
+}
+
 void inputManual(Stage& stage) {
   stage.clearTheView();
   stage.tap(QStringLiteral("tab0"));

@@ -39,6 +39,7 @@ void introductionPage3(Stage& stage);
 void introductionPage4(Stage& stage);
 void introductionPage5(Stage& stage);
 void menuIntroduction(Stage& stage);
+void settings(Stage& stage);
 void inputManual(Stage& stage);
 void solutionManual(Stage& stage);
 void lockedVideos(Stage& stage);

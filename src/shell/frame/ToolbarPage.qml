@@ -28,6 +28,8 @@ Item {
         Accessible.role: Accessible.ToolBar
 
         Item {
+            id: strip
+
             anchors.fill: parent
             anchors.topMargin: page.isLow ? 0 : page.toolbar.topInset
 
@@ -75,8 +77,15 @@ Item {
         IconButton {
             required property ToolbarButton modelData
 
+            // How far the button would reach below a bar whose contents stand at its foot.
+            readonly property real excess: Math.max(0, (height - (bar.height - strip.anchors.topMargin)) / 2)
+
             objectName: modelData.accessibilityIdentifier
             height: Math.min(implicitHeight, bar.height)
+            transform: Translate {
+                y: -excess
+            }
+            topPadding: 2 * excess
             text: modelData.title
             iconText: modelData.icon ? Icons[modelData.icon] : ""
             tintColor: Theme.legible(modelData.tintColor, bar.color)

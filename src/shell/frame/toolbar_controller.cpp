@@ -13,6 +13,21 @@
 
 namespace tavi {
 
+namespace {
+
+std::shared_ptr<ToolbarButton> makeButton(const char* title, const QString& identifier, const QString& icon,
+                                          std::function<void()> action) {
+  auto button = std::make_shared<ToolbarButton>();
+  button->title = localized(title);
+  button->accessibilityIdentifier = identifier;
+  button->icon = icon;
+  button->tintColor = InterfaceColor::darkTitle();
+  button->action = std::move(action);
+  return button;
+}
+
+}  // namespace
+
 BasicToolbarController::BasicToolbarController(std::shared_ptr<ViewController> root)
     : root_(std::move(root)) {
   adopt(*root_);
@@ -45,12 +60,8 @@ void BasicToolbarController::color(Toolbar::Style& style, const KeypadPalette& p
 
 void AppToolbarController::viewDidLoad() {
   BasicToolbarController::viewDidLoad();
-  menuButton_ = std::make_shared<ToolbarButton>();
-  menuButton_->title = localized("menuButton");
-  menuButton_->accessibilityIdentifier = QStringLiteral("menuButton");
-  menuButton_->icon = QStringLiteral("menu");
-  menuButton_->tintColor = InterfaceColor::darkTitle();
-  menuButton_->action = [this] { handleMenuButton(); };
+  menuButton_ = makeButton("menuButton", QStringLiteral("menuButton"), QStringLiteral("menu"),
+                           [this] { handleMenuButton(); });
 
   Toolbar::Style style = toolbar()->style();
   style.shrinksTitle = true;
@@ -78,6 +89,9 @@ void MenuToolbarController::viewDidLoad() {
   toolbar()->setStyle(style);
   const QString title = QString::fromStdString(LocalizedString::taviSolver.text());
   toolbar()->setTitle(QStringLiteral("  %1  ").arg(title));
+  if (openSettings_)
+    toolbar()->setRightViews({makeButton("settings", QStringLiteral("settingsButton"),
+                                         QStringLiteral("settings"), openSettings_)});
 }
 
 void MenuToolbarController::color(Toolbar::Style& style, const KeypadPalette& palette) const {

@@ -57,16 +57,21 @@ class AppToolbarController : public BasicToolbarController {
   std::shared_ptr<ToolbarButton> menuButton_;
 };
 
-/// The head of the side menu, with the application's title.
+/// The head of the side menu, with the application's title and the way to its settings.
 class MenuToolbarController : public BasicToolbarController {
   Q_OBJECT
 
  public:
-  using BasicToolbarController::BasicToolbarController;
+  explicit MenuToolbarController(std::shared_ptr<ViewController> root,
+                                 std::function<void()> openSettings = {})
+      : BasicToolbarController(std::move(root)), openSettings_(std::move(openSettings)) {}
 
  protected:
   void viewDidLoad() override;
   void color(Toolbar::Style& style, const KeypadPalette& palette) const override;
+
+ private:
+  std::function<void()> openSettings_;
 };
 
 }  // namespace tavi

@@ -48,7 +48,8 @@ void AppDelegate::didFinishLaunching() {
   services_.calcManager.runFirstStartStep();
 
   std::shared_ptr<MenuToolbarController> menu;
-  build(menu, engine_, "shell/frame/ToolbarPage.qml", leftViewController());
+  build(menu, engine_, "shell/frame/ToolbarPage.qml", leftViewController(),
+        [this] { leftViewController()->showSettings(); });
   build(drawer_, engine_, "shell/frame/DrawerPage.qml", appToolbarController(), menu);
   openWindow();
   presentFirstRun();

@@ -2,6 +2,7 @@
 
 #include <QDir>
 #include <QIcon>
+#include <QLocale>
 #include <QQuickWindow>
 #include <algorithm>
 #include <array>
@@ -9,9 +10,13 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 #include "appearance/appearance.h"
+#include "platform/analytics.h"
 #include "platform/application_context.h"
 #include "platform/localization.h"
 #include "platform/motion.h"
+#include "platform/preferences.h"
+#include "platform/resource_bundle.h"
+#include "shell/settings/settings_view_controller.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
@@ -31,6 +36,18 @@ void chooseRenderer() {
 #endif
 }
 
+/// The language chosen in the settings, otherwise the system's. What speaks of the user's language asks Qt's
+/// default locale for it.
+void speakStoredLanguage() {
+  const QString chosen = PreferenceStore::standard().value(preferences::language);
+  if (!translatedLanguages().contains(chosen)) {
+    loadTranslations();
+    return;
+  }
+  QLocale::setDefault(QLocale(chosen));
+  loadTranslations({chosen});
+}
+
 /// Everything that is named after the application comes after this.
 QString namedDataFolder() {
   nameApplication();
@@ -43,19 +60,33 @@ Application::Application(int& argumentCount, char** arguments)
     : QGuiApplication(argumentCount, arguments), instance_(namedDataFolder()) {
   chooseRenderer();
   setWindowIcon(QIcon::fromTheme(desktopFileName()));
-  loadTranslations();
+  speakStoredLanguage();
   Appearance::shared().followSystem();
+  applyStoredAppearance(PreferenceStore::standard());
   Motion::shared().followSystem();
 }
 
-Application::~Application() = default;
+Application::~Application() {
+  Analytics::setSink({});
+}
 
 bool Application::launch() {
   if (!instance_.isFirst()) return false;
-  delegate_.emplace(engine_);
+  startMeasuring();
+  delegate_.emplace(engine_, AppServices{.measurement = measurement_.get()});
   delegate_->didFinishLaunching();
   connect(&instance_, &SingleInstance::shown, this, &Application::showWindow);
   return true;
+}
+
+void Application::startMeasuring() {
+  measurement_ = MeasurementClient::fromBundle(ResourceBundle::main());
+  if (!measurement_) return;
+  const PreferenceStore& preferences = PreferenceStore::standard();
+  measurement_->setConsent(preferences.value(preferences::isDsgvoAccepted) &&
+                           preferences.value(preferences::isMeasurementAccepted));
+  Analytics::setSink([this](const AnalyticsEvent& event) { measurement_->take(event); });
+  connect(this, &QCoreApplication::aboutToQuit, measurement_.get(), &MeasurementClient::finish);
 }
 
 void Application::showWindow() {

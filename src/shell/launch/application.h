@@ -4,6 +4,7 @@
 #include <QQmlEngine>
 #include <optional>
 
+#include "measurement/measurement_client.h"
 #include "platform/single_instance.h"
 #include "shell/launch/app_delegate.h"
 
@@ -26,9 +27,11 @@ class Application : public QGuiApplication {
   QQmlEngine& engine() { return engine_; }
 
  private:
+  void startMeasuring();
   void showWindow();
 
   SingleInstance instance_;
+  std::unique_ptr<MeasurementClient> measurement_;  // none where no collector is named
   QQmlEngine engine_;
   std::optional<AppDelegate> delegate_;
 };

@@ -13,6 +13,7 @@
 #include "shell/frame/link_opening.h"
 #include "shell/frame/navigation_drawer_controller.h"
 #include "shell/frame/toolbar_controller.h"
+#include "shell/settings/settings_view_controller.h"
 
 namespace tavi {
 
@@ -182,6 +183,10 @@ void LeftViewController::showIntroduction() {
 
 void LeftViewController::showPrivacyPolicy() {
   DsgvoManager::showConsent(*this, services_.userDefaults);
+}
+
+void LeftViewController::showSettings() {
+  SettingsViewController::show(*this, services_);
 }
 
 void LeftViewController::openCommunity() {

@@ -45,6 +45,9 @@ class LeftViewController : public ViewController {
   /// English name or with a link that is no address is a fatal stop.
   void openRatingPage();
 
+  /// Opens the settings over the menu.
+  void showSettings();
+
   // What the page calls.
   /// The text over a section, empty over the first one.
   Q_INVOKABLE static QString titleForHeader(int section);

@@ -30,7 +30,7 @@ Item {
     IconButton {
         id: button
 
-        objectName: "closeManualButton"
+        objectName: "closeSheetButton"
         anchors.right: parent.right
         anchors.rightMargin: 4
         anchors.verticalCenter: parent.verticalCenter
