@@ -539,6 +539,10 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>manual9</source>
         <translation>Das Ergebnis, zu erkennen am Balken links.</translation>
     </message>
+    <message id="pleaseWait">
+        <source></source>
+        <translation>Bitte warten</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>

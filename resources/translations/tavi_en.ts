@@ -539,6 +539,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>manual9</source>
         <translation>The result, marked by the bar at its left.</translation>
     </message>
+    <message id="pleaseWait">
+        <source></source>
+        <translation>Please wait</translation>
+    </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>

@@ -17,8 +17,8 @@ Pressable {
     leftPadding: 12
     rightPadding: 12
     font: Theme.medium(14)
-    Accessible.checkable: isOn
-    Accessible.checked: isOn
+    isCheckable: isOn
+    isChecked: isOn
 
     background: Rectangle {
         radius: height / 2

@@ -6,7 +6,10 @@ import Tavi
 T.AbstractButton {
     id: control
 
-    property int accessibleRole: Accessible.Button // As `Accessible.role` gets lost in the template.
+    // What assistive technology is told, as the template writes over what is attached.
+    property int accessibleRole: Accessible.Button
+    property bool isCheckable: false
+    property bool isChecked: false
     readonly property bool isHovered: pointer.hovered
 
     function press(event) {

@@ -37,8 +37,8 @@ Rectangle {
             focusPolicy: Qt.TabFocus
             text: modelData.name
             accessibleRole: Accessible.RadioButton
-            Accessible.checkable: true
-            Accessible.checked: isChosen
+            isCheckable: true
+            isChecked: isChosen
             onClicked: if (!isChosen)
                 control.valueChanged(index)
             background: Rectangle {

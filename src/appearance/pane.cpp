@@ -66,8 +66,8 @@ class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterfa
   }
 
   QAccessible::Role role() const override {
-    return static_cast<QAccessible::Role>(isButton_ ? item().property("accessibleRole").toInt()
-                                                    : written("role").toInt());
+    const QVariant own = source().property("accessibleRole");
+    return static_cast<QAccessible::Role>((own.isValid() ? own : written("role")).toInt());
   }
   QString text(QAccessible::Text kind) const override {
     if (kind == QAccessible::Name) return written("name").toString();
@@ -79,12 +79,12 @@ class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterfa
     state.invisible = !item().isVisible() || !window() || !window()->isVisible();
     state.offscreen =
         window() && !QRect(window()->mapToGlobal(QPoint()), window()->size()).intersects(rect());
-    state.modal = item().property("isModal").toBool();
+    state.modal = source().property("modal").toBool();
     state.focusable = isButton_ && item().activeFocusOnTab();
     state.focused = item().hasActiveFocus() && isButton_;
     state.pressed = item().property("down").toBool();
-    state.checkable = written("checkable").toBool();
-    state.checked = written("checked").toBool();
+    state.checkable = source().property("isCheckable").toBool();
+    state.checked = source().property("isChecked").toBool();
     state.selectable = written("selectable").toBool();
     state.selected = written("selected").toBool();
     return state;
@@ -109,6 +109,10 @@ class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterfa
 
  private:
   Item& item() const { return static_cast<Item&>(*object()); }
+  /// What QML gives the properties: the popup behind its item.
+  const QObject& source() const {
+    return item().inherits("QQuickPopupItem") ? *item().QObject::parent() : item();
+  }
   QVariant written(const char* property) const {
     const QObject* accessible = accessibleOf(item());
     return accessible ? accessible->property(property) : QVariant();
@@ -123,7 +127,7 @@ class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterfa
 };
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
-  constexpr std::array<QStringView, 2> ours{u"QQuickAbstractButton", u"tavi::Pane"};
+  constexpr std::array<QStringView, 3> ours{u"QQuickAbstractButton", u"QQuickPopupItem", u"tavi::Pane"};
   if (std::ranges::find(ours, QStringView(className)) == ours.end() || !accessibleOf(*object)) return nullptr;
   return std::make_unique<AccessibleItem>(static_cast<Item&>(*object)).release();  // Qt owns it
 }

@@ -7,12 +7,13 @@ namespace tavi {
 /// A part of the window as assistive technology sees it; in QML give it `Accessible.role` and, for a dialog,
 /// `Accessible.name`.
 ///
-/// What Qt cannot say of an item is said here: that a pane is modal, and that nothing of a covered one can be
-/// reached. Beside that, buttons keep the role of their property `accessibleRole`, and say when they are off.
+/// What Qt does not tell of an item is told here: that nothing of a covered pane can be reached, that a popup
+/// is modal, that a button is off. Buttons and popups have the role of their property `accessibleRole`, where
+/// they have one, and buttons the state of `isCheckable` and `isChecked`: the templates write over what is
+/// attached.
 class Pane : public QQuickItem {
   Q_OBJECT
   QML_ANONYMOUS
-  Q_PROPERTY(bool isModal MEMBER isModal_ NOTIFY changed)
   Q_PROPERTY(bool isCovered READ isCovered WRITE setCovered NOTIFY changed)
 
  public:
@@ -25,7 +26,6 @@ class Pane : public QQuickItem {
   void changed();
 
  private:
-  bool isModal_ = false;
   bool isCovered_ = false;
 };
 

@@ -37,6 +37,7 @@ Item {
         dim: modal
         focus: modal
         closePolicy: modal ? T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose
+        Component.onCompleted: contentItem.parent.Accessible.name = qsTrId("menuButton")
         onAboutToShow: tell(true)
         onAboutToHide: tell(false)
 
@@ -56,9 +57,7 @@ Item {
         contentItem: ControllerHost {
             objectName: "sideMenu"
             controller: page.controller.leftController
-            isModal: drawer.modal
             Accessible.role: Accessible.Pane
-            Accessible.name: qsTrId("menuButton")
         }
 
         Transition {

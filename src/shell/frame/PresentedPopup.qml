@@ -44,7 +44,10 @@ T.Popup {
     closePolicy: T.Popup.NoAutoClose
     enter: !controller.isPresentationAnimated ? null : isCard || style === ViewController.OverCurrentContext ? fadeIn : rise
     exit: !controller.isPresentationAnimated || isCard ? null : style === ViewController.OverCurrentContext ? fadeOut : sink
-    Component.onCompleted: controller.presentationShown()
+    Component.onCompleted: {
+        contentItem.parent.Accessible.name = controller.title;
+        controller.presentationShown();
+    }
     onClosed: {
         ViewManager.restoreFocus();
         controller.presentationGone();
@@ -100,9 +103,7 @@ T.Popup {
                 width: scroll.width
                 height: scroll.contentHeight
                 controller: popup.controller
-                isModal: true
-                Accessible.role: Accessible.Dialog
-                Accessible.name: popup.controller.title
+                Accessible.role: Accessible.Pane
             }
         }
     }

@@ -15,6 +15,7 @@ T.Popup {
     focus: true
     closePolicy: T.Popup.NoAutoClose
     visible: ViewManager.isSpinnerVisible
+    Component.onCompleted: contentItem.parent.Accessible.name = qsTrId("pleaseWait")
     onClosed: ViewManager.restoreFocus()
 
     contentItem: Rectangle {

@@ -6,23 +6,21 @@ import Tavi
 T.Popup {
     id: toast
 
+    readonly property int accessibleRole: Accessible.AlertMessage
+
     x: (parent.width - width) / 2
     y: parent.height - 120
     z: 2
     width: 0.9 * parent.width
     height: Math.max(40, contentItem.implicitHeight)
     closePolicy: T.Popup.NoAutoClose
-    onOpened: ViewManager.announce(box)
+    onOpened: ViewManager.announce(contentItem.parent)
     onClosed: ViewManager.restoreFocus()
 
     background: Rectangle {
-        id: box
-
         objectName: "toast"
         radius: 10
         color: Qt.alpha(Theme.label, 0.8)
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: ViewManager.toastText
 
         TapHandler {
             gesturePolicy: TapHandler.WithinBounds
@@ -94,6 +92,7 @@ T.Popup {
             toast.close();
             if (!ViewManager.toastText)
                 return life.stop();
+            toast.contentItem.parent.Accessible.name = ViewManager.toastText;
             toast.open();
             life.restart();
         }

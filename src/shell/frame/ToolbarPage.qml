@@ -56,6 +56,7 @@ Item {
                 elide: Text.ElideRight
                 fontSizeMode: page.toolbar.shrinksTitle ? Text.HorizontalFit : Text.FixedSize
                 minimumPixelSize: 12
+                Accessible.name: text.trim()
             }
             Row {
                 id: right
