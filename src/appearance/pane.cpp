@@ -26,7 +26,7 @@ QObject* accessibleOf(const QObject& object) {
 void appendParts(const Item& item, QList<QAccessibleInterface*>& parts) {
   for (Item* child : item.childItems()) {
     const QObject* accessible = accessibleOf(*child);
-    const bool isIgnored = accessible && accessible->property("ignored").toBool();
+    const bool isIgnored = accessible != nullptr && accessible->property("ignored").toBool();
     auto* part = isIgnored ? nullptr : QAccessible::queryAccessibleInterface(child);
     if (part)
       parts.append(part);
@@ -76,9 +76,9 @@ class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterfa
   QAccessible::State state() const override {
     QAccessible::State state;
     state.disabled = !item().isEnabled();
-    state.invisible = !item().isVisible() || !window() || !window()->isVisible();
+    state.invisible = !item().isVisible() || window() == nullptr || !window()->isVisible();
     state.offscreen =
-        window() && !QRect(window()->mapToGlobal(QPoint()), window()->size()).intersects(rect());
+        window() != nullptr && !QRect(window()->mapToGlobal(QPoint()), window()->size()).intersects(rect());
     state.modal = source().property("modal").toBool();
     state.focusable = isButton_ && item().activeFocusOnTab();
     state.focused = item().hasActiveFocus() && isButton_;
@@ -128,7 +128,8 @@ class AccessibleItem : public QAccessibleObject, public QAccessibleActionInterfa
 
 QAccessibleInterface* makeInterface(const QString& className, QObject* object) {
   constexpr std::array<QStringView, 3> ours{u"QQuickAbstractButton", u"QQuickPopupItem", u"tavi::Pane"};
-  if (std::ranges::find(ours, QStringView(className)) == ours.end() || !accessibleOf(*object)) return nullptr;
+  if (std::ranges::find(ours, QStringView(className)) == ours.end() || accessibleOf(*object) == nullptr)
+    return nullptr;
   return std::make_unique<AccessibleItem>(static_cast<Item&>(*object)).release();  // Qt owns it
 }
 

@@ -1,6 +1,7 @@
 #include "appearance/picture.h"
 
 #include <QSvgRenderer>
+#include <array>
 
 #include "appearance/appearance.h"
 #include "platform/resource_bundle.h"
@@ -15,7 +16,7 @@ struct ColorPair {
 };
 
 /// Every colour of the drawings that is another one in the dark.
-constexpr ColorPair colorPairs[] = {
+constexpr auto colorPairs = std::to_array<ColorPair>({
     {"#fdfdfe", "#1c1c1e"},  // paper
     {"#eceff1", "#2c2c2e"},  // page
     {"#d1d1d6", "#48484a"},  // line
@@ -25,7 +26,7 @@ constexpr ColorPair colorPairs[] = {
     {"#ffc400", "#b38900"},  // strong yellow
     {"#ed407a", "#a62d55"},  // pink
     {"#b5004f", "#7f0037"},  // dark magenta
-};
+});
 
 }  // namespace
 

@@ -1,31 +1,31 @@
 #include "appearance/shadow_item.h"
 
 #include <QImage>
+#include <QList>
 #include <QPainter>
 #include <cmath>
-#include <vector>
+#include <numeric>
 
 namespace tavi {
 
 namespace {
 
 /// Averages each alpha over its neighbours within the radius along a line of pixels.
-void blurLine(uchar* first, qsizetype stride, int count, int radius, std::vector<int>& line) {
+void blurLine(uchar* first, qsizetype stride, int count, int radius, QList<int>& line) {
   const int width = 2 * radius + 1;
-  line.assign(static_cast<std::size_t>(count + 2 * radius + 1), 0);
-  for (int i = 0; i < count; ++i) line[static_cast<std::size_t>(i + radius)] = first[i * stride];
-  int sum = 0;
-  for (int i = 0; i < width; ++i) sum += line[static_cast<std::size_t>(i)];
+  line.fill(0, count + width);
+  for (int i = 0; i < count; ++i) line[i + radius] = first[i * stride];
+  int sum = std::accumulate(line.cbegin(), line.cbegin() + width, 0);
   for (int i = 0; i < count; ++i) {
     first[i * stride] = static_cast<uchar>(sum / width);
-    sum += line[static_cast<std::size_t>(i + width)] - line[static_cast<std::size_t>(i)];
+    sum += line[i + width] - line[i];
   }
 }
 
 /// Three box blurs come close to a Gaussian one.
 void blur(QImage& mask, int radius) {
   if (radius < 1) return;
-  std::vector<int> line;
+  QList<int> line;
   for (int pass = 0; pass < 3; ++pass) {
     for (int y = 0; y < mask.height(); ++y) blurLine(mask.scanLine(y), 1, mask.width(), radius, line);
     for (int x = 0; x < mask.width(); ++x)

@@ -13,75 +13,75 @@ Theme::Theme(QObject* parent) : QObject(parent) {
   connect(&Motion::shared(), &Motion::changed, this, &Theme::motionChanged);
 }
 
-bool Theme::isDark() const {
+bool Theme::isDark() {
   return Appearance::shared().isDark();
 }
 
-bool Theme::isMotionReduced() const {
+bool Theme::isMotionReduced() {
   return Motion::shared().isReduced();
 }
 
-QColor Theme::label() const {
+QColor Theme::label() {
   return InterfaceColor::label();
 }
 
-QColor Theme::secondaryGray() const {
+QColor Theme::secondaryGray() {
   return InterfaceColor::secondaryGray();
 }
 
-QColor Theme::background() const {
+QColor Theme::background() {
   return InterfaceColor::background();
 }
 
-QColor Theme::groupedBackground() const {
+QColor Theme::groupedBackground() {
   return InterfaceColor::groupedBackground();
 }
 
-QColor Theme::page() const {
+QColor Theme::page() {
   return InterfaceColor::page();
 }
 
-QColor Theme::hairline() const {
+QColor Theme::hairline() {
   return InterfaceColor::hairline();
 }
 
-QColor Theme::focus() const {
+QColor Theme::focus() {
   return isDark() ? QColor::fromRgb(0x64b5f6) : QColor::fromRgb(0x1565c0);
 }
 
-QColor Theme::red() const {
+QColor Theme::red() {
   return InterfaceColor::red();
 }
 
-QColor Theme::accentText() const {
+QColor Theme::accentText() {
   return isDark() ? QColor::fromRgb(0xff80ab) : QColor::fromRgb(0xc2185b);
 }
 
-LayerShadow Theme::edgeShadow() const {
+LayerShadow Theme::edgeShadow() {
   return {.color = InterfaceColor::label(), .opacity = 0.5, .offset = {}, .radius = 4};
 }
 
-QColor Theme::darkTitle() const {
+QColor Theme::darkTitle() {
   return InterfaceColor::darkTitle();
 }
 
-QColor Theme::legible(const QColor& text, const QColor& ground) const {
+QColor Theme::legible(const QColor& text, const QColor& ground) {
   return tavi::legible(text, ground);
 }
 
-QFont Theme::book(int size) const {
+QFont Theme::book(int size) {
   return InterfaceFont::book(size);
 }
 
-QFont Theme::medium(int size) const {
+QFont Theme::medium(int size) {
   return InterfaceFont::medium(size);
 }
 
-QFont Theme::heavy(int size) const {
+QFont Theme::heavy(int size) {
   return InterfaceFont::heavy(size);
 }
 
-QFont Theme::icons(int size) const {
+QFont Theme::icons(int size) {
   return InterfaceFont::icons(size);
 }
 

@@ -40,40 +40,40 @@ class Theme : public QObject {
  public:
   explicit Theme(QObject* parent = nullptr);
 
-  bool isDark() const;
-  bool isMotionReduced() const;  ///< What would move stands at once.
-  QColor label() const;
-  QColor secondaryGray() const;
-  QColor background() const;
-  QColor groupedBackground() const;
-  QColor page() const;
-  QColor hairline() const;         ///< Thin separating lines.
-  QColor focus() const;            ///< The ring around what the keyboard acts on.
-  QColor red() const;              ///< What deletes.
-  QColor accentText() const;       ///< Pink as it can be read as text on the background.
-  LayerShadow edgeShadow() const;  ///< Where a view that scrolls sideways goes on.
-  QColor darkTitle() const;
-  QColor darkGold() const { return KeypadPalette::shared().darkGold; }
-  QColor brightYellow() const { return KeypadPalette::shared().brightYellow; }
-  QColor strongYellow() const { return KeypadPalette::shared().strongYellow; }
-  QColor pink() const { return KeypadPalette::shared().pink; }
-  QColor darkMagenta() const { return KeypadPalette::shared().darkMagenta; }
+  static bool isDark();
+  static bool isMotionReduced();  ///< What would move stands at once.
+  static QColor label();
+  static QColor secondaryGray();
+  static QColor background();
+  static QColor groupedBackground();
+  static QColor page();
+  static QColor hairline();         ///< Thin separating lines.
+  static QColor focus();            ///< The ring around what the keyboard acts on.
+  static QColor red();              ///< What deletes.
+  static QColor accentText();       ///< Pink as it can be read as text on the background.
+  static LayerShadow edgeShadow();  ///< Where a view that scrolls sideways goes on.
+  static QColor darkTitle();
+  static QColor darkGold() { return KeypadPalette::shared().darkGold; }
+  static QColor brightYellow() { return KeypadPalette::shared().brightYellow; }
+  static QColor strongYellow() { return KeypadPalette::shared().strongYellow; }
+  static QColor pink() { return KeypadPalette::shared().pink; }
+  static QColor darkMagenta() { return KeypadPalette::shared().darkMagenta; }
 
   /// Windows from this width on are laid out as a tablet's.
-  int tabletWidth() const { return 840; }
+  static int tabletWidth() { return 840; }
   /// Windows below this height go without the status strip and have bars of the height below.
-  int lowHeight() const { return 560; }
-  int lowBarHeight() const { return 40; }
+  static int lowHeight() { return 560; }
+  static int lowBarHeight() { return 40; }
   /// Smallest side of what a finger taps, but in a low window.
-  int touchTarget() const { return 48; }
+  static int touchTarget() { return 48; }
 
   /// The text's colour, changed as little as it takes to be read on the ground.
-  Q_INVOKABLE QColor legible(const QColor& text, const QColor& ground) const;
+  Q_INVOKABLE static QColor legible(const QColor& text, const QColor& ground);
 
-  Q_INVOKABLE QFont book(int size) const;
-  Q_INVOKABLE QFont medium(int size) const;
-  Q_INVOKABLE QFont heavy(int size) const;
-  Q_INVOKABLE QFont icons(int size) const;
+  Q_INVOKABLE static QFont book(int size);
+  Q_INVOKABLE static QFont medium(int size);
+  Q_INVOKABLE static QFont heavy(int size);
+  Q_INVOKABLE static QFont icons(int size);
 
  signals:
   void appearanceChanged();

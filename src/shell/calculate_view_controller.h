@@ -26,7 +26,7 @@ namespace tavi {
 /// In mode 0 the field "xTextField" is the base and "aTextField" the exponent, in mode 1 they are the
 /// radicand and the root index. Each identifier has one field in the view of each mode; these twins hold the
 /// same text.
-class CalculateViewController : public AdHandlingViewController {
+class CalculateViewController : public tavi::AdHandlingViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

@@ -24,7 +24,7 @@ class AppPageTabBarController;
 
 /// The second page: one solved problem as a table of steps, charts and videos, with the buttons to share it
 /// and to open the manual.
-class SolutionViewController : public AdHandlingViewController {
+class SolutionViewController : public tavi::AdHandlingViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

@@ -14,7 +14,7 @@ namespace tavi {
 
 /// An offer for another product over the whole window: a picture, a button to close it and one that leads to
 /// the offer. Whoever presents it sets `currentAd` before.
-class TaviAdsViewController : public ViewController {
+class TaviAdsViewController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by who presents it")

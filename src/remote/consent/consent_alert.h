@@ -5,7 +5,7 @@
 namespace tavi {
 
 /// A question that only its buttons answer, and whose keyboard begins at the last one, which allows least.
-class ConsentAlert : public AlertController {
+class ConsentAlert : public tavi::AlertController {
   Q_OBJECT
   QML_ANONYMOUS
   Q_PROPERTY(int firstFocus READ lastAction CONSTANT)

@@ -55,7 +55,7 @@ struct OnboardAppearance {
 
 /// A short sequence of pictures with words, from page to page by swipe, key or button. The button of the last
 /// page ends it and then runs the completion.
-class OnboardViewController : public ViewController,
+class OnboardViewController : public tavi::ViewController,
                               public std::enable_shared_from_this<OnboardViewController> {
   Q_OBJECT
   QML_ELEMENT

@@ -5,7 +5,7 @@
 namespace tavi {
 
 /// A drawing with a title and a text, all three by one key: drawing KEY, words "KEYTitle" and "KEYText".
-class InformationViewController : public ViewController {
+class InformationViewController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

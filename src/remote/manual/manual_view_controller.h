@@ -7,7 +7,7 @@
 namespace tavi {
 
 /// One drawing that explains a screen, to be looked at closely, with its numerals in words below it.
-class ManualViewController : public ViewController {
+class ManualViewController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

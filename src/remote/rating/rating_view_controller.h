@@ -12,7 +12,7 @@ namespace tavi {
 
 /// Asks over the input page how the user likes the application. Many stars lead to the store, few only to
 /// thanks. The application has one, which is shown every time.
-class RatingViewController : public ViewController,
+class RatingViewController : public tavi::ViewController,
                              public std::enable_shared_from_this<RatingViewController> {
   Q_OBJECT
   QML_ELEMENT

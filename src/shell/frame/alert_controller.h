@@ -24,7 +24,7 @@ struct AlertAction {
 
 /// A short question or message over a screen, with a button per action. A tap on one ends the alert and then
 /// runs its handler.
-class AlertController : public ViewController {
+class AlertController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by presentAlert")

@@ -28,7 +28,7 @@ void ControllerHost::setController(ViewController* controller) {
 }
 
 bool ControllerHost::isCovered() const {
-  return Pane::isCovered() || (controller_ && controller_->isCovered());
+  return Pane::isCovered() || (controller_ != nullptr && controller_->isCovered());
 }
 
 void ControllerHost::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {

@@ -12,7 +12,7 @@ namespace tavi {
 
 /// The place in a layout where a controller's view is shown, filling it. Over the window it shows what the
 /// controller presents. It wants to be as high as the view does.
-class ControllerHost : public Pane {
+class ControllerHost : public tavi::Pane {
   Q_OBJECT
   QML_ELEMENT
   Q_PROPERTY(tavi::ViewController* controller READ controller WRITE setController NOTIFY controllerChanged)

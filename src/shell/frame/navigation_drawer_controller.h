@@ -5,7 +5,7 @@
 namespace tavi {
 
 /// The root of the window: the pages, and the side menu that slides over them from the left.
-class AppNavigationDrawerController : public ViewController {
+class AppNavigationDrawerController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

@@ -5,7 +5,7 @@
 namespace tavi {
 
 /// The two pages, input and solution, under a bar with a tab for each. One page is open at a time.
-class AppPageTabBarController : public ViewController {
+class AppPageTabBarController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

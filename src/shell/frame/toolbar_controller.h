@@ -7,7 +7,7 @@
 namespace tavi {
 
 /// A container that shows one controller under a toolbar.
-class BasicToolbarController : public ViewController {
+class BasicToolbarController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")
@@ -40,7 +40,7 @@ class BasicToolbarController : public ViewController {
 };
 
 /// The bar over the pages, with the menu button.
-class AppToolbarController : public BasicToolbarController {
+class AppToolbarController : public tavi::BasicToolbarController {
   Q_OBJECT
 
  public:
@@ -58,7 +58,7 @@ class AppToolbarController : public BasicToolbarController {
 };
 
 /// The head of the side menu, with the application's title and the way to its settings.
-class MenuToolbarController : public BasicToolbarController {
+class MenuToolbarController : public tavi::BasicToolbarController {
   Q_OBJECT
 
  public:

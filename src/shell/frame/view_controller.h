@@ -192,7 +192,7 @@ class ViewController : public QObject {
 };
 
 /// A page with a strip for a banner at its foot. Nothing fills the strip yet.
-class AdHandlingViewController : public ViewController {
+class AdHandlingViewController : public tavi::ViewController {
   Q_OBJECT
 
  public:

@@ -83,7 +83,7 @@ void ViewManager::prepareSegmentedControls(const QQuickItem& item) {
   }
 }
 
-QFont ViewManager::toastFont() const {
+QFont ViewManager::toastFont() {
   return InterfaceFont::book(14);
 }
 

@@ -57,7 +57,7 @@ class ViewManager : public QObject {
   bool isSpinnerVisible() const { return isSpinnerVisible_; }
   QString toastText() const { return toastText_; }
   QString toastActionTitle() const { return toastAction_.title; }
-  QFont toastFont() const;
+  static QFont toastFont();
 
  signals:
   void toastChanged();

@@ -17,7 +17,7 @@ namespace tavi {
 ///
 /// Moving a row over others exchanges the two end positions in the store, while the table shifts the rows
 /// between. Until the next visit the two may differ in order, and every operation goes by the row number.
-class HistoryTableViewController : public ViewController {
+class HistoryTableViewController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

@@ -1,6 +1,7 @@
 #include "shell/launch/app_delegate.h"
 
 #include <QGuiApplication>
+#include <utility>
 
 #include "input/error_manager.h"
 #include "output/catalogues.h"
@@ -32,8 +33,8 @@ void sayLaterThatNothingIsKept() {
 
 }  // namespace
 
-AppDelegate::AppDelegate(QQmlEngine& engine, const AppServices& services)
-    : engine_(engine), services_(services) {
+AppDelegate::AppDelegate(QQmlEngine& engine, AppServices services)
+    : engine_(engine), services_(std::move(services)) {
   if (!services_.rating)
     services_.rating = std::make_shared<RatingViewController>(
         services_.userDefaults, services_.onlineTest, [this] { leftViewController()->openRatingPage(); });

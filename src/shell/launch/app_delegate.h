@@ -25,7 +25,7 @@ class AppDelegate : public QObject {
 
  public:
   /// The engine loads the pages; it and the services must live longer than every controller.
-  explicit AppDelegate(QQmlEngine& engine, const AppServices& services = {});
+  explicit AppDelegate(QQmlEngine& engine, AppServices services = {});
   ~AppDelegate() override;
 
   /// The launch: remote records, first-start step, screen tree, window. To be called once.

@@ -13,7 +13,7 @@ namespace tavi {
 
 /// The side menu: the screens, two ways to reach us and, once the remote records know of both kinds, the
 /// family's other applications. Built once; it lives as long as the window.
-class LeftViewController : public ViewController {
+class LeftViewController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

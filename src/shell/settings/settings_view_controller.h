@@ -9,7 +9,7 @@ namespace tavi {
 
 /// What the user can choose, in a sheet over the menu. Each choice is kept at once; the appearance and the
 /// consent to measurement hold at once, too, the language from the next start on.
-class SettingsViewController : public ViewController {
+class SettingsViewController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the application")

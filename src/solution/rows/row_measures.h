@@ -32,7 +32,7 @@ struct RowMeasures {
   int titleSize = 14;
 
   /// The em of the formulas on a page of that width.
-  Q_INVOKABLE double formulaSize(double viewWidth) const { return viewWidth >= tabletWidth ? 24 : 20; }
+  Q_INVOKABLE static double formulaSize(double viewWidth) { return viewWidth >= tabletWidth ? 24 : 20; }
 
   /// The card of a row of videos in a row of that height and a table of that height. Videos need no more,
   /// however wide the window and so high the row is.

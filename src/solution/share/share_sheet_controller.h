@@ -23,7 +23,7 @@ struct SharedWorking {
 /// What can be done with a working, offered over the page: save it, copy it, open it, as a picture or as a
 /// document; copy it as LaTeX. A system with a sheet of its own is given the picture here in place of the
 /// page.
-class ShareSheetController : public ViewController {
+class ShareSheetController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the solution page")
