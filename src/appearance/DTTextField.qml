@@ -56,7 +56,7 @@ DTTextFieldItem {
         Accessible.name: field.label
         Accessible.description: field.faultWords === "" ? "" : qsTrId("Invalid entry") + ": " + field.faultWords
         Accessible.readOnly: !field.enabled
-        Keys.forwardTo: field // Before this input takes a Backspace without deleting anything.
+        Keys.forwardTo: [field] // Before this input takes a Backspace without deleting anything.
 
         // Field and input tell each other their changes, one at a time.
         property bool isSynchronizing: false
@@ -114,7 +114,7 @@ DTTextFieldItem {
         Timer {
             id: blinking
 
-            interval: Qt.styleHints.cursorFlashTime / 2
+            interval: Application.styleHints.cursorFlashTime / 2
             repeat: true
             onTriggered: caret.opacity = 1 - caret.opacity
         }

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Templates as T
-import Tavi
 
 // What can be pressed: by finger, mouse, Space, Return and Enter, and by assistive technology. It shows nothing yet.
 T.AbstractButton {

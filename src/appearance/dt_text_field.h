@@ -21,6 +21,7 @@ struct TextRange {
 /// How a field looks while nothing is wrong with it; lengths in device-independent pixels.
 struct FieldStyle {
   Q_GADGET
+  QML_ANONYMOUS
   Q_PROPERTY(QColor labelColor MEMBER labelColor)
   Q_PROPERTY(QColor caretColor MEMBER caretColor)
   Q_PROPERTY(double labelOffset MEMBER labelOffset)

@@ -11,6 +11,7 @@ namespace tavi {
 /// A soft shadow under an item. Offset and radius in device-independent pixels, opacity 0 to 1.
 struct LayerShadow {
   Q_GADGET
+  QML_ANONYMOUS
   Q_PROPERTY(QColor color MEMBER color)
   Q_PROPERTY(double opacity MEMBER opacity)
   Q_PROPERTY(QPointF offset MEMBER offset)

@@ -37,8 +37,8 @@ FocusScope {
         controller.segmentedControl = modeSwitch;
         controller.modeAView = fields.powerFields;
         controller.modeBView = fields.rootFields;
-        controller.aTextField = [fields.exponentField, fields.indexField];
-        controller.xTextField = [fields.baseField, fields.radicandField];
+        controller.aTextField = [fields.exponentField, fields.indexField]; // qmllint disable property
+        controller.xTextField = [fields.baseField, fields.radicandField]; // qmllint disable property
     }
     Keys.onReturnPressed: controller.tappedCalculateButton()
     Keys.onEnterPressed: controller.tappedCalculateButton()

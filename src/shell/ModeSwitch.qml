@@ -18,6 +18,10 @@ SegmentedControl {
         id: powerPicture
 
         Item {
+            id: power
+
+            readonly property var segment: parent
+
             Text {
                 id: powerBase
 
@@ -25,7 +29,7 @@ SegmentedControl {
                 anchors.horizontalCenterOffset: -5
                 text: "x"
                 font: Theme.medium(26)
-                color: parent.parent.color
+                color: power.segment.color
             }
             Text {
                 anchors.left: powerBase.right
@@ -42,6 +46,10 @@ SegmentedControl {
         id: rootPicture
 
         Item {
+            id: root
+
+            readonly property var segment: parent
+
             Radical {
                 id: sign
 
@@ -51,7 +59,7 @@ SegmentedControl {
                 hookWidth: 14
                 hookHeight: 12
                 lineWidth: 1.5
-                color: parent.parent.color
+                color: root.segment.color
             }
             Text {
                 anchors.right: sign.left

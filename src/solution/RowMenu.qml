@@ -38,13 +38,10 @@ T.Menu {
     component Entry: T.MenuItem {
         id: entry
 
-        property int form
-
         implicitWidth: menu.width
         implicitHeight: Theme.touchTarget
         Accessible.role: Accessible.MenuItem
         Accessible.name: text
-        onTriggered: menu.controller.copyRow(menu.row, form)
 
         background: Rectangle {
             color: Theme.label
@@ -64,21 +61,21 @@ T.Menu {
     Entry {
         objectName: "copyRowLatex"
         text: qsTrId("copyAsLatex")
-        form: RowCopy.Latex
+        onTriggered: menu.controller.copyRow(menu.row, RowCopy.Latex)
     }
     Entry {
         objectName: "copyRowMathMl"
         text: qsTrId("copyAsMathMl")
-        form: RowCopy.MathMl
+        onTriggered: menu.controller.copyRow(menu.row, RowCopy.MathMl)
     }
     Entry {
         objectName: "copyRowWords"
         text: qsTrId("copyAsWords")
-        form: RowCopy.Words
+        onTriggered: menu.controller.copyRow(menu.row, RowCopy.Words)
     }
     Entry {
         objectName: "copyRowPicture"
         text: qsTrId("copyAsPicture")
-        form: RowCopy.Picture
+        onTriggered: menu.controller.copyRow(menu.row, RowCopy.Picture)
     }
 }

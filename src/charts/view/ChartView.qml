@@ -4,6 +4,8 @@ import Tavi
 
 // A row of charts that answers to finger, pointer and keyboard: points are marked, a tree is scrolled, an animation
 // is played again.
+
+// qmllint disable alias
 Item {
     id: view
 

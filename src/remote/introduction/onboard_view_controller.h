@@ -14,6 +14,7 @@ namespace tavi {
 /// One page of a short sequence.
 struct OnboardPage {
   Q_GADGET
+  QML_ANONYMOUS
   Q_PROPERTY(QString title MEMBER title)
   Q_PROPERTY(QString imageName MEMBER imageName)
   Q_PROPERTY(QString description MEMBER description)
@@ -31,6 +32,7 @@ struct OnboardPage {
 /// The look of the pages, as it is when the sequence is made.
 struct OnboardAppearance {
   Q_GADGET
+  QML_ANONYMOUS
   Q_PROPERTY(QColor tintColor MEMBER tintColor)
   Q_PROPERTY(QColor titleColor MEMBER titleColor)
   Q_PROPERTY(QColor textColor MEMBER textColor)

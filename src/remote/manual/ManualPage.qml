@@ -58,7 +58,7 @@ Item {
             activeFocusOnTab: true
             Accessible.role: Accessible.Graphic
             Accessible.name: page.controller.label
-            Accessible.description: page.controller.legend.join(" ")
+            Accessible.description: Array.from(page.controller.legend).join(" ")
             Accessible.focusable: true
             Keys.onPressed: event => {
                 const middle = Qt.point(width / 2, height / 2);
@@ -84,7 +84,7 @@ Item {
                 width: scroll.contentWidth
                 height: scroll.contentHeight
                 // As sharp as the window at twice its size, and no more memory than that takes.
-                textureSize: Qt.size(Math.min(2, scroll.zoom) * scroll.width * Screen.devicePixelRatio, Math.min(2, scroll.zoom) * scroll.height * Screen.devicePixelRatio)
+                textureSize: Qt.size(Math.min(2, scroll.zoom) * scroll.width * Screen.devicePixelRatio, Math.min(2, scroll.zoom) * scroll.height * Screen.devicePixelRatio) // qmllint disable type
 
                 TapHandler {
                     onDoubleTapped: scroll.zoomAt(Qt.point(point.position.x - scroll.contentX, point.position.y - scroll.contentY), scroll.zoom > 1 ? 0 : 2.5)
@@ -142,6 +142,8 @@ Item {
                 model: page.controller.legend
 
                 Row {
+                    id: entry
+
                     required property int index
                     required property string modelData
 
@@ -157,7 +159,7 @@ Item {
 
                         Text {
                             anchors.centerIn: parent
-                            text: parent.parent.index + 1
+                            text: entry.index + 1
                             font: Theme.heavy(14)
                             color: "white"
                             Accessible.ignored: true
@@ -165,7 +167,7 @@ Item {
                     }
                     Text {
                         width: legend.width - 36
-                        text: parent.modelData
+                        text: entry.modelData
                         font: Theme.book(16)
                         color: Theme.label
                         wrapMode: Text.Wrap

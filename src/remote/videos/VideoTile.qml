@@ -13,7 +13,7 @@ Item {
     readonly property bool isVideo: controller.isVideo(link)
     readonly property bool isPlaying: isVideo && isInSight && !controller.isLocked
     readonly property Component playerComponent: isPlaying ? controller.player() : null
-    readonly property bool isReady: player.item !== null && player.item.isReady
+    readonly property bool isReady: Boolean(player.page?.isReady)
     readonly property bool opensOutside: isPlaying && (playerComponent === null || isGivenUp)
     property bool isGivenUp: false
 
@@ -40,11 +40,13 @@ Item {
     Loader {
         id: player
 
+        readonly property var page: item
+
         anchors.fill: parent
         anchors.margins: 6
         active: tile.playerComponent !== null && !tile.isGivenUp
         sourceComponent: tile.playerComponent
-        onLoaded: item.play(tile.controller.page(tile.link), tile.controller.pageAddress())
+        onLoaded: page.play(tile.controller.page(tile.link), tile.controller.pageAddress())
     }
     Connections {
         target: player.item

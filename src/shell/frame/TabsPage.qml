@@ -21,7 +21,7 @@ Rectangle {
             Repeater {
                 id: tabs
 
-                model: page.controller.tabItems
+                model: page.controller.tabItems // qmllint disable type
 
                 Pressable {
                     id: tab

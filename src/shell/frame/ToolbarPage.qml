@@ -40,7 +40,7 @@ Item {
                 anchors.leftMargin: 4
                 anchors.verticalCenter: parent.verticalCenter
                 Repeater {
-                    model: page.toolbar.leftViews
+                    model: page.toolbar.leftViews // qmllint disable type
                     delegate: barButton
                 }
             }
@@ -65,7 +65,7 @@ Item {
                 anchors.rightMargin: 4
                 anchors.verticalCenter: parent.verticalCenter
                 Repeater {
-                    model: page.toolbar.rightViews
+                    model: page.toolbar.rightViews // qmllint disable type
                     delegate: barButton
                 }
             }

@@ -29,6 +29,8 @@ class ViewController : public QObject {
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(tavi::TabItem* tabItem READ tabItem CONSTANT)
   Q_PROPERTY(QString title READ title CONSTANT)
+  Q_PROPERTY(
+      tavi::ViewController* presentedController READ presentedController NOTIFY presentedControllerChanged)
   Q_PROPERTY(PresentationStyle presentationStyle READ presentationStyle CONSTANT)
   Q_PROPERTY(bool isPresentationAnimated READ isPresentationAnimated CONSTANT)
   Q_PROPERTY(bool isLeaving READ isLeaving NOTIFY leavingChanged)

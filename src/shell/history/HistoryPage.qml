@@ -15,7 +15,7 @@ Rectangle {
     ListView {
         id: list
 
-        property Item openRow // The one that shows its delete button.
+        property HistoryRow openRow // The one that shows its delete button.
 
         function closeOpenRow() {
             if (openRow)

@@ -8,7 +8,7 @@ HistoryTableViewCell {
 
     required property int index
     required property HistoryTableViewController controller
-    required property ListView table
+    required property var table            // The list around, with its open row.
     required property real fontSize
     required property real shift           // By how much a dragged row pushes this one aside.
     required property bool isShiftAnimated

@@ -14,7 +14,7 @@ TableRow {
         id: chart
 
         anchors.fill: parent
-        charts: row.content.chartData
+        charts: row.content.chartData // qmllint disable type
         isStill: Theme.isMotionReduced
     }
 

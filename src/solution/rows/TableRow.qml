@@ -9,7 +9,7 @@ Item {
     required property var content
     required property var rowHeight
     required property real viewWidth
-    readonly property ListView table: ListView.view
+    readonly property ListView table: ListView.view as ListView
     readonly property bool isCurrent: ListView.isCurrentItem && table !== null && table.activeFocus
 
     signal menuRequested(point place)

@@ -95,8 +95,10 @@ Column {
     }
 
     component FormatName: Text {
+        readonly property var segment: parent
+
         font: Theme.medium(14)
-        color: parent.color
+        color: segment.color
         horizontalAlignment: Text.AlignHCenter
         verticalAlignment: Text.AlignVCenter
         Accessible.ignored: true
