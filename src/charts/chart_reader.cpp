@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <limits>
 #include <optional>
 #include <utility>
@@ -32,7 +33,15 @@ bool decode(const json& value, double& number) {
   return true;
 }
 
+// Also of a writer that knows floating point only, such as 2.0.
 bool decode(const json& value, std::int64_t& number) {
+  if (value.is_number_float()) {
+    constexpr double end = 0x1p63;
+    const auto whole = value.get<double>();
+    if (whole != std::trunc(whole) || whole < -end || whole >= end) return false;
+    number = static_cast<std::int64_t>(whole);
+    return true;
+  }
   if (!value.is_number_integer()) return false;
   constexpr auto largest = static_cast<std::uint64_t>(std::numeric_limits<std::int64_t>::max());
   if (value.is_number_unsigned() && value.get<std::uint64_t>() > largest) return false;
@@ -231,7 +240,7 @@ std::variant<ChartRequest, ChartRequestError> readChartRequest(std::string_view 
   bool isTooDeep = false;
   const json::parser_callback_t watchDepth = [&](int depth, json::parse_event_t, const json&) {
     isTooDeep = isTooDeep || depth > deepestNesting;
-    return true;
+    return !isTooDeep;
   };
   const json request = json::parse(text, watchDepth, false);
   try {

@@ -76,6 +76,7 @@ TEST(ChartDoor, GoesOnBehindLinesThatAreNoRequests) {
       "[]",
       "\xff",
       deep,
+      std::string(17'000'000, ' '),
       R"({"id":0,"charts":[]})",
       R"({"id":0,"width":true,"charts":[]})",
       R"({"id":0,"width":1e999,"charts":[]})",
@@ -110,6 +111,18 @@ TEST(ChartDoor, TellsAFatalStopAndGoesOn) {
   EXPECT_EQ(read[0]["id"], json::parse(R"({"a":[1]})"));
   EXPECT_TRUE(read[0].contains("fatal"));
   EXPECT_EQ(read[1], json::parse(R"({"id":null,"frame":[5,2.5,90,45],"view":null})"));
+}
+
+TEST(ChartDoor, AnswersATreeThatLeavesInPieces) {
+  const std::vector<json> read =
+      answers(R"({"id":1,"width":1,"charts":[{"kind":"BernoulliDistributionTreeChartData","frameRatio":1,)"
+              R"("chartTitle":"","chartColorHexCode":"","probabilityOfSuccess":0.5,"hits":1,"trials":12}]})"
+              "\n");
+  ASSERT_EQ(read.size(), 1U);
+  const json& nodes = read[0]["view"]["nodes"];
+  ASSERT_EQ(nodes.size(), 8191U);
+  EXPECT_EQ(nodes[0]["chain"], json::array());
+  EXPECT_EQ(nodes.back()["leaf"], "0.02%   111111111111");
 }
 
 int exitCodeOf(const QStringList& arguments) {

@@ -9,6 +9,7 @@
 
 #include "charts/chart_manager.h"
 #include "charts/chart_reader.h"
+#include "json_lines.h"
 #include "number/fatal_stop.h"
 
 namespace tavi::cli {
@@ -98,54 +99,55 @@ ordered_json asJson(const DistributionFunctionPresentationView& view) {
 }
 
 template <typename View>
-void write(std::ostream& out, const View& view) {
-  out << asJson(view);
+void append(std::string& out, const View& view) {
+  out += asJson(view).dump();
 }
 
-// A tree may have millions of nodes, so they are written one by one. None of their texts needs an escape.
-void write(std::ostream& out, const TreeChartView& tree) {
+// A tree may have millions of nodes, so they leave one by one. None of their texts needs an escape.
+void append(std::string& out, const TreeChartView& tree) {
   const ordered_json head{{"kind", "TreeChartView"},
                           {"title", tree.chartTitle},
                           {"size", {tree.width, tree.height}},
                           {"probabilitySuccess", tree.probabilitySuccess},
                           {"probabilityFailure", tree.probabilityFailure}};
-  std::string text = head.dump();
-  text.back() = ',';
-  out << text << R"("nodes":[)";
-  const auto number = [&text](double value) {
+  out += head.dump();
+  out.back() = ',';
+  out += R"("nodes":[)";
+  const auto appendNumber = [&out](double value) {
     std::array<char, 32> digits{};
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
-    text.append(digits.data(), result.ptr);
+    out.append(digits.data(), result.ptr);
   };
-  bool isFirst = true;
+  bool isWritten = true;
   visitNodes(tree, [&](const PlacedNode& place) {
     const TreeNode& node = place.node;
-    text = std::exchange(isFirst, false) ? R"({"value":")" : R"(,{"value":")";
-    text += node.value() + R"(","x":)";
-    number(place.x);
-    text += R"(,"y":)";
-    number(place.y);
-    text += node.isHighlighted() ? R"(,"highlighted":true,"chain":[)" : R"(,"highlighted":false,"chain":[)";
-    for (const std::string& event : node.chainOfEvents()) text += '"' + event + "\",";
-    if (text.back() == ',') text.pop_back();
-    text += ']';
-    if (node.isLeaf()) text += R"(,"leaf":")" + leafText(tree, node) + '"';
-    out << text << '}';
-    return true;
+    if (!node.value().empty()) out += ',';
+    out += R"({"value":")" + node.value() + R"(","x":)";
+    appendNumber(place.x);
+    out += R"(,"y":)";
+    appendNumber(place.y);
+    out += node.isHighlighted() ? R"(,"highlighted":true,"chain":[)" : R"(,"highlighted":false,"chain":[)";
+    for (const std::string& event : node.chainOfEvents()) out += '"' + event + "\",";
+    if (out.back() == ',') out.pop_back();
+    out += ']';
+    if (node.isLeaf()) out += R"(,"leaf":")" + leafText(tree, node) + '"';
+    out += '}';
+    isWritten = isWritten && (out.size() < blockSize || writeOut(out));
+    return isWritten;
   });
-  out << "]}";
+  out += "]}";
 }
 
 }  // namespace
 
-void answerChartLine(std::ostream& out, const std::string& line) {
+void answerChartLine(std::string_view line, std::string& out) {
   const auto read = readChartRequest(line);
   if (const auto* error = std::get_if<ChartRequestError>(&read)) {
-    out << ordered_json{{"id", nullptr}, {"error", error->reason}};
+    out += ordered_json{{"id", nullptr}, {"error", error->reason}}.dump();
     return;
   }
   const auto& [id, width, charts] = std::get<ChartRequest>(read);
-  out << R"({"id":)" << id;
+  out += R"({"id":)" + id;
   try {
     ordered_json frame;
     if (!charts.empty()) {
@@ -153,16 +155,16 @@ void answerChartLine(std::ostream& out, const std::string& line) {
       frame = {place.x, place.y, place.width, place.height};
     }
     const std::optional<ChartView> view = ChartManager::chartView(charts);
-    out << R"(,"frame":)" << frame << R"(,"view":)";
+    out += R"(,"frame":)" + frame.dump() + R"(,"view":)";
     if (view) {
-      std::visit([&out](const auto& each) { write(out, each); }, *view);
+      std::visit([&out](const auto& each) { append(out, each); }, *view);
     } else {
-      out << "null";
+      out += "null";
     }
   } catch (const FatalStop& stop) {
-    out << R"(,"fatal":)" << ordered_json(stop.reason);
+    out += R"(,"fatal":)" + ordered_json(stop.reason).dump();
   }
-  out << '}';
+  out += '}';
 }
 
 }  // namespace tavi::cli

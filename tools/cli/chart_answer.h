@@ -1,12 +1,12 @@
 #pragma once
 
-#include <ostream>
 #include <string>
+#include <string_view>
 
 namespace tavi::cli {
 
-/// Answers a line that describes a row of charts by one line: where its view stands and what is to be drawn,
-/// or why there is none. Writes no line end.
-void answerChartLine(std::ostream& out, const std::string& line);
+/// Appends the answer to a line that describes a row of charts, without a line end: where its view stands and
+/// what is to be drawn, or why there is none. An answer without bounds is written out piece by piece.
+void answerChartLine(std::string_view line, std::string& out);
 
 }  // namespace tavi::cli

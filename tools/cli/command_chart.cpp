@@ -3,7 +3,6 @@
 #include <cmath>
 #include <iostream>
 #include <optional>
-#include <sstream>
 #include <string>
 #include <variant>
 
@@ -59,12 +58,14 @@ std::optional<QSizeF> readSize(std::string_view text) {
 }
 
 int answerDescriptions() {
-  return answerLines([](std::string_view line, std::string& out) {
-    std::ostringstream answer;
-    answerChartLine(answer, std::string(line));
-    out += answer.view();
+  // Room for some hundred thousand points.
+  constexpr LineRules rules{.longest = 16UL * 1024 * 1024,
+                            .malformed = R"({"id":null,"error":"a line of more than 16 MiB"})"};
+  const auto answer = [](std::string_view line, std::string& out) {
+    answerChartLine(line, out);
     return true;
-  });
+  };
+  return answerLines(answer, rules);
 }
 
 int wrongFile(std::string_view name, std::string_view reason) {

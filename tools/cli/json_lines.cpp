@@ -15,31 +15,13 @@
 namespace tavi::cli {
 namespace {
 
-constexpr std::size_t blockSize = 64UL * 1024;  // what a pipe holds
-
 // What an answer to one line may leave behind in the buffer for the next ones.
 constexpr std::size_t keptCapacity = 1024UL * 1024;
-
-bool writeAll(std::string& out) {
-  std::string_view rest = out;
-  while (!rest.empty()) {
-    const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) {
-      std::cerr << "tavi-cli: cannot write: " << std::strerror(errno) << '\n';
-      return false;
-    }
-    rest.remove_prefix(static_cast<std::size_t>(written));
-  }
-  out.clear();
-  if (out.capacity() > keptCapacity) out.shrink_to_fit();
-  return true;
-}
 
 // Cuts a stream of blocks into lines. A line that lies in one block is never copied.
 class LineFilter {
  public:
-  explicit LineFilter(const LineAnswer& answer) : answer_(answer) {}
+  LineFilter(const LineAnswer& answer, const LineRules& rules) : answer_(answer), rules_(rules) {}
 
   // False when the output cannot be written.
   bool take(std::string_view block) {
@@ -51,21 +33,21 @@ class LineFilter {
         keep(block.substr(0, end));
         finish();
       }
-      if (out_.size() >= blockSize && !writeAll(out_)) return false;
+      if (out_.size() >= blockSize && !writeOut(out_)) return false;
     }
     keep(block);
-    return writeAll(out_);
+    return writeOut(out_);
   }
 
   // The last line needs no line end.
   bool close() {
     if (!begun_.empty()) finish();
-    return writeAll(out_);
+    return writeOut(out_);
   }
 
  private:
   // One byte beyond the limit tells that the line is too long; more is not kept.
-  void keep(std::string_view piece) { begun_ += piece.substr(0, lineLimit + 1 - begun_.size()); }
+  void keep(std::string_view piece) { begun_ += piece.substr(0, rules_.longest + 1 - begun_.size()); }
 
   void finish() {
     reply(begun_);
@@ -73,11 +55,12 @@ class LineFilter {
   }
 
   void reply(std::string_view line) {
-    if (line.size() > lineLimit || !answer_(line, out_)) out_ += R"({"malformed":true})";
+    if (line.size() > rules_.longest || !answer_(line, out_)) out_ += rules_.malformed;
     out_ += '\n';
   }
 
   const LineAnswer& answer_;
+  const LineRules& rules_;
   std::string begun_;
   std::string out_;
 };
@@ -100,8 +83,8 @@ constexpr std::size_t longestEscape = 6;
 
 }  // namespace
 
-int answerLines(const LineAnswer& answer) {
-  LineFilter filter(answer);
+int answerLines(const LineAnswer& answer, const LineRules& rules) {
+  LineFilter filter(answer, rules);
   std::vector<char> block(blockSize);
   while (true) {
     const ssize_t size = read(STDIN_FILENO, block.data(), block.size());
@@ -113,6 +96,22 @@ int answerLines(const LineAnswer& answer) {
     }
     if (!filter.take({block.data(), static_cast<std::size_t>(size)})) return ioError;
   }
+}
+
+bool writeOut(std::string& out) {
+  std::string_view rest = out;
+  while (!rest.empty()) {
+    const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) {
+      std::cerr << "tavi-cli: cannot write: " << std::strerror(errno) << '\n';
+      return false;
+    }
+    rest.remove_prefix(static_cast<std::size_t>(written));
+  }
+  out.clear();
+  if (out.capacity() > keptCapacity) out.shrink_to_fit();
+  return true;
 }
 
 void appendJsonText(std::string& out, std::string_view text) {
