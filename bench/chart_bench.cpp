@@ -53,7 +53,7 @@ void paintPoints(benchmark::State& state, ChartType type) {
   QImage image = canvas();
   QPainter painter(&image);
   painter.scale(scale, scale);
-  for (auto _ : state) ChartPicture(view, phone).paint(painter);
+  for (auto _ : state) ChartPicture(view, phone, ChartPalette::current()).paint(painter);
 }
 BENCHMARK_CAPTURE(paintPoints, line, ChartType::line)->Arg(1000)->Arg(100000)->Unit(benchmark::kMillisecond);
 BENCHMARK_CAPTURE(paintPoints, spline, ChartType::spline)->Arg(65)->Arg(1000)->Unit(benchmark::kMillisecond);
@@ -76,7 +76,7 @@ void buildTree(benchmark::State& state) {
   painter.scale(scale, scale);
   for (auto _ : state) {
     const auto view = std::make_shared<const ChartView>(TreeChartManager::treeChartView(data));
-    ChartPicture(view, phone).paint(painter);
+    ChartPicture(view, phone, ChartPalette::current()).paint(painter);
   }
 }
 BENCHMARK(buildTree)->Arg(12)->Arg(20)->Unit(benchmark::kMillisecond);
@@ -92,7 +92,7 @@ void scrollTree(benchmark::State& state) {
   const double before = residentMegabytes();
   const auto view =
       std::make_shared<const ChartView>(TreeChartManager::treeChartView(treeOf(state.range(0))));
-  const ChartPicture picture(view, phone);
+  const ChartPicture picture(view, phone, ChartPalette::current());
   const QSizeF room = picture.contentSize() - phone;
   QImage image = canvas();
   QPainter painter(&image);
@@ -111,7 +111,7 @@ BENCHMARK(scrollTree)->Arg(12)->Arg(20)->Unit(benchmark::kMillisecond);
 void animateUnitCircle(benchmark::State& state) {
   const UnitCircleChartData data(480, 480 * std::numbers::pi / 180, 120, 1, Quadrant::second);
   const auto view = std::make_shared<const ChartView>(UnitCircleChartManager::unitCircleChartView(data));
-  const ChartPicture picture(view, {371, 185});
+  const ChartPicture picture(view, {371, 185}, ChartPalette::current());
   QImage image = canvas();
   QPainter painter(&image);
   painter.scale(scale, scale);

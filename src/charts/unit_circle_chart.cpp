@@ -96,7 +96,6 @@ UnitCircleState unitCircleState(const UnitCircleChartView& view, double progress
                         .drawnProjections = 1};
   if (progress >= 1) return state;
   const double seconds = std::max(0.0, progress) * duration(view);
-  state.isRunning = progress > 0;
   state.quadrantsAlpha = std::max(0.0, 1 - seconds / fadeSeconds);
   const auto ended = static_cast<std::size_t>(seconds);
   if (ended >= view.turns.size()) {
@@ -106,6 +105,7 @@ UnitCircleState unitCircleState(const UnitCircleChartView& view, double progress
   const UnitCircleTurn& turn = view.turns[ended];
   const double part = seconds - static_cast<double>(ended);
   const double counted = std::floor(part * countSteps) / countSteps;
+  state.isRunning = progress > 0;
   state.turns = ended + 1;
   state.drawnOfTurn = part;
   state.quadrantAlpha = state.drawnProjections = 0;

@@ -45,7 +45,7 @@ struct UnitCircleState {
   std::size_t turns = 0;        ///< That have begun,
   double drawnOfTurn = 0;       ///< and how much is drawn of the last of them, from 0 to 1.
   double drawnProjections = 0;  ///< From 0 to 1.
-  bool isRunning = false;
+  bool isRunning = false;       ///< While the arrow turns.
 };
 
 /// How long the whole animation takes, in seconds: a second for each turn, and one for the end.

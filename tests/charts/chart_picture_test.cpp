@@ -87,7 +87,7 @@ TEST(CoordinatePicture, DrawsAxesAndGridOnWholePixels) {
   for (const double scale : {1.0, 1.5, 2.0}) {
     const QSizeF size(371, 309);
     const CoordinateLayout layout(*optionsOf(*lineView(8, {})), size);
-    const QImage image = imageOf(ChartPicture(lineView(8, {}), size), {}, scale);
+    const QImage image = imageOf(ChartPicture(lineView(8, {}), size, ChartPalette::current()), {}, scale);
     // Between two grid lines there is the background, both lines, and nothing half a line.
     const int y = static_cast<int>(scale * (layout.placeY(7)));
     const std::set<QRgb> colors = colorsAlong(image, y, static_cast<int>(scale * layout.placeX(-7)),
@@ -101,7 +101,7 @@ TEST(CoordinatePicture, DrawsAxesAndGridOnWholePixels) {
 TEST(CoordinatePicture, FindsThePointThatIsPointedAt) {
   const QSizeF size(400, 400);
   const auto view = lineView(8, {{4, 0}, {-4, 2}, {100, 0}});
-  const ChartPicture picture(view, size);
+  const ChartPicture picture(view, size, ChartPalette::current());
   const CoordinatePicture& chart = *picture.coordinates();
   const CoordinateLayout layout(*optionsOf(*view), size);
   const auto at = [&](double x, double y) { return chart.nearest({layout.placeX(x), layout.placeY(y)}); };
@@ -142,10 +142,10 @@ TEST(TreePicture, ShowsThePartThatItIsScrolledTo) {
   data.trials = 6;
   const auto view = std::make_shared<const ChartView>(TreeChartManager::treeChartView(data));
   const auto& tree = std::get<TreeChartView>(*view);
-  const ChartPicture whole(view, {tree.width, tree.height});
+  const ChartPicture whole(view, {tree.width, tree.height}, ChartPalette::current());
   EXPECT_EQ(whole.contentSize(), whole.size());
   const QImage all = imageOf(whole, {.scroll = QPointF()});
-  const ChartPicture part(view, {300, 200});
+  const ChartPicture part(view, {300, 200}, ChartPalette::current());
   for (const QPoint scroll : {QPoint(0, 0), {500, 200}, {1900, 280}, {1016, 0}}) {
     const QImage seen = imageOf(part, {.scroll = scroll});
     const QRect inner = seen.rect().adjusted(13, 13, -13, -13);  // without the corners of the card
@@ -163,7 +163,7 @@ TEST(ChartPicture, DrawsEveryExampleInEverySizeLightAndDark) {
       if (name.ends_with(".expected") || name == "two_lines_share_no_view") continue;
       const auto view = viewOf(name);
       for (const QSizeF& size : sizes) {
-        const QImage image = imageOf(ChartPicture(view, size));
+        const QImage image = imageOf(ChartPicture(view, size, ChartPalette::current()));
         const QPoint inside(4, image.height() / 2);
         EXPECT_EQ(image.pixelColor(inside), isDark ? Qt::black : Qt::white) << name;
         EXPECT_GT(colorsAlong(image, image.height() / 2, 0, image.width()).size(), 3U) << name << " is empty";
@@ -179,7 +179,8 @@ TEST(ChartPicture, DrawsWhateverNumbersAreDescribed) {
   for (const double x : odd)
     for (const double y : odd) points.push_back({x, y});
   const auto draw = [](const ChartView& view) {
-    const QImage image = imageOf(ChartPicture(std::make_shared<const ChartView>(view), {300, 200}));
+    const QImage image =
+        imageOf(ChartPicture(std::make_shared<const ChartView>(view), {300, 200}, ChartPalette::current()));
     EXPECT_FALSE(image.isNull());
   };
   for (std::size_t from = 0; from < points.size(); from += 7) {

@@ -71,8 +71,9 @@ TEST(UnitCircle, CountsUpToWhereItStays) {
   EXPECT_NEAR(unitCircleState(view, 0.25 / 3).quadrantsAlpha, 0.5, 1e-9);
   EXPECT_NEAR(unitCircleState(view, 1.75 / 3).drawnOfTurn, 0.75, 1e-9);
   EXPECT_NEAR(unitCircleState(view, 2.5 / 3).drawnProjections, 0.5, 1e-9);
-  EXPECT_TRUE(unitCircleState(view, 0.99).isRunning);
-  EXPECT_FALSE(unitCircleState(view, 1).isRunning);
+  for (const auto& [seconds, isRunning] :
+       {std::pair{0.0, false}, {0.01, true}, {1.99, true}, {2.01, false}, {3.0, false}})
+    EXPECT_EQ(unitCircleState(view, seconds / 3).isRunning, isRunning) << seconds;
   EXPECT_EQ(unitCircleState(view, 1).quadrantAlpha, 1);
 }
 

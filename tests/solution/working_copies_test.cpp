@@ -2,6 +2,8 @@
 #include "solution/share/working_copies.h"
 
 #include <QFile>
+#include <QImage>
+#include <QPainter>
 #include <QProcess>
 #include <QRegularExpression>
 #include <QStandardPaths>
@@ -9,6 +11,7 @@
 
 #include <gtest/gtest.h>
 
+#include "appearance/appearance.h"
 #include "solution/rows/solution_table_data.h"
 #include "solver/rehearsal.h"
 
@@ -43,6 +46,27 @@ TEST(WorkingCopiesTest, APdfHasAPageForEachPageful) {
   const qsizetype pages = pagesOf(pdfOfWorking(rowsOf(SolutionSteps(40, step("Step", "1")))));
   EXPECT_GE(pages, 5);
   EXPECT_LE(pages, 6);
+}
+
+TEST(WorkingCopiesTest, PrintIsAlikeInEitherAppearance) {
+  SolutionTableData data;
+  data.solutionSteps = {step("Result", "\\color{#ff3333}{1}")};
+  data.chartSteps = {{std::make_shared<CommonSplineChartData>()},
+                     {std::make_shared<UnitCircleChartData>(90, 1.57, 90, 0, Quadrant::first)},
+                     {std::make_shared<BernoulliDistributionTreeChartData>()}};
+  for (const ChartRow& charts : data.chartSteps) charts.front()->frameRatio = 2;
+  const auto printed = [](const SolutionRow& row, bool isDark) {
+    Appearance::shared().force(isDark);
+    QImage image(400, 200, QImage::Format_RGB32);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    makePainter(row, {.viewWidth = 400})->paint(painter, {400, 200}, RowPalette::printed());
+    painter.end();
+    Appearance::shared().force(false);
+    return image;
+  };
+  for (const SolutionRow& row : data.rows())
+    EXPECT_EQ(printed(row, true), printed(row, false)) << kindOf(row);
 }
 
 TEST(WorkingCopiesTest, AnSvgNamesNoFont) {

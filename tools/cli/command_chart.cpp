@@ -91,7 +91,7 @@ int drawFile(const std::string& name, const std::optional<QSizeF>& size, const P
     return files.draw([&]() -> Picture {
       return {row, [&](QPainter& painter) {
                 painter.fillRect(QRectF({}, row), InterfaceColor::page());
-                if (view) paintChartRow(painter, row, view);
+                if (view) paintChartRow(painter, row, view, ChartPalette::current());
               }};
     });
   } catch (const FatalStop& stop) {

@@ -48,6 +48,7 @@ Item {
 
         objectName: "chart"
         anchors.fill: parent
+        progress: view.isStill ? 1 : 0
         scroll: Qt.point(tree.contentX, tree.contentY)
         Accessible.ignored: true
     }
@@ -130,7 +131,7 @@ Item {
         width: chart.replayButton.width
         height: chart.replayButton.height
         visible: chart.duration > 0
-        enabled: !clock.running
+        enabled: !chart.isRunning
         Accessible.name: qsTrId("animateAgainButton")
         onClicked: view.start()
 

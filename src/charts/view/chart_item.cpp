@@ -50,9 +50,16 @@ QRectF ChartItem::replayButton() const {
   return duration() > 0 ? tavi::replayButton(frame().size()).translated(frame().topLeft()) : QRectF();
 }
 
+const UnitCircleChartView* ChartItem::circle() const {
+  return view_ ? std::get_if<UnitCircleChartView>(view_.get()) : nullptr;
+}
+
 double ChartItem::duration() const {
-  const auto* circle = view_ ? std::get_if<UnitCircleChartView>(view_.get()) : nullptr;
-  return circle == nullptr ? 0 : 1000 * tavi::duration(*circle);
+  return circle() == nullptr ? 0 : 1000 * tavi::duration(*circle());
+}
+
+bool ChartItem::isRunning() const {
+  return circle() != nullptr && unitCircleState(*circle(), moment_.progress).isRunning;
 }
 
 bool ChartItem::hasPoints() const {
@@ -105,7 +112,8 @@ void ChartItem::makePicture() {
       if (auto made = ChartManager::chartView(charts_))
         view_ = std::make_shared<const ChartView>(std::move(*made));
     }
-    if (view_) picture_ = std::make_shared<const ChartPicture>(view_, frame().size());
+    if (view_)
+      picture_ = std::make_shared<const ChartPicture>(view_, frame().size(), ChartPalette::current());
   } else if (!isVisible()) {
     view_.reset();
   }

@@ -25,6 +25,7 @@ class ChartItem : public QQuickPaintedItem {
   Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY pictureChanged)
   Q_PROPERTY(QRectF replayButton READ replayButton NOTIFY pictureChanged)
   Q_PROPERTY(double duration READ duration NOTIFY pictureChanged)
+  Q_PROPERTY(bool isRunning READ isRunning NOTIFY progressChanged)
   Q_PROPERTY(bool hasPoints READ hasPoints NOTIFY pictureChanged)
   Q_PROPERTY(QString words READ words NOTIFY pictureChanged)
   Q_PROPERTY(QString markedWords READ markedWords NOTIFY markChanged)
@@ -54,6 +55,9 @@ class ChartItem : public QQuickPaintedItem {
 
   /// Of the animation, in milliseconds; 0 for a chart that stands still.
   double duration() const;
+
+  /// Whether the animation is in the part that is not to be begun again.
+  bool isRunning() const;
 
   /// Whether the chart has points that can be marked.
   bool hasPoints() const;
@@ -89,6 +93,7 @@ class ChartItem : public QQuickPaintedItem {
  private:
   void makePicture();
   void setMark(const std::optional<ChartMark>& mark);
+  const UnitCircleChartView* circle() const;
   const CoordinatePicture* coordinates() const { return picture_ ? picture_->coordinates() : nullptr; }
 
   ChartRow charts_;

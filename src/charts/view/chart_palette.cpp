@@ -10,8 +10,11 @@ ChartPalette ChartPalette::current() {
   return {.label = InterfaceColor::label(),
           .gray = InterfaceColor::secondaryGray(),
           .background = InterfaceColor::background(),
-          .accent = QColor::fromRgbF(0.93F, 0.25F, 0.48F),
           .isDark = Appearance::shared().isDark()};
+}
+
+ChartPalette ChartPalette::printed() {
+  return {.label = Qt::black, .gray = InterfaceColor::secondaryGray(), .background = Qt::white};
 }
 
 QColor ChartPalette::color(ChartColor role) const {

@@ -12,11 +12,15 @@ struct ChartPalette {
   QColor label;
   QColor gray;
   QColor background;
-  QColor accent;  ///< Of the tree's paths that count, and of the button.
+  /// Of the tree's paths that count, and of the button.
+  QColor accent = QColor::fromRgbF(0.93F, 0.25F, 0.48F);
   bool isDark = false;
 
   /// The colours of the appearance in force.
   static ChartPalette current();
+
+  /// Black on white.
+  static ChartPalette printed();
 
   QColor color(ChartColor role) const;
 

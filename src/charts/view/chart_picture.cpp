@@ -23,8 +23,8 @@ Overloaded(Handlers...) -> Overloaded<Handlers...>;
 
 }  // namespace
 
-ChartPicture::ChartPicture(std::shared_ptr<const ChartView> view, QSizeF size)
-    : view_(std::move(view)), size_(size), palette_(ChartPalette::current()) {
+ChartPicture::ChartPicture(std::shared_ptr<const ChartView> view, QSizeF size, const ChartPalette& palette)
+    : view_(std::move(view)), size_(size), palette_(palette) {
   if (const ChartOptions* options = optionsOf(*view_)) coordinates_.emplace(*options, size_, palette_);
 }
 
@@ -60,11 +60,11 @@ QRectF chartFrameIn(QSizeF row) {
 }
 
 void paintChartRow(QPainter& painter, QSizeF size, std::shared_ptr<const ChartView> view,
-                   const ChartMoment& moment) {
+                   const ChartPalette& palette, const ChartMoment& moment) {
   const QRectF frame = chartFrameIn(size);
   painter.save();
   painter.translate(frame.topLeft());
-  ChartPicture(std::move(view), frame.size()).paint(painter, moment);
+  ChartPicture(std::move(view), frame.size(), palette).paint(painter, moment);
   painter.restore();
 }
 

@@ -21,11 +21,11 @@ struct ChartMoment {
   std::optional<ChartMark> mark = {};  ///< The point that is pointed at.
 };
 
-/// A chart on its card, in a size and in the colours in force when it is made. Lengths are device-independent
+/// A chart on its card, in a size and in its colours. Lengths are device-independent
 /// pixels. It may be drawn in any thread.
 class ChartPicture {
  public:
-  ChartPicture(std::shared_ptr<const ChartView> view, QSizeF size);
+  ChartPicture(std::shared_ptr<const ChartView> view, QSizeF size, const ChartPalette& palette);
 
   void paint(QPainter& painter, const ChartMoment& moment = {}) const;
 
@@ -50,6 +50,6 @@ QRectF chartFrameIn(QSizeF row);
 
 /// Draws a view into a row of that size.
 void paintChartRow(QPainter& painter, QSizeF size, std::shared_ptr<const ChartView> view,
-                   const ChartMoment& moment = {});
+                   const ChartPalette& palette, const ChartMoment& moment = {});
 
 }  // namespace tavi

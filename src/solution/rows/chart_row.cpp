@@ -19,7 +19,7 @@ class ChartRowPainter : public RowPainter {
 
   void paint(QPainter& painter, QSizeF size, const RowPalette& palette) const override {
     painter.fillRect(QRectF({}, size), palette.card);
-    if (view_) paintChartRow(painter, size, view_);
+    if (view_) paintChartRow(painter, size, view_, palette.chart);
   }
 
   std::chrono::milliseconds settlingTime() const override { return std::chrono::seconds(2); }

@@ -10,7 +10,8 @@ RowPalette RowPalette::current() {
           .card = InterfaceColor::background(),
           .text = InterfaceColor::label(),
           .hairline = InterfaceColor::hairline(),
-          .accent = KeypadPalette::make().pink};
+          .accent = KeypadPalette::make().pink,
+          .chart = ChartPalette::current()};
 }
 
 RowPalette RowPalette::printed() {
@@ -18,7 +19,8 @@ RowPalette RowPalette::printed() {
           .card = Qt::white,
           .text = Qt::black,
           .hairline = QColor::fromRgb(0xd1d1d6),
-          .accent = QColor::fromRgbF(0.93F, 0.25F, 0.48F)};
+          .accent = QColor::fromRgbF(0.93F, 0.25F, 0.48F),
+          .chart = ChartPalette::printed()};
 }
 
 }  // namespace tavi

@@ -4,6 +4,8 @@
 #include <QSizeF>
 #include <chrono>
 
+#include "charts/view/chart_palette.h"
+
 class QPainter;
 
 namespace tavi {
@@ -15,6 +17,7 @@ struct RowPalette {
   QColor text;
   QColor hairline;
   QColor accent;
+  ChartPalette chart;
 
   /// The colours of the appearance in force.
   static RowPalette current();

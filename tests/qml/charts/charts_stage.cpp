@@ -1,13 +1,18 @@
 #include "charts_stage.h"
 
 #include <QFile>
+#include <QPainter>
 #include <QQmlContext>
+#include <QQuickWindow>
+#include <algorithm>
 
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
 
+#include "appearance/appearance.h"
 #include "charts/chart_reader.h"
 #include "platform/localization.h"
+#include "solution/rows/chart_row.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
@@ -25,6 +30,33 @@ ChartRow ChartsStage::tree(int trials) const {
   data->probabilityOfSuccess = 0.5;
   data->trials = trials;
   return {std::move(data)};
+}
+
+void ChartsStage::setDark(bool isDark) const {
+  Appearance::shared().force(isDark);
+}
+
+int ChartsStage::differenceFromPicture(QQuickItem* view) const {
+  const QImage screen = view->window()->grabWindow().convertToFormat(QImage::Format_RGB32);
+  const double scale = view->window()->effectiveDevicePixelRatio();
+  const QSizeF size = view->size();
+  QImage picture((size * scale).toSize(), QImage::Format_RGB32);
+  QPainter painter(&picture);
+  painter.scale(scale, scale);
+  makePainter(ChartTableViewCell{view->property("charts").value<ChartRow>()}, size.height())
+      ->paint(painter, size, RowPalette::current());
+  painter.end();
+  int greatest = 0;
+  for (int y = 0; y < picture.height(); ++y) {
+    for (int x = 0; x < picture.width(); ++x) {
+      const QRgb one = screen.pixel(x, y);
+      const QRgb other = picture.pixel(x, y);
+      for (const int difference :
+           {qRed(one) - qRed(other), qGreen(one) - qGreen(other), qBlue(one) - qBlue(other)})
+        greatest = std::max(greatest, std::abs(difference));
+    }
+  }
+  return greatest;
 }
 
 void ChartsStage::applicationAvailable() {

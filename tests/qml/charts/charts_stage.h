@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QString>
 
 #include "charts/chart_data.h"
@@ -18,6 +19,12 @@ class ChartsStage : public QObject {
 
   /// A tree of that many trials.
   Q_INVOKABLE tavi::ChartRow tree(int trials) const;
+
+  Q_INVOKABLE void setDark(bool isDark) const;
+
+  /// The greatest difference of any channel of any pixel between a row of charts at the upper left corner of
+  /// its window and the same row in a shared picture.
+  Q_INVOKABLE int differenceFromPicture(QQuickItem* view) const;
 
  public slots:
   void applicationAvailable();

@@ -9,6 +9,11 @@ Item {
     width: 412
     height: 400
 
+    Rectangle {
+        anchors.fill: parent
+        color: Theme.background
+    }
+
     Component {
         id: row
 
@@ -22,9 +27,10 @@ Item {
         name: "Charts"
         when: windowShown
 
-        function show(charts) {
+        function show(charts, isStill = false) {
             const view = createTemporaryObject(row, root, {
-                    "charts": charts
+                    "charts": charts,
+                    "isStill": isStill
                 });
             verify(view);
             waitForRendering(view);
@@ -95,21 +101,47 @@ Item {
             compare(drawn.progress, 0);
             const beginning = grabImage(view);
             view.start();
-            verify(!button.enabled);
+            tryVerify(() => !button.enabled);
+            tryVerify(() => button.enabled, 10000, "as soon as the arrow has arrived");
+            verify(drawn.progress > 0.5);
             tryCompare(drawn, "progress", 1, 10000);
             const end = grabImage(view);
             verify(!end.equals(beginning));
             verify(button.enabled);
             compare(button.Accessible.name, "Play again");
             mouseClick(button);
-            verify(!button.enabled);
-            tryVerify(() => drawn.progress > 0 && drawn.progress < 1);
+            tryVerify(() => !button.enabled);
+            verify(drawn.progress > 0 && drawn.progress < 1);
             view.visible = false;
-            const still = show(stage.example("clockwise_angle"));
-            still.isStill = true;
+            const still = show(stage.example("clockwise_angle"), true);
+            compare(chart(still).progress, 1);
             still.start();
             compare(chart(still).progress, 1);
             verify(grabImage(still).equals(end), "as it is when it has been played");
+        }
+
+        function test_what_is_shared_is_what_is_seen_data() {
+            const rows = [];
+            for (const example of ["straight_line", "sine", "tangent", "parabola_and_line", "four_coins_histogram", "two_coins_distribution", "single_trial_formula", "three_dice_tree", "more_than_one_turn", "two_lines_share_no_view"]) {
+                for (const isDark of [false, true]) {
+                    rows.push({
+                            "tag": example + (isDark ? ", dark" : ""),
+                            "example": example,
+                            "isDark": isDark
+                        });
+                }
+            }
+            return rows;
+        }
+
+        function test_what_is_shared_is_what_is_seen(data) {
+            stage.setDark(data.isDark);
+            mouseMove(root, 200, 399);
+            const view = show(stage.example(data.example), true);
+            // The thumb that tells where a tree is scrolled to is of the screen alone.
+            findChild(view, "tree").visible = false;
+            verify(stage.differenceFromPicture(view) <= 2);
+            stage.setDark(false);
         }
 
         function test_what_is_not_seen_holds_no_picture() {
