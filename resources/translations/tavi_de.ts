@@ -315,6 +315,98 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>calculationOutOfRange</source>
         <translation>Diese Zahlen sind mir zu groß oder zu genau. Bitte nimm kleinere oder kürzere.</translation>
     </message>
+    <message id="hintTapField">
+        <source>hintTapField</source>
+        <translation>Tippe zuerst auf ein Feld</translation>
+    </message>
+    <message id="hintBaseAndExponent">
+        <source>hintBaseAndExponent</source>
+        <translation>Basis und Exponent fehlen noch</translation>
+    </message>
+    <message id="hintBase">
+        <source>hintBase</source>
+        <translation>Die Basis fehlt noch</translation>
+    </message>
+    <message id="hintExponent">
+        <source>hintExponent</source>
+        <translation>Der Exponent fehlt noch</translation>
+    </message>
+    <message id="hintRadicand">
+        <source>hintRadicand</source>
+        <translation>Der Radikand fehlt noch</translation>
+    </message>
+    <message id="hintFraction">
+        <source>hintFraction</source>
+        <translation>Der Bruch ist noch nicht fertig</translation>
+    </message>
+    <message id="hintDigit">
+        <source>hintDigit</source>
+        <translation>Es fehlt noch eine Ziffer</translation>
+    </message>
+    <message id="hintNumber">
+        <source>hintNumber</source>
+        <translation>Das ist noch keine Zahl</translation>
+    </message>
+    <message id="hintOneBar">
+        <source>hintOneBar</source>
+        <translation>Es kann nur einen Bruchstrich geben</translation>
+    </message>
+    <message id="hintZero">
+        <source>hintZero</source>
+        <translation>Null kann kein Nenner sein</translation>
+    </message>
+    <message id="hintOnePi">
+        <source>hintOnePi</source>
+        <translation>π passt nur einmal in eine Zahl</translation>
+    </message>
+    <message id="hintOrder">
+        <source>hintOrder</source>
+        <translation>π und Buchstaben stehen hinter der Zahl</translation>
+    </message>
+    <message id="hintOneLetter">
+        <source>hintOneLetter</source>
+        <translation>Nur ein Buchstabe passt in eine Zahl</translation>
+    </message>
+    <message id="hintTooLong">
+        <source>hintTooLong</source>
+        <translation>Das ist zu lang zum Ausschreiben</translation>
+    </message>
+    <message id="hintOutOfRange">
+        <source>hintOutOfRange</source>
+        <translation>Das ist zu groß oder zu genau</translation>
+    </message>
+    <message id="hintInfinite">
+        <source>hintInfinite</source>
+        <translation>Das Ergebnis ist zu groß und erscheint als ∞</translation>
+    </message>
+    <message id="hintPaste">
+        <source>hintPaste</source>
+        <translation>Das Kopierte ist keine eindeutige Zahl</translation>
+    </message>
+    <message id="hintPasteMinus">
+        <source>hintPasteMinus</source>
+        <translation>Ein Minus kann nur vorne stehen</translation>
+    </message>
+    <message id="hintPastePower">
+        <source>hintPastePower</source>
+        <translation>In dieses Feld passt nur eine Zahl</translation>
+    </message>
+    <message id="Cut">
+        <source>Cut</source>
+        <translation>Ausschneiden</translation>
+    </message>
+    <message id="Copy">
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message id="Paste">
+        <source>Paste</source>
+        <translation>Einfügen</translation>
+    </message>
+    <message id="Select all">
+        <source>Select all</source>
+        <translation>Alles auswählen</translation>
+    </message>
     <message id="Kind of task">
         <source>Kind of task</source>
         <translation>Art der Aufgabe</translation>

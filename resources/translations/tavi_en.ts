@@ -315,6 +315,98 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>calculationOutOfRange</source>
         <translation>These numbers are too large or too exact for me. Please use smaller or shorter ones.</translation>
     </message>
+    <message id="hintTapField">
+        <source>hintTapField</source>
+        <translation>Tap a field to begin</translation>
+    </message>
+    <message id="hintBaseAndExponent">
+        <source>hintBaseAndExponent</source>
+        <translation>Base and exponent are missing</translation>
+    </message>
+    <message id="hintBase">
+        <source>hintBase</source>
+        <translation>The base is missing</translation>
+    </message>
+    <message id="hintExponent">
+        <source>hintExponent</source>
+        <translation>The exponent is missing</translation>
+    </message>
+    <message id="hintRadicand">
+        <source>hintRadicand</source>
+        <translation>The radicand is missing</translation>
+    </message>
+    <message id="hintFraction">
+        <source>hintFraction</source>
+        <translation>The fraction is not finished</translation>
+    </message>
+    <message id="hintDigit">
+        <source>hintDigit</source>
+        <translation>A digit is missing</translation>
+    </message>
+    <message id="hintNumber">
+        <source>hintNumber</source>
+        <translation>This is not a number yet</translation>
+    </message>
+    <message id="hintOneBar">
+        <source>hintOneBar</source>
+        <translation>There can be only one fraction bar</translation>
+    </message>
+    <message id="hintZero">
+        <source>hintZero</source>
+        <translation>Zero cannot be a denominator</translation>
+    </message>
+    <message id="hintOnePi">
+        <source>hintOnePi</source>
+        <translation>π goes only once into a number</translation>
+    </message>
+    <message id="hintOrder">
+        <source>hintOrder</source>
+        <translation>π and letters go behind a number</translation>
+    </message>
+    <message id="hintOneLetter">
+        <source>hintOneLetter</source>
+        <translation>Only one letter goes into a number</translation>
+    </message>
+    <message id="hintTooLong">
+        <source>hintTooLong</source>
+        <translation>This is too long to write out</translation>
+    </message>
+    <message id="hintOutOfRange">
+        <source>hintOutOfRange</source>
+        <translation>This is too large or too exact</translation>
+    </message>
+    <message id="hintInfinite">
+        <source>hintInfinite</source>
+        <translation>The result is too large and will show as ∞</translation>
+    </message>
+    <message id="hintPaste">
+        <source>hintPaste</source>
+        <translation>What was copied is not one clear number</translation>
+    </message>
+    <message id="hintPasteMinus">
+        <source>hintPasteMinus</source>
+        <translation>A minus can only stand in front</translation>
+    </message>
+    <message id="hintPastePower">
+        <source>hintPastePower</source>
+        <translation>Only one number goes into this field</translation>
+    </message>
+    <message id="Cut">
+        <source>Cut</source>
+        <translation>Cut</translation>
+    </message>
+    <message id="Copy">
+        <source>Copy</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="Paste">
+        <source>Paste</source>
+        <translation>Paste</translation>
+    </message>
+    <message id="Select all">
+        <source>Select all</source>
+        <translation>Select all</translation>
+    </message>
     <message id="Kind of task">
         <source>Kind of task</source>
         <translation>Kind of task</translation>

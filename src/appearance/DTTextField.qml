@@ -6,13 +6,29 @@ DTTextFieldItem {
     id: field
 
     property string label
-    readonly property bool isLabelOut: style.isLabelFloating && (activeFocus || text !== "")
+    property bool isInviting: false
+
+    // Where its menu is wanted: by a long or a right press, or by key.
+    signal menuRequested(point place)
+    property real labelWidth: width // Over the field it may be wider than that.
+    readonly property bool isLabelOut: style.isLabelFloating && (activeFocus || text !== "" || wideLabel.width > width - 24)
 
     View.kind: View.TextField
 
     implicitWidth: 160
     implicitHeight: 56
     activeFocusOnTab: true
+
+    // A faint ring, and a caret that stands still: here typing may begin.
+    Rectangle {
+        anchors.fill: parent
+        anchors.margins: -4
+        visible: field.isInviting
+        radius: 12
+        color: "transparent"
+        border.width: 4
+        border.color: Theme.strongYellow
+    }
 
     Rectangle {
         anchors.fill: parent
@@ -23,9 +39,9 @@ DTTextFieldItem {
     }
 
     Text {
-        x: field.isLabelOut ? 2 : input.x
+        x: field.isLabelOut ? 2 : 12
         y: field.isLabelOut ? Math.min(field.style.labelOffset, 1 - height) : (field.height - height) / 2
-        width: parent.width - 2 * x
+        width: (field.isLabelOut ? field.labelWidth : field.width) - 2 * x
         text: field.label
         font.family: field.isLabelOut ? field.style.labelFont.family : Theme.book(16).family
         font.pixelSize: field.isLabelOut ? Math.max(12, field.style.labelFont.pixelSize) : 16
@@ -35,12 +51,20 @@ DTTextFieldItem {
         Accessible.ignored: true
     }
 
+    TextMetrics {
+        id: wideLabel
+
+        font: Theme.book(16)
+        text: field.label
+    }
+
     TextInput {
         id: input
 
         anchors.fill: parent
-        anchors.leftMargin: 12
-        anchors.rightMargin: 12
+        anchors.margins: 4
+        leftPadding: 8
+        rightPadding: 8
         focus: true
         readOnly: true
         clip: true
@@ -57,6 +81,40 @@ DTTextFieldItem {
         Accessible.description: field.faultWords === "" ? "" : qsTrId("Invalid entry") + ": " + field.faultWords
         Accessible.readOnly: !field.enabled
         Keys.forwardTo: [field] // Before this input takes a Backspace without deleting anything.
+
+        // A text wider than the field goes on under a faded edge.
+        property bool isCutLeft: false
+        property bool isCutRight: false
+
+        // Places in the text are told without the padding.
+        function findEdges() {
+            isCutLeft = positionToRectangle(0).x < -1;
+            isCutRight = positionToRectangle(text.length).x > width - leftPadding - rightPadding + 1;
+        }
+
+        function askForMenu() {
+            field.menuRequested(Qt.point(cursorRectangle.x, height));
+        }
+
+        Keys.onPressed: event => {
+            event.accepted = event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier);
+            if (event.accepted)
+                askForMenu();
+        }
+
+        TapHandler {
+            acceptedDevices: PointerDevice.TouchScreen
+            onLongPressed: {
+                if (input.selectedText === "")
+                    input.selectAll();
+                field.menuRequested(point.position);
+            }
+        }
+        TapHandler {
+            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+            acceptedButtons: Qt.RightButton
+            onTapped: field.menuRequested(point.position)
+        }
 
         // Field and input tell each other their changes, one at a time.
         property bool isSynchronizing: false
@@ -83,6 +141,8 @@ DTTextFieldItem {
                 field.select(selectionStart, selectionEnd);
             isSynchronizing = false;
         }
+        onCursorRectangleChanged: Qt.callLater(findEdges) // It tells before it scrolls.
+        onWidthChanged: Qt.callLater(findEdges)
         onCursorPositionChanged: report()
         onSelectionStartChanged: report()
         onSelectionEndChanged: report()
@@ -118,6 +178,42 @@ DTTextFieldItem {
             repeat: true
             onTriggered: caret.opacity = 1 - caret.opacity
         }
+    }
+
+    component FadedEdge: Rectangle {
+        id: edge
+
+        property bool isLeft
+        readonly property color ground: field.View.backgroundColor
+        readonly property color faded: Qt.rgba(ground.r, ground.g, ground.b, 0)
+
+        x: isLeft ? input.x : input.x + input.width - width
+        y: input.y
+        width: 24
+        height: input.height
+        radius: 4
+        gradient: Gradient {
+            orientation: Gradient.Horizontal
+            GradientStop {
+                position: 0
+                color: edge.isLeft ? edge.ground : edge.faded
+            }
+            GradientStop {
+                position: 1
+                color: edge.isLeft ? edge.faded : edge.ground
+            }
+        }
+    }
+
+    FadedEdge {
+        objectName: "leftEdge"
+        isLeft: true
+        visible: input.isCutLeft
+    }
+    FadedEdge {
+        objectName: "rightEdge"
+        isLeft: false
+        visible: input.isCutRight
     }
 
     onTextChanged: input.follow()

@@ -27,6 +27,11 @@ FocusScope {
     readonly property real column: Math.floor(Math.min(columnWidth, isWide ? (width - 2 * margin - columnGap) / 2 : width - 2 * margin))
     readonly property real columnX: Math.floor((width - column - (isWide ? columnGap + column : 0)) / 2)
 
+    // What the column leaves free above its lower edge. With room enough the preview stands there, else beside the switch.
+    readonly property real lowerEdge: isWide ? keypad.y + keypad.height : keypad.y - between(6, 16)
+    readonly property real free: lowerEdge - fields.upperEdge - fields.height
+    readonly property bool isPreviewBelow: free >= 84
+
     function between(least, most) {
         return Math.round(least + ease * (most - least));
     }
@@ -40,8 +45,7 @@ FocusScope {
         controller.aTextField = [fields.exponentField, fields.indexField]; // qmllint disable property
         controller.xTextField = [fields.baseField, fields.radicandField]; // qmllint disable property
     }
-    Keys.onReturnPressed: controller.tappedCalculateButton()
-    Keys.onEnterPressed: controller.tappedCalculateButton()
+    Keys.onPressed: event => event.accepted = controller.pressedHardwareKey(event.key, event.modifiers, event.text)
 
     Rectangle {
         anchors.fill: parent
@@ -92,7 +96,7 @@ FocusScope {
             objectName: "modeSwitch"
             x: page.columnX
             y: fillInLabel.y + fillInLabel.height + page.between(2, 8)
-            width: page.column - manualButton.width
+            width: Math.floor((page.column - manualButton.width) * (page.isPreviewBelow ? 1 : 0.45))
             height: page.between(40, 48)
             onValueChanged: index => page.controller.segmentedControlValueChanged(index)
         }
@@ -101,8 +105,7 @@ FocusScope {
             id: manualButton
 
             objectName: "manualButton"
-            anchors.left: modeSwitch.right
-            anchors.leftMargin: 12 // its icon ends where the column does
+            x: page.columnX + page.column - width + 12 // its icon ends where the column does
             anchors.verticalCenter: modeSwitch.verticalCenter
             height: modeSwitch.height
             text: qsTrId("manualButton")
@@ -114,14 +117,27 @@ FocusScope {
             id: fields
 
             readonly property real upperEdge: modeSwitch.y + modeSwitch.height + page.between(14, 24)
-            readonly property real lowerEdge: page.isWide ? keypad.y + keypad.height : keypad.y - page.between(6, 16)
 
             controller: page.controller
             x: page.columnX
-            y: Math.floor((upperEdge + lowerEdge - height) / 2)
+            y: upperEdge + Math.floor(page.isPreviewBelow ? Math.max(0, page.free - 128) / 2 : page.free / 2)
             width: page.column
             height: page.between(76, 104)
             onFocused: field => flickable.show(field)
+        }
+
+        TaskPreview {
+            readonly property real besideX: modeSwitch.x + modeSwitch.width + 12
+            readonly property real belowY: fields.y + fields.height + 10
+
+            objectName: "preview"
+            controller: page.controller
+            faultyField: fields.faultyField
+            isCompact: !page.isPreviewBelow
+            x: isCompact ? besideX : page.columnX
+            y: isCompact ? modeSwitch.y : belowY
+            width: isCompact ? manualButton.x - besideX : page.column
+            height: isCompact ? modeSwitch.height : page.lowerEdge - belowY
         }
 
         Keypad {

@@ -30,6 +30,7 @@ Item {
             "title": "z",
             "tag": signTag
         }, {
+            "identifier": "Delete",
             "name": qsTrId("Delete"),
             "icon": "deleteIcon",
             "tag": deleteTag,
@@ -83,12 +84,22 @@ Item {
             "tag": signTag,
             "name": qsTrId("Decimal point")
         }, {
+            "identifier": "Calculate",
             "name": qsTrId("Calculate"),
             "icon": "calculateIcon",
             "tag": calculateTag,
             "span": 2,
             "action": () => controller.tappedCalculateButton()
         }]
+
+    // A key that would do nothing is off.
+    function isOn(key) {
+        if (key.tag === deleteTag)
+            return controller.isDeletePossible;
+        if (key.title === "-")
+            return controller.isMinusKeyEnabled;
+        return key.tag === calculateTag || controller.isTypingPossible;
+    }
 
     View.kind: View.Stack
 
@@ -104,14 +115,14 @@ Item {
 
             View.tag: modelData.tag
 
-            objectName: "key " + (modelData.title ?? modelData.name)
+            objectName: "key " + (modelData.title ?? modelData.identifier)
             x: index % keypad.columns * (keypad.keyWidth + keypad.gap)
             y: Math.floor(index / keypad.columns) * (keypad.keyHeight + keypad.gap)
             width: span * (keypad.keyWidth + keypad.gap) - keypad.gap
             height: keypad.keyHeight
             text: modelData.glyph ?? modelData.title ?? modelData.name
             iconText: Icons[keypad.controller[modelData.icon]] ?? ""
-            enabled: modelData.title !== "-" || keypad.controller.isMinusKeyEnabled
+            enabled: keypad.isOn(modelData)
             focusPolicy: modelData.tag === keypad.calculateTag ? Qt.TabFocus : Qt.NoFocus
             autoRepeat: modelData.repeats ?? false
             Accessible.name: modelData.name ?? text

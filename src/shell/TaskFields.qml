@@ -20,12 +20,25 @@ Item {
     readonly property int smallHeight: Math.round(40 + ease * 12)
     readonly property int raise: height - largeHeight
 
+    // Of those that are seen, the first one with something wrong.
+    readonly property DTTextField faultyField: [baseField, exponentField, indexField, radicandField].find(field => field.parent.visible && field.faultWords !== "") ?? null
+
+    // Where typing may begin, while no field is chosen.
+    readonly property DTTextField invitingField: controller.isTypingPossible ? null : powerFields.visible ? baseField : radicandField
+
     signal focused(Item field)
 
     component KeypadField: DTTextField {
+        id: keypadField
+
+        isInviting: fields.invitingField === keypadField && text === ""
         Keys.onPressed: event => event.accepted = fields.controller.pressedHardwareKey(event.key, event.modifiers, event.text)
         onActiveFocusChanged: if (activeFocus)
             fields.focused(this)
+        onMenuRequested: place => {
+            forceActiveFocus();
+            menu.popup(keypadField, place.x, height + 4);
+        }
     }
     component Formula: Item {
         View.kind: View.Plain
@@ -33,6 +46,12 @@ Item {
         anchors.fill: parent
         Accessible.role: Accessible.Grouping
         Accessible.name: fields.controller.fillInText
+    }
+
+    FieldMenu {
+        id: menu
+
+        controller: fields.controller
     }
 
     Formula {
@@ -83,6 +102,7 @@ Item {
             width: Math.round(Math.min(120, parent.width * 0.28))
             height: fields.smallHeight
             label: qsTrId("Root index")
+            labelWidth: parent.width
         }
         KeypadField {
             id: radicandField

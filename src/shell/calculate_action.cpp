@@ -70,6 +70,7 @@ bool CalculateViewController::rejectCalculation(std::string_view key,
   }
   errorManager_.reportInputError(qString(key), fieldsAtFault);
   isCalculating = false;
+  goToFault(fieldsAtFault);
   return false;
 }
 

@@ -23,27 +23,12 @@ namespace tavi {
 
 namespace {
 
-constexpr QChar minus = u'-';
-
-// What a hardware keyboard types for a key of the keypad: the title itself or one of these.
-struct TypedAlias {
-  QChar typed;
-  QChar title;
-};
-constexpr std::array<TypedAlias, 6> typedAliases{
-    {{u',', u'.'}, {u'p', u'π'}, {u'P', u'π'}, {u'X', u'x'}, {u'Y', u'y'}, {u'Z', u'z'}}};
-constexpr QStringView keypadTitles = u"0123456789./-πxyz";
-
 // The mode of a picked record; a value that is no integer is a fatal stop.
 int storedMode(const QVariant& value) {
   const bool isInteger = value.typeId() == QMetaType::LongLong || value.typeId() == QMetaType::Int;
   if (!isInteger) fatalStop("a stored mode that is no integer");
   const qlonglong mode = value.toLongLong();
   return std::in_range<int>(mode) ? static_cast<int>(mode) : -1;
-}
-
-QString without(const QString& text, TextRange range) {
-  return QString(text).remove(range.start, range.end - range.start);
 }
 
 }  // namespace
@@ -74,6 +59,7 @@ void CalculateViewController::viewDidLoad() {
   refillFields();
   if (const QQuickItem* root = view()) ViewManager::prepareSegmentedControls(*root);
   emit loaded();
+  emit taskChanged();
 }
 
 void CalculateViewController::configureFields() {
@@ -90,8 +76,7 @@ void CalculateViewController::configureFieldsBelow(const QQuickItem& item) {
     if (field && attached && attached->kind() == View::Kind::TextField) {
       connect(field, &DTTextField::shouldBeginEditing, this,
               &CalculateViewController::textFieldShouldBeginEditing);
-      connect(field, &DTTextField::textChanged, this, &CalculateViewController::caretChanged);
-      connect(field, &DTTextField::selectionChanged, this, &CalculateViewController::caretChanged);
+      watch(*field);
       for (const auto& [identifier, fields] : candidates) {
         if (!fields->contains(field)) continue;
         field->accessibilityIdentifier = identifier;
@@ -150,17 +135,23 @@ void CalculateViewController::buildToolbar() {
   clearAllButton->tintColor = InterfaceColor::darkTitle();
   clearAllButton->accessibilityIdentifier = "toolbarRemoveButton";
   clearAllButton->action = [page = QPointer(this)] {
-    if (page) page->clearAll();
+    if (!page) return;
+    page->clearAll();
+    page->takeFocus();
   };
   toolbarController->toolbar()->setTitle(localized("Calculate Title"));
   toolbarController->toolbar()->setRightViews({clearAllButton});
 }
 
-// A field that was typed into before the page went goes on with it.
 void CalculateViewController::viewDidAppear() {
   AdHandlingViewController::viewDidAppear();
-  if (currentTextField && currentTextField->isFirstResponder()) currentTextField->forceActiveFocus();
+  takeFocus();
   emit appeared();
+}
+
+// A field that was typed into before goes on with it; else the page itself waits for keys.
+void CalculateViewController::takeFocus() {
+  if (QQuickItem* page = view()) page->forceActiveFocus();
 }
 
 // The snapshot from which the next instance of this page is filled.
@@ -186,128 +177,7 @@ void CalculateViewController::selectMode(int index) {
   segmentedControl->setProperty("selectedSegmentIndex", index);
   if (index == 1) modeBView->setVisible(true);
   if (index == 0) modeAView->setVisible(true);
-}
-
-// A change of the mode takes the caret along, so that the user sees what he goes on typing into.
-void CalculateViewController::moveEditingToVisibleTwin() {
-  DTTextField* hidden = currentTextField;
-  if (!hidden || !hidden->isFirstResponder() || hidden->isInVisibleHolder()) return;
-  const auto twin = std::ranges::find_if(allFields, [hidden](const DTTextField* field) {
-    return field->isInVisibleHolder() && field->accessibilityIdentifier == hidden->accessibilityIdentifier;
-  });
-  if (twin == allFields.end()) return;
-  (*twin)->forceActiveFocus();
-  if (const auto& range = hidden->selectedTextRange()) (*twin)->setSelectedTextRange(*range);
-}
-
-bool CalculateViewController::textFieldShouldBeginEditing(DTTextField* field) {
-  currentTextField = field;
-  emit caretChanged();
-  return true;
-}
-
-void CalculateViewController::tappedKeypadButton(const QString& title) {
-  insertKeypadValue(title);
-}
-
-void CalculateViewController::tappedDeleteButton() {
-  deleteBackward();
-}
-
-void CalculateViewController::tappedCalculateButton() {
-  if (!isCalculating) performCalculation();
-}
-
-void CalculateViewController::tappedManualButton() {
-  showManual();
-}
-
-bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const QString& text) {
-  if ((modifiers & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
-  switch (key) {
-    case Qt::Key_Backspace:
-      tappedDeleteButton();
-      return true;
-    case Qt::Key_Delete:
-      deleteForward();
-      return true;
-    case Qt::Key_Return:
-    case Qt::Key_Enter:
-      tappedCalculateButton();
-      return true;
-    default:
-      break;
-  }
-  if (text.size() != 1) return false;
-  QChar title = text.front();
-  for (const TypedAlias& alias : typedAliases) {
-    if (alias.typed == title) title = alias.title;
-  }
-  if (!keypadTitles.contains(title)) return false;
-  if (title != minus || isMinusKeyEnabled()) tappedKeypadButton(title);
-  return true;
-}
-
-bool CalculateViewController::isMinusKeyEnabled() const {
-  if (!currentTextField || !currentTextField->selectedTextRange()) return true;
-  const TextRange selection = *currentTextField->selectedTextRange();
-  return selection.start > 0 || !without(currentTextField->text(), selection).contains(minus);
-}
-
-void CalculateViewController::insertKeypadValue(const QString& title) {
-  if (title.isEmpty()) fatalStop("a keypad key without a title");
-  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
-  errorManager_.withdrawMessage();
-  const TextRange selection = *currentTextField->selectedTextRange();
-  const qsizetype caret = selection.start;
-  QString text = without(currentTextField->text(), selection);
-  currentTextField->setText(text);
-  currentTextField->setSelectedTextRange({caret, caret});
-  if (!currentTextField->isFirstResponder()) return errorManager_.refreshFields();
-
-  qsizetype delta = 1;
-  if (title != minus) {
-    text.insert(caret, title);
-  } else if (text.contains(minus)) {
-    text.remove(minus);
-    delta = -1;
-  } else {
-    text.prepend(minus);
-  }
-  setText(text);
-  currentTextField->setSelectedTextRange({caret + delta, caret + delta});
-  errorManager_.refreshFields();
-}
-
-void CalculateViewController::deleteBackward() {
-  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
-  errorManager_.withdrawMessage();
-  TextRange selection = *currentTextField->selectedTextRange();
-  if (selection.end == 0) return;
-  if (selection.start == selection.end) --selection.start;
-  deleteRange(selection);
-}
-
-void CalculateViewController::deleteForward() {
-  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
-  TextRange selection = *currentTextField->selectedTextRange();
-  if (selection.start == currentTextField->text().size()) return;
-  if (selection.start == selection.end) ++selection.end;
-  deleteRange(selection);
-}
-
-void CalculateViewController::deleteRange(TextRange range) {
-  setText(without(currentTextField->text(), range));
-  currentTextField->setSelectedTextRange({range.start, range.start});
-  errorManager_.refreshFields();
-}
-
-// The text of the current field and of its twin.
-void CalculateViewController::setText(const QString& text) {
-  currentTextField->setText(text);
-  for (DTTextField* field : allFields) {
-    if (field->accessibilityIdentifier == currentTextField->accessibilityIdentifier) field->setText(text);
-  }
+  emit taskChanged();
 }
 
 // What is left of an earlier failed attempt.
@@ -331,6 +201,7 @@ void CalculateViewController::clearAll() {
   } else {
     notifications_.post(SolutionViewController::clearCurrentCalculation);
   }
+  keepForUndo();
   for (DTTextField* field : allFields) field->setText("");
   basicOperationHelper_.withFraction = false;
   outputHelper_.reset();

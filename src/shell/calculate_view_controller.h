@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QList>
+#include <QMap>
 #include <QQmlListProperty>
 #include <QString>
 #include <QStringList>
@@ -19,6 +20,19 @@
 #include "shell/frame/view_controller.h"
 
 namespace tavi {
+
+/// What stands typed, as it is shown beside the fields.
+struct TaskPreview {
+  Q_GADGET
+  Q_PROPERTY(QString latex MEMBER latex)
+  Q_PROPERTY(QString hint MEMBER hint)
+  Q_PROPERTY(bool isReadable MEMBER isReadable)
+
+ public:
+  QString latex;            ///< As it is typeset.
+  QString hint;             ///< What is missing or wrong, or what to know of the result, in few words.
+  bool isReadable = false;  ///< The fields hold a task.
+};
 
 /// The input page: two fields, a mode switch and a keypad of its own. It collects texts, keeps the fields of
 /// the two modes equal and runs the calculation, whose steps go to the solution page.
@@ -43,7 +57,14 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   Q_PROPERTY(QString deleteIcon READ deleteIcon NOTIFY loaded)
   Q_PROPERTY(QString calculateIcon READ calculateIcon NOTIFY loaded)
   Q_PROPERTY(double bottomBannerInset READ bottomBannerInset NOTIFY bottomBannerInsetChanged)
+  Q_PROPERTY(tavi::TaskPreview preview READ preview NOTIFY taskChanged)
+  Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
+
+  // What the keypad and the keys of a keyboard would do.
+  Q_PROPERTY(bool isTypingPossible READ isTypingPossible NOTIFY caretChanged)
+  Q_PROPERTY(bool isDeletePossible READ isDeletePossible NOTIFY caretChanged)
   Q_PROPERTY(bool isMinusKeyEnabled READ isMinusKeyEnabled NOTIFY caretChanged)
+  Q_PROPERTY(bool isSelectionThere READ isSelectionThere NOTIFY caretChanged)
 
  public:
   explicit CalculateViewController(CalcManager& store = CalcManager::shared(),
@@ -62,8 +83,20 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   Q_INVOKABLE void tappedCalculateButton();
   Q_INVOKABLE void tappedManualButton();
 
-  /// A key of a hardware keyboard does what the keypad's key does; false for a key that means nothing here.
+  /// A key of a hardware keyboard does what the keypad's key does, or edits as it does everywhere; false for
+  /// a key that means nothing here. Without a field to type into, typing begins in the first one.
   Q_INVOKABLE bool pressedHardwareKey(int key, int modifiers, const QString& text);
+
+  /// The clipboard. What is pasted is read as a number; where that is not clear the notice says why nothing
+  /// is pasted. A whole power goes into both fields.
+  Q_INVOKABLE void copySelection();
+  Q_INVOKABLE void cutSelection();
+  Q_INVOKABLE void paste();
+  Q_INVOKABLE void selectAll();
+
+  /// Take the last change of the fields back, and the last one taken back forth again.
+  Q_INVOKABLE void undo();
+  Q_INVOKABLE void redo();
 
   /// Shows the fields of mode 0 or 1; none of them for any other mode.
   void selectMode(int index);
@@ -92,7 +125,18 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   /// Shows what explains this page.
   void showManual();
 
-  /// False where the minus key would be a fatal stop; the keypad then switches the key off.
+  /// The task as it stands typed in the visible fields.
+  TaskPreview preview() const;
+
+  /// Why the last paste did nothing; empty once something has changed since.
+  QString notice() const { return notice_; }
+
+  /// Whether keys have a field to type into, Delete something to delete.
+  bool isTypingPossible() const;
+  bool isDeletePossible() const;
+  bool isSelectionThere() const;
+
+  /// False where the minus key would do nothing or be a fatal stop; the keypad then switches the key off.
   bool isMinusKeyEnabled() const;
 
   QString fillInText() const { return fillInText_; }
@@ -116,6 +160,8 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   void loaded();
   void bottomBannerInsetChanged();
   void caretChanged();
+  void taskChanged();
+  void noticeChanged();
   /// The page has come on the screen, as it does at each visit.
   void appeared();
 
@@ -136,9 +182,28 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   void fillFrom(const Calculation& calculation);
   void buildToolbar();
   void wipeMarks();
+
+  // Typing.
+  struct TypingState {
+    QMap<QString, QString> texts;  // by identifier
+    QString identifier;            // of the field with the caret
+    TextRange selection;
+  };
+  void watch(DTTextField& field);
+  bool beginTyping();
+  void goToFault(const QList<DTTextField*>& fields);
   void deleteRange(TextRange range);
   void setText(const QString& text);
+  void setText(const QString& identifier, const QString& text);
+  void setNotice(const QString& words);
+  void pastePower(const QString& base, const QString& exponent);
+  DTTextField* visibleField(const QString& identifier) const;
+  TypingState typingState() const;
+  void restore(const TypingState& state);
+  void keepForUndo();
+  void moveBetween(std::vector<TypingState>& from, std::vector<TypingState>& to);
   void moveEditingToVisibleTwin();
+  void takeFocus();
   bool textFieldShouldBeginEditing(DTTextField* field);
 
   int mode() const;
@@ -150,6 +215,10 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   ErrorManager& errorManager_;
   TaviStringOutput& outputHelper_;
   TaviMathOperation& basicOperationHelper_;
+
+  std::vector<TypingState> undoable_;
+  std::vector<TypingState> redoable_;
+  QString notice_;
 
   QString fillInText_;
   QString deleteIcon_;

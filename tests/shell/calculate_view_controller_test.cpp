@@ -1,6 +1,8 @@
 #include "shell/calculate_view_controller.h"
 
 #include <QAccessible>
+#include <QClipboard>
+#include <QGuiApplication>
 #include <QInputMethodQueryEvent>
 #include <QStringList>
 
@@ -53,7 +55,7 @@ TextRange unmark(QString& text) {
 TEST_F(CalculateViewControllerTest, KeysActAtTheCaret) {
   struct Case {
     const char* before;
-    const char* key;  // "<" deletes.
+    const char* key;  // "<" and ">" delete.
     const char* after;
   };
   const Case cases[] = {
@@ -62,6 +64,7 @@ TEST_F(CalculateViewControllerTest, KeysActAtTheCaret) {
       {"-|12", "-", "|12"},  {"1|23|", "-", "-1|"}, {"|-1|2", "-", "-|2"},  {"1-|2-3", "-", "1|23"},
       {"1|2|3", "<", "1|3"}, {"12|3", "<", "1|3"},  {"|123", "<", "|123"},  {"|12|3", "<", "|3"},
       {"π|", "<", "|"},      {"|", "<", "|"},       {"-|1", "<", "|1"},     {"1|.5", ".", "1.|.5"},
+      {"1|2", ">", "1|"},    {"12|", ">", "12|"},   {"|12|3", ">", "|3"},   {"|-1", ">", "|1"},
   };
   for (const Case& each : cases) {
     for (const auto& [name, twin] :
@@ -73,6 +76,8 @@ TEST_F(CalculateViewControllerTest, KeysActAtTheCaret) {
       const DTTextField& field = page_.edit(name, range.start, range.end);
       if (*each.key == '<') {
         controller().tappedDeleteButton();
+      } else if (*each.key == '>') {
+        controller().pressedHardwareKey(Qt::Key_Delete, Qt::NoModifier, "\x7f");
       } else {
         controller().tappedKeypadButton(QString::fromUtf8(each.key));
       }
@@ -156,9 +161,137 @@ TEST_F(CalculateViewControllerTest, HardwareKeysActAsKeypadKeys) {
   for (const QChar typed : u"(+e ä"_s) {
     EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_unknown, Qt::NoModifier, QString(typed)));
   }
-  EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_X, Qt::ControlModifier, "x"));
+  EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_Y, Qt::AltModifier, "y"));
   EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_Tab, Qt::NoModifier, "\t"));
   EXPECT_EQ(page_.field("baseField").text(), u"-1..3/πxy");
+}
+
+TEST_F(CalculateViewControllerTest, TypingBeginsInTheFirstFieldWithoutADefault) {
+  EXPECT_FALSE(controller().isTypingPossible());
+  controller().pressedHardwareKey(Qt::Key_5, Qt::NoModifier, "5");
+  EXPECT_EQ(marked(page_.field("baseField")), "5|");
+
+  page_.rebuild();
+  controller().segmentedControlValueChanged(1);
+  controller().pressedHardwareKey(Qt::Key_6, Qt::KeypadModifier, "6");
+  EXPECT_EQ(marked(page_.field("radicandField")), "56|");
+}
+
+TEST_F(CalculateViewControllerTest, WhatIsPastedIsReadAsANumberOrANoticeTellsWhyNot) {
+  struct Case {
+    const char* before;
+    const char* pasted;
+    const char* after;
+    const char* notice;
+  };
+  const Case cases[] = {
+      {"|", "2×10^3", "2000|", ""},          {"1|2|3", "45", "145|3", ""},
+      {"|12|", "−3⁄4", "-3/4|", ""},         {"|1", "-2", "-2|1", ""},
+      {"1|", "-2", "1|", "hintPasteMinus"},  {"|-1", "2", "|-1", "hintPasteMinus"},
+      {"1/2|", "3/4", "1/2|", "hintOneBar"}, {"7|", "some words", "7|", "hintPaste"},
+  };
+  for (const Case& each : cases) {
+    QString text = QString::fromUtf8(each.before);
+    const TextRange range = unmark(text);
+    page_.field("baseField").setText(text);
+    page_.edit("baseField", range.start, range.end);
+    QGuiApplication::clipboard()->setText(QString::fromUtf8(each.pasted));
+    EXPECT_TRUE(controller().pressedHardwareKey(Qt::Key_V, Qt::ControlModifier, ""));
+    EXPECT_EQ(marked(page_.field("baseField")), QString::fromUtf8(each.after)) << each.pasted;
+    EXPECT_EQ(controller().notice(), each.notice) << each.pasted;
+  }
+  controller().tappedKeypadButton("8");
+  EXPECT_EQ(controller().notice(), "");
+
+  QGuiApplication::clipboard()->setText("(3/2)^-2");
+  controller().paste();
+  EXPECT_EQ(page_.field("baseField").text(), "3/2");
+  EXPECT_EQ(page_.field("indexField").text(), "-2");
+  controller().segmentedControlValueChanged(1);
+  controller().paste();
+  EXPECT_EQ(controller().notice(), "hintPastePower");
+}
+
+TEST_F(CalculateViewControllerTest, SelectionsAreCutAndCopied) {
+  page_.type("baseField", u"123");
+  page_.edit("baseField", 1, 3);
+  controller().pressedHardwareKey(Qt::Key_C, Qt::ControlModifier, "");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "23");
+  controller().pressedHardwareKey(Qt::Key_A, Qt::ControlModifier, "");
+  controller().pressedHardwareKey(Qt::Key_X, Qt::ControlModifier, "");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "123");
+  EXPECT_EQ(page_.field("radicandField").text(), "");
+  controller().pressedHardwareKey(Qt::Key_X, Qt::ControlModifier, "");
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), "123");
+}
+
+TEST_F(CalculateViewControllerTest, EveryChangeCanBeUndoneAndRedone) {
+  const auto state = [this] {
+    const DTTextField* field = controller().currentTextField;
+    return page_.field("baseField").text() + "^" + page_.field("indexField").text() + " " +
+           (field ? field->accessibilityIdentifier + " " + marked(*field) : "");
+  };
+  QStringList states;
+  const auto step = [&](const auto& change) {
+    states.append(state());
+    change();
+  };
+  page_.edit("baseField", 0, 0);
+  step([&] { controller().tappedKeypadButton("1"); });
+  step([&] { controller().tappedKeypadButton("-"); });
+  page_.edit("exponentField", 0, 0);
+  step([&] { controller().tappedKeypadButton("2"); });
+  step([&] { controller().tappedDeleteButton(); });
+  QGuiApplication::clipboard()->setText("5^3");
+  step([&] { controller().paste(); });
+  step([&] { controller().clearAll(); });
+  const QString last = state();
+  for (qsizetype i = states.size() - 1; i >= 0; --i) {
+    controller().pressedHardwareKey(Qt::Key_Z, Qt::ControlModifier, "");
+    EXPECT_EQ(state(), states[i]);
+  }
+  controller().undo();
+  EXPECT_EQ(state(), states.front());
+  for (qsizetype i = 1; i < states.size(); ++i) {
+    controller().pressedHardwareKey(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, "");
+    EXPECT_EQ(state(), states[i]);
+  }
+  controller().redo();
+  EXPECT_EQ(state(), last);
+  controller().tappedKeypadButton("7");
+  controller().redo();
+  EXPECT_EQ(page_.field("exponentField").text(), "7");
+}
+
+TEST_F(CalculateViewControllerTest, WhatStandsTypedIsPreviewedWithAHint) {
+  EXPECT_EQ(controller().preview().hint, "hintTapField");
+  page_.edit("baseField", 0, 0);
+  EXPECT_EQ(controller().preview().hint, "hintBaseAndExponent");
+  struct Case {
+    int mode;
+    const char* first;
+    const char* second;
+    const char* latex;
+    const char* hint;
+  };
+  const Case cases[] = {
+      {0, "-2", "3/2", R"(\frac{3}{2}^{-2})", ""},
+      {0, "", "3", R"(3^{\;\color{#8e8e93}{□}})", "hintExponent"},
+      {1, "", "9", R"(\sqrt[2]{9})", ""},
+      {0, "10001", "2", "2^{10001}", "hintTooLong"},
+      {0, "2", "1.000001/3", R"(\frac{1.000001}{3}^{2})", "hintOutOfRange"},
+      {0, "40", "2", "2^{40}", "hintInfinite"},
+      {0, "39", "2", "2^{39}", ""},
+      {7, "2", "2", "", ""},
+  };
+  for (const Case& each : cases) {
+    controller().selectMode(each.mode);
+    for (const char* name : {"exponentField", "indexField"}) page_.field(name).setText(each.first);
+    for (const char* name : {"baseField", "radicandField"}) page_.field(name).setText(each.second);
+    const TaskPreview preview = controller().preview();
+    EXPECT_EQ(preview.latex, QString::fromUtf8(each.latex)) << each.second;
+    EXPECT_EQ(preview.hint, each.hint) << each.second;
+  }
 }
 
 TEST_F(CalculateViewControllerTest, ASystemKeyboardIsNeverAskedFor) {
@@ -222,19 +355,20 @@ TEST_F(CalculateViewControllerTest, RejectedInputIsToldAndLeavesTheHistory) {
     const char* second;
     const char* key;
     const char* marked;  // Which of exponent, base, index and radicand.
+    char caret;          // In which of them the user goes on.
   };
   const Case cases[] = {
-      {0, "", "", "notEnoughInputValues", "ebir"},
-      {0, "", "3", "notEnoughInputValues", "e i "},
-      {1, "", "", "notEnoughInputValues", " b r"},
-      {0, "1/", "3", "fractionIncomplete", "e i "},
-      {0, "2", "1/0", "inputZeroInDenominator", " b r"},
-      {0, "2", "π2", "naturalConstantInWrongPositionOfSubstring", " b r"},
-      {0, "10001", "1.5", "calculationTooLong", "e i "},
-      {1, "1/10001", "2", "calculationTooLong", "e i "},
-      {0, "365", "1.01", "calculationOutOfRange", "ebir"},
-      {0, "2", "1.000001/3", "calculationOutOfRange", "ebir"},
-      {0, "99999999999999999999", "2", "calculationOutOfRange", "ebir"},
+      {0, "", "", "notEnoughInputValues", "ebir", 'b'},
+      {0, "", "3", "notEnoughInputValues", "e i ", 'e'},
+      {1, "", "", "notEnoughInputValues", " b r", 'r'},
+      {0, "1/", "3", "fractionIncomplete", "e i ", 'e'},
+      {0, "2", "1/0", "inputZeroInDenominator", " b r", 'b'},
+      {0, "2", "π2", "naturalConstantInWrongPositionOfSubstring", " b r", 'b'},
+      {0, "10001", "1.5", "calculationTooLong", "e i ", 'e'},
+      {1, "1/10001", "2", "calculationTooLong", "e i ", 'i'},
+      {0, "365", "1.01", "calculationOutOfRange", "ebir", 'b'},
+      {0, "2", "1.000001/3", "calculationOutOfRange", "ebir", 'b'},
+      {0, "99999999999999999999", "2", "calculationOutOfRange", "ebir", 'b'},
   };
   for (const Case& each : cases) {
     controller().segmentedControlValueChanged(each.mode);
@@ -243,6 +377,7 @@ TEST_F(CalculateViewControllerTest, RejectedInputIsToldAndLeavesTheHistory) {
     for (const char* name : {"baseField", "radicandField"})
       page_.field(name).setText(QString::fromUtf8(each.second));
     EXPECT_FALSE(controller().performCalculation()) << each.key;
+    EXPECT_EQ(controller().currentTextField->objectName().front(), each.caret) << each.key;
     EXPECT_EQ(page_.toasts.size(), 1) << each.key;
     std::string marked;
     for (const char* name : {"exponentField", "baseField", "indexField", "radicandField"}) {

@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <array>
 #include <cstdio>
+#include <ctime>
 #include <map>
 #include <optional>
 #include <utility>
@@ -15,6 +16,7 @@
 
 #include "platform/preferences.h"
 #include "shell/calc_manager.h"
+#include "shell/calculate_view_controller.h"
 #include "shell/history/history_table_view_cell.h"
 #include "tour/stage.h"
 
@@ -29,6 +31,8 @@ constexpr const char* firstFrame = "first frame, ms";
 constexpr const char* solution = "tap to frame with solution, ms";
 constexpr const char* slowestSolution = "the same, slowest worked example, ms";
 constexpr const char* longSolution = "the same, 1,000 copies, ms";
+constexpr const char* key = "a key with its preview, ms of the processor";
+constexpr const char* longKey = "the same, 9,999 copies";
 constexpr const char* memory = "resident with solution open, MB";
 constexpr const char* history = "opening the history to its first frame, ms";
 constexpr const char* historyRows = "rows of the history that are typeset";
@@ -40,9 +44,10 @@ constexpr const char* sharingMemory = "300 rows: peak memory beyond before, MB";
 constexpr const char* sharingWide = "picture of a line of 10,000 factors, ms";
 constexpr const char* sharingWideBlock = "10,000 factors: longest without events, ms";
 constexpr const char* sharingWideMemory = "10,000 factors: peak memory beyond before, MB";
-constexpr auto figureNames = std::to_array<const char*>(
-    {firstFrame, solution, slowestSolution, longSolution, memory, history, historyRows, historyScroll, adding,
-     sharing, sharingBlock, sharingMemory, sharingWide, sharingWideBlock, sharingWideMemory});
+constexpr auto figureNames =
+    std::to_array<const char*>({firstFrame, solution, slowestSolution, longSolution, key, longKey, memory,
+                                history, historyRows, historyScroll, adding, sharing, sharingBlock,
+                                sharingMemory, sharingWide, sharingWideBlock, sharingWideMemory});
 
 using Figures = std::map<QByteArray, std::vector<double>>;
 
@@ -100,6 +105,21 @@ double timeToSolution(Stage& stage, const Task& task) {
   waitUntil([&time] { return time.has_value(); }, "a frame with the solution");
   QObject::disconnect(connection);
   return *time;
+}
+
+/// The most processor time that a key of a task takes, with what is shown of the task at once.
+double timeOfKeys(Stage& stage, const Task& task) {
+  stage.prepare(task.mode, task.first, u"");
+  stage.tap(task.mode == Mode::power ? QStringLiteral("baseField") : QStringLiteral("radicandField"));
+  auto& page = dynamic_cast<CalculateViewController&>(
+      *stage.delegate().pageTabBarController()->viewControllers().front());
+  std::clock_t longest = 0;
+  for (const QChar title : task.second) {
+    const std::clock_t start = std::clock();
+    page.tappedKeypadButton(title);
+    longest = std::max(longest, std::clock() - start);
+  }
+  return 1000.0 * static_cast<double>(longest) / CLOCKS_PER_SEC;
 }
 
 /// One process start; the first frame counts from before the process exists.
@@ -244,6 +264,11 @@ int probe(int argumentCount, char** arguments) {
   for (const Task& task : workedExamples()) slowest = std::max(slowest, timeToSolution(stage, task));
   tell(slowestSolution, slowest);
   tell(longSolution, timeToSolution(stage, {Mode::power, "1000", "2"}));
+
+  double slowestKey = 0;
+  for (const Task& task : workedExamples()) slowestKey = std::max(slowestKey, timeOfKeys(stage, task));
+  tell(key, slowestKey);
+  tell(longKey, timeOfKeys(stage, {Mode::power, "9999", "-1234.56789/9"}));
 
   QElapsedTimer timer;
   timer.start();

@@ -1,5 +1,6 @@
 #include "tour/tour.h"
 
+#include <QTest>
 #include <array>
 
 #include "appearance/dt_text_field.h"
@@ -103,6 +104,34 @@ void emptyHistory(Stage& stage) {
   waitUntil([&stage] { return stage.shows(QStringLiteral("historyCalculate")); }, "the history is empty");
 }
 
+// A text wider than its field, a result beyond counting, and the menu of a field over all of that.
+void typingMore(Stage& stage) {
+  stage.prepare(Mode::power, u"40", u"1234567890123.98765");
+  const QPointF place = stage.item(QStringLiteral("baseField")).mapToScene({60, 30});
+  QTest::mouseClick(&stage.window(), Qt::RightButton, {}, place.toPoint());
+}
+
+// Tab goes through all controls once round; the picture shows it at the key that calculates.
+void keyboard(Stage& stage) {
+  stage.prepare(Mode::power, u"", u"2");
+  const auto focused = [&stage] {
+    const QQuickItem* item = stage.window().activeFocusItem();
+    while (item && item->objectName().isEmpty()) item = item->parentItem();
+    return item ? item->objectName() : QString();
+  };
+  constexpr qsizetype patience = 20;
+  QStringList round;
+  for (QString next = focused(); !round.contains(next) && round.size() < patience; next = focused()) {
+    round.append(next);
+    QTest::keyClick(&stage.window(), Qt::Key_Tab);
+  }
+  round.sort();
+  if (round != QStringList({"baseField", "exponentField", "key Calculate", "manualButton", "menuButton",
+                            "segment0", "segment1", "tab0", "toolbarRemoveButton"}))
+    throw Failure("Tab goes to " + round.join(", ").toStdString());
+  while (focused() != u"key Calculate") QTest::keyClick(&stage.window(), Qt::Key_Tab);
+}
+
 void typing(Stage& stage) {
   stage.type(QStringLiteral("baseField"), u"3/2");
   stage.tap(QStringLiteral("exponentField"));
@@ -137,6 +166,12 @@ void typingAt(Stage& stage) {
   }
 }
 
+template <void (*act)(Stage&), int width, int height>
+void at(Stage& stage) {
+  stage.resize({width, height});
+  act(stage);
+}
+
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 constexpr QSize narrow{360, 640};
@@ -147,7 +182,9 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"03-root", root},
                                                  {"04-many-steps", manySteps},
                                                  {"05-missing-value", missingValue},
+                                                 {"48-keyboard", keyboard},
                                                  {"06-no-solution", noSolution},
+                                                 {"43-typing-more", typingMore},
                                                  {"07-wide-line", wideLine},
                                                  {"08-open-drawer", openDrawer},
                                                  {"16-history", history},
@@ -174,7 +211,11 @@ constexpr auto sizeSteps = std::to_array<Step>({{"31-input-320x480", typingAt<Mo
                                                 {"33-input-568x320", typingAt<Mode::power, 568, 320>},
                                                 {"34-input-800x360", typingAt<Mode::root, 800, 360>},
                                                 {"35-input-2560x1440", typingAt<Mode::power, 2560, 1440>},
-                                                {"36-input-412x870", typingAt<Mode::root, 412, 870>}});
+                                                {"36-input-412x870", typingAt<Mode::root, 412, 870>},
+                                                {"44-solution-568x320", at<manySteps, 568, 320>},
+                                                {"45-solution-320x480", at<manySteps, 320, 480>},
+                                                {"46-drawer-568x320", at<openDrawer, 568, 320>},
+                                                {"47-history-568x320", at<history, 568, 320>}});
 constexpr auto darkSizeSteps =
     std::to_array<Step>({{"37-dark-input-320x480", typingAt<Mode::root, 320, 480>},
                          {"38-dark-input-360x640", typingAt<Mode::root, 360, 640>},

@@ -1,9 +1,12 @@
 import QtQuick
+import QtQuick.Templates as T
 import QtTest
 
 // What a finger, a mouse and a hardware keyboard do on the calculate page.
 Item {
     id: root
+
+    readonly property Item overlay: T.Overlay.overlay // Where menus are shown.
 
     width: 412
     height: 744
@@ -271,6 +274,126 @@ Item {
             compare(stage.toasts, []);
             keyClick(Qt.Key_Return);
             compare(stage.toasts, []);
+        }
+
+        function isOn(keys) {
+            return keys.every(key => item("key " + key).enabled);
+        }
+
+        function test_keys_that_would_do_nothing_are_off() {
+            verify(!isOn(["1"]) && !isOn(["Delete"]) && !isOn(["-"]) && isOn(["Calculate"]));
+            verify(item("baseField").isInviting && !item("exponentField").isInviting);
+            compare(item("hint").text, "hintTapField");
+            keyClick("4");
+            compare(item("baseField").text, "4");
+            verify(isOn(["1", "Delete", "-", "Calculate"]));
+            verify(!item("baseField").isInviting);
+            tap("exponentField");
+            verify(isOn(["1", "-"]) && !isOn(["Delete"]));
+        }
+
+        function test_preview_follows_each_key() {
+            tap("baseField");
+            type("3");
+            verify(item("formula").latex.startsWith("3^"));
+            compare(item("hint").text, "hintExponent");
+            tap("exponentField");
+            type("2/");
+            compare(item("hint").text, "hintFraction");
+            type("5");
+            compare(item("formula").latex, "3^{\\frac{2}{5}}");
+            compare(item("hint").visible, false);
+            tap("segment1");
+            compare(item("formula").latex, "\\sqrt[\\frac{2}{5}]{3}");
+            tryCompare(item("preview").Accessible, "name", item("formula").spokenText);
+        }
+
+        // In a low window the formula gives way to the words.
+        function test_preview_stands_clear_of_the_fields_data() {
+            return [{
+                    "tag": "360x640",
+                    "size": [360, 512]
+                }, {
+                    "tag": "800x360",
+                    "size": [800, 280]
+                }, {
+                    "tag": "1280x800",
+                    "size": [1280, 672]
+                }];
+        }
+
+        function test_preview_stands_clear_of_the_fields(row) {
+            page.width = row.size[0];
+            page.height = row.size[1];
+            tap("baseField");
+            type("3/2");
+            const place = item("preview").mapToItem(page, 0, 0, item("preview").width, item("preview").height);
+            for (const name of ["segment1", "manualButton", "baseField", "exponentField", "key x", "key Delete"]) {
+                const other = item(name).mapToItem(page, 0, 0, item(name).width, item(name).height);
+                verify(place.right <= other.x || other.right <= place.x || place.bottom <= other.y || other.bottom <= place.y, name + " " + place + " " + other);
+            }
+            verify(item("hint").visible);
+            tap("exponentField");
+            type("2");
+            const formula = item("formula");
+            verify(formula.fontSize >= 14 && formula.implicitHeight <= formula.parent.parent.height);
+        }
+
+        function test_words_stand_until_the_field_is_changed() {
+            tap("baseField");
+            type("1/0");
+            tap("exponentField");
+            type("2");
+            tap("key Calculate");
+            verify(item("baseField").activeFocus);
+            compare(item("hint").text, "inputZeroInDenominator");
+            type("5");
+            compare(item("hint").visible, false);
+        }
+
+        function test_wide_text_scrolls_with_the_caret_and_fades() {
+            const edges = () => ["leftEdge", "rightEdge"].filter(name => findChild(item("baseField"), name).visible);
+            tap("baseField");
+            tryVerify(() => String(edges()) === String([]));
+            type("12345678901234567890123456");
+            tryVerify(() => String(edges()) === String(["leftEdge"]));
+            keyClick(Qt.Key_Home);
+            tryVerify(() => String(edges()) === String(["rightEdge"]));
+            for (let i = 0; i < 20; ++i)
+                keyClick(Qt.Key_Right);
+            waitForNextTap();
+            tap("baseField", 5);
+            verify(caret("baseField") > 0 && caret("baseField") < 20);
+            tryVerify(() => String(edges()) === String(["leftEdge", "rightEdge"]));
+        }
+
+        function menuEntry(name) {
+            let found = null;
+            tryVerify(() => {
+                    found = findChild(root.overlay, name);
+                    return found && found.visible;
+                });
+            return found;
+        }
+
+        function test_menu_of_a_field() {
+            tap("baseField");
+            type("123");
+            mouseClick(item("baseField"), 40, 30, Qt.RightButton);
+            verify(!menuEntry("copy").enabled);
+            mouseClick(menuEntry("selectAll"));
+            compare(caret("baseField"), [0, 3]);
+            keyClick(Qt.Key_Menu);
+            mouseClick(menuEntry("cut"));
+            compare(item("baseField").text, "");
+            const target = item("exponentField");
+            const finger = touchEvent(target);
+            finger.press(0, target, 20, 20).commit();
+            const paste = menuEntry("paste");
+            finger.release(0, target, 20, 20).commit();
+            mouseClick(paste);
+            compare(item("exponentField").text, "123");
+            compare(item("baseField").text, "");
         }
     }
 }

@@ -1,0 +1,363 @@
+// What keypad, keyboard and clipboard do to the fields, and what is shown of it beside them.
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeySequence>
+#include <algorithm>
+#include <array>
+#include <string>
+#include <utility>
+#include <variant>
+
+#include "input/pasted_text.h"
+#include "input/typed_task.h"
+#include "input/typing_hint.h"
+#include "number/fatal_stop.h"
+#include "platform/localization.h"
+#include "shell/calculate_view_controller.h"
+#include "shell/frame/is_calculating.h"
+#include "solution/display_latex.h"
+#include "solver/rehearsal.h"
+
+namespace tavi {
+
+namespace {
+
+constexpr QChar minus = u'-';
+constexpr std::size_t mostUndoable = 200;
+
+// What a hardware keyboard types for a key of the keypad: the title itself or one of these.
+struct TypedAlias {
+  QChar typed;
+  QChar title;
+};
+constexpr std::array<TypedAlias, 6> typedAliases{
+    {{u',', u'.'}, {u'p', u'π'}, {u'P', u'π'}, {u'X', u'x'}, {u'Y', u'y'}, {u'Z', u'z'}}};
+constexpr QStringView keypadTitles = u"0123456789./-πxyz";
+
+struct Command {
+  QKeySequence::StandardKey key;
+  void (CalculateViewController::*run)();
+};
+constexpr std::array commands{Command{QKeySequence::Copy, &CalculateViewController::copySelection},
+                              Command{QKeySequence::Cut, &CalculateViewController::cutSelection},
+                              Command{QKeySequence::Paste, &CalculateViewController::paste},
+                              Command{QKeySequence::SelectAll, &CalculateViewController::selectAll},
+                              Command{QKeySequence::Undo, &CalculateViewController::undo},
+                              Command{QKeySequence::Redo, &CalculateViewController::redo}};
+
+QString without(const QString& text, TextRange range) {
+  return QString(text).remove(range.start, range.end - range.start);
+}
+
+// What there is to know before a task that can be read is worked out.
+std::string_view outcomeHint(const Task& task) {
+  const Rehearsal rehearsal = rehearse(task);
+  if (std::holds_alternative<ExpansionTooLong>(rehearsal)) return "hintTooLong";
+  const auto* outcome = std::get_if<CalculationOutcome>(&rehearsal);
+  if (!outcome || !outcome->solutionSteps) return "hintOutOfRange";
+  const bool isInfinite =
+      outcome->solutionSteps->back().latexString.value_or("").find("\\infty") != std::string::npos;
+  return isInfinite ? "hintInfinite" : "";
+}
+
+}  // namespace
+
+void CalculateViewController::watch(DTTextField& field) {
+  connect(&field, &DTTextField::selectionChanged, this, &CalculateViewController::caretChanged);
+  connect(&field, &DTTextField::focusChanged, this, [this] {
+    emit caretChanged();
+    emit taskChanged();
+  });
+  connect(&field, &DTTextField::textChanged, this, [this, &field] {
+    setNotice({});
+    emit caretChanged();
+    // Of twins one tells.
+    if (field.isInVisibleHolder()) emit taskChanged();
+  });
+}
+
+// The user goes on where something is wrong.
+void CalculateViewController::goToFault(const QList<DTTextField*>& fields) {
+  const auto first =
+      std::ranges::find_if(fields, [](const DTTextField* field) { return field->isVisible(); });
+  if (first == fields.end()) return;
+  (*first)->forceActiveFocus();
+  (*first)->setSelectedTextRange({(*first)->text().size(), (*first)->text().size()});
+}
+
+bool CalculateViewController::textFieldShouldBeginEditing(DTTextField* field) {
+  currentTextField = field;
+  setNotice({});
+  emit caretChanged();
+  emit taskChanged();
+  return true;
+}
+
+DTTextField* CalculateViewController::visibleField(const QString& identifier) const {
+  const auto field = std::ranges::find_if(allFields, [&identifier](const DTTextField* each) {
+    return each->isInVisibleHolder() && each->accessibilityIdentifier == identifier;
+  });
+  return field == allFields.end() ? nullptr : *field;
+}
+
+// A change of the mode takes the caret along, so that the user sees what he goes on typing into.
+void CalculateViewController::moveEditingToVisibleTwin() {
+  DTTextField* hidden = currentTextField;
+  if (!hidden || !hidden->isFirstResponder() || hidden->isInVisibleHolder()) return;
+  DTTextField* twin = visibleField(hidden->accessibilityIdentifier);
+  if (!twin) return;
+  twin->forceActiveFocus();
+  if (const auto& range = hidden->selectedTextRange()) twin->setSelectedTextRange(*range);
+}
+
+TaskPreview CalculateViewController::preview() const {
+  if (!segmentedControl) return {};
+  const std::optional<Mode> mode = modeOf(this->mode());
+  const DTTextField* firstField = visibleField("aTextField");
+  const DTTextField* secondField = visibleField("xTextField");
+  if (!firstField || !secondField) return {};
+  const std::string first = firstField->text().toStdString();
+  const std::string second = secondField->text().toStdString();
+  const TypedTask typed = typedTask(mode, first, second);
+  const bool isUntouched = first.empty() && second.empty() && !isTypingPossible();
+  const std::string_view hint = !typed.errorKey ? outcomeHint({mode, first, second})
+                                : isUntouched   ? "hintTapField"
+                                                : typingHint(mode, typed);
+  return {.latex = QString::fromStdString(displayLatex(typedLatex(typed))),
+          .hint = hint.empty() ? QString() : localized(std::string(hint).c_str()),
+          .isReadable = !typed.errorKey};
+}
+
+void CalculateViewController::setNotice(const QString& words) {
+  if (std::exchange(notice_, words) != words) emit noticeChanged();
+}
+
+bool CalculateViewController::isTypingPossible() const {
+  return currentTextField && currentTextField->isFirstResponder() && currentTextField->selectedTextRange();
+}
+
+bool CalculateViewController::isDeletePossible() const {
+  return currentTextField && currentTextField->selectedTextRange() &&
+         currentTextField->selectedTextRange()->end > 0;
+}
+
+bool CalculateViewController::isSelectionThere() const {
+  if (!currentTextField || !currentTextField->selectedTextRange()) return false;
+  const TextRange selection = *currentTextField->selectedTextRange();
+  return selection.start < selection.end;
+}
+
+bool CalculateViewController::isMinusKeyEnabled() const {
+  if (!isTypingPossible()) return false;
+  const TextRange selection = *currentTextField->selectedTextRange();
+  return selection.start > 0 || !without(currentTextField->text(), selection).contains(minus);
+}
+
+void CalculateViewController::tappedKeypadButton(const QString& title) {
+  insertKeypadValue(title);
+}
+
+void CalculateViewController::tappedDeleteButton() {
+  deleteBackward();
+}
+
+void CalculateViewController::tappedCalculateButton() {
+  if (!isCalculating) performCalculation();
+}
+
+void CalculateViewController::tappedManualButton() {
+  showManual();
+}
+
+bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const QString& text) {
+  const auto held = Qt::KeyboardModifiers::fromInt(modifiers) & ~Qt::KeypadModifier;
+  const QKeySequence pressed(QKeyCombination(held, static_cast<Qt::Key>(key)));
+  for (const Command& command : commands) {
+    if (!QKeySequence::keyBindings(command.key).contains(pressed)) continue;
+    (this->*command.run)();
+    return true;
+  }
+  if ((held & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0) return false;
+  switch (key) {
+    case Qt::Key_Backspace:
+      tappedDeleteButton();
+      return true;
+    case Qt::Key_Delete:
+      deleteForward();
+      return true;
+    case Qt::Key_Return:
+    case Qt::Key_Enter:
+      tappedCalculateButton();
+      return true;
+    default:
+      break;
+  }
+  if (text.size() != 1) return false;
+  QChar title = text.front();
+  for (const TypedAlias& alias : typedAliases) {
+    if (alias.typed == title) title = alias.title;
+  }
+  if (!keypadTitles.contains(title)) return false;
+  if (beginTyping() && (title != minus || isMinusKeyEnabled())) tappedKeypadButton(title);
+  return true;
+}
+
+// Gives a field the focus if none has it: the one typed into before, else the one that has no default.
+bool CalculateViewController::beginTyping() {
+  if (isTypingPossible()) return true;
+  const bool isBegun = currentTextField && currentTextField->isInVisibleHolder();
+  if (DTTextField* field = isBegun ? currentTextField : visibleField("xTextField")) field->forceActiveFocus();
+  return isTypingPossible();
+}
+
+void CalculateViewController::insertKeypadValue(const QString& title) {
+  if (title.isEmpty()) fatalStop("a keypad key without a title");
+  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  errorManager_.withdrawMessage();
+  const TextRange selection = *currentTextField->selectedTextRange();
+  const qsizetype caret = selection.start;
+  QString text = without(currentTextField->text(), selection);
+  if (isTypingPossible() || isSelectionThere()) keepForUndo();
+  currentTextField->setText(text);
+  currentTextField->setSelectedTextRange({caret, caret});
+  if (!currentTextField->isFirstResponder()) return errorManager_.refreshFields();
+
+  qsizetype delta = 1;
+  if (title != minus) {
+    text.insert(caret, title);
+  } else if (text.contains(minus)) {
+    text.remove(minus);
+    delta = -1;
+  } else {
+    text.prepend(minus);
+  }
+  setText(text);
+  currentTextField->setSelectedTextRange({caret + delta, caret + delta});
+  errorManager_.refreshFields();
+}
+
+void CalculateViewController::deleteBackward() {
+  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  errorManager_.withdrawMessage();
+  TextRange selection = *currentTextField->selectedTextRange();
+  if (selection.end == 0) return;
+  if (selection.start == selection.end) --selection.start;
+  deleteRange(selection);
+}
+
+void CalculateViewController::deleteForward() {
+  if (isCalculating || !currentTextField || !currentTextField->selectedTextRange()) return;
+  errorManager_.withdrawMessage();
+  TextRange selection = *currentTextField->selectedTextRange();
+  if (selection.start == currentTextField->text().size()) return;
+  if (selection.start == selection.end) ++selection.end;
+  deleteRange(selection);
+}
+
+void CalculateViewController::deleteRange(TextRange range) {
+  keepForUndo();
+  setText(without(currentTextField->text(), range));
+  currentTextField->setSelectedTextRange({range.start, range.start});
+  errorManager_.refreshFields();
+}
+
+// The text of the current field and of its twin.
+void CalculateViewController::setText(const QString& text) {
+  currentTextField->setText(text);
+  setText(currentTextField->accessibilityIdentifier, text);
+}
+
+void CalculateViewController::setText(const QString& identifier, const QString& text) {
+  for (DTTextField* field : allFields) {
+    if (field->accessibilityIdentifier == identifier) field->setText(text);
+  }
+}
+
+void CalculateViewController::copySelection() {
+  if (!isSelectionThere()) return;
+  const TextRange selection = *currentTextField->selectedTextRange();
+  QGuiApplication::clipboard()->setText(
+      currentTextField->text().sliced(selection.start, selection.end - selection.start));
+}
+
+void CalculateViewController::cutSelection() {
+  if (isCalculating || !isSelectionThere()) return;
+  copySelection();
+  errorManager_.withdrawMessage();
+  deleteRange(*currentTextField->selectedTextRange());
+}
+
+void CalculateViewController::selectAll() {
+  if (isTypingPossible()) currentTextField->setSelectedTextRange({0, currentTextField->text().size()});
+}
+
+void CalculateViewController::paste() {
+  if (isCalculating || !beginTyping()) return;
+  errorManager_.withdrawMessage();
+  const auto pasted = readPasted(QGuiApplication::clipboard()->text().toStdString());
+  if (!pasted) return setNotice(localized("hintPaste"));
+  const QString number = QString::fromStdString(pasted->number);
+  if (pasted->exponent) return pastePower(number, QString::fromStdString(*pasted->exponent));
+
+  const TextRange selection = *currentTextField->selectedTextRange();
+  const QString text = without(currentTextField->text(), selection).insert(selection.start, number);
+  if (text.lastIndexOf(minus) > 0) return setNotice(localized("hintPasteMinus"));
+  if (text.count(u'/') > 1) return setNotice(localized("hintOneBar"));
+  keepForUndo();
+  setText(text);
+  const qsizetype caret = selection.start + number.size();
+  currentTextField->setSelectedTextRange({caret, caret});
+  errorManager_.refreshFields();
+}
+
+void CalculateViewController::pastePower(const QString& base, const QString& exponent) {
+  if (modeOf(mode()) != Mode::power) return setNotice(localized("hintPastePower"));
+  keepForUndo();
+  setText("xTextField", base);
+  setText("aTextField", exponent);
+  errorManager_.refreshFields();
+}
+
+CalculateViewController::TypingState CalculateViewController::typingState() const {
+  TypingState state;
+  for (const DTTextField* field : allFields) state.texts[field->accessibilityIdentifier] = field->text();
+  if (isTypingPossible()) {
+    state.identifier = currentTextField->accessibilityIdentifier;
+    state.selection = *currentTextField->selectedTextRange();
+  }
+  return state;
+}
+
+void CalculateViewController::restore(const TypingState& state) {
+  errorManager_.withdrawMessage();
+  for (const auto& [identifier, text] : state.texts.asKeyValueRange()) setText(identifier, text);
+  if (DTTextField* field = visibleField(state.identifier)) {
+    field->forceActiveFocus();
+    field->setSelectedTextRange(state.selection);
+  }
+  errorManager_.refreshFields();
+}
+
+void CalculateViewController::keepForUndo() {
+  undoable_.push_back(typingState());
+  if (undoable_.size() > mostUndoable) undoable_.erase(undoable_.begin());
+  redoable_.clear();
+}
+
+void CalculateViewController::undo() {
+  moveBetween(undoable_, redoable_);
+}
+
+void CalculateViewController::redo() {
+  moveBetween(redoable_, undoable_);
+}
+
+void CalculateViewController::moveBetween(std::vector<TypingState>& from, std::vector<TypingState>& to) {
+  if (isCalculating || from.empty()) return;
+  to.push_back(typingState());
+  const TypingState state = std::move(from.back());
+  from.pop_back();
+  restore(state);
+}
+
+}  // namespace tavi
