@@ -19,7 +19,7 @@ DTTextFieldItem {
     implicitHeight: 56
     activeFocusOnTab: true
 
-    // A faint ring, and a caret that stands still: here typing may begin.
+    // A ring outside its border: here typing may begin.
     Rectangle {
         anchors.fill: parent
         anchors.margins: -4

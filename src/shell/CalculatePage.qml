@@ -20,17 +20,20 @@ FocusScope {
     readonly property real room: Math.max(height - controller.bottomBannerInset, keypad.leastHeight + 8 + (isWide ? 0 : leastColumnHeight))
     readonly property real columnRoom: isWide ? keypad.height : keypad.y
 
-    // From 0, where the column is as low as it can be, to 1.
-    readonly property real ease: Math.max(0, Math.min(1, (columnRoom - leastColumnHeight) / (mostColumnHeight - leastColumnHeight)))
+    // With room enough the preview stands under the fields, else beside the switch.
+    readonly property int previewRoom: 84
+    readonly property bool isPreviewBelow: columnRoom >= leastColumnHeight + previewRoom
+
+    // From 0, where the rest of the column is as low as it can be, to 1.
+    readonly property real ease: Math.max(0, Math.min(1, (columnRoom - leastColumnHeight - (isPreviewBelow ? previewRoom : 0)) / (mostColumnHeight - leastColumnHeight)))
 
     readonly property real columnGap: Math.max(margin, Math.min(64, width - 2 * margin - 2 * columnWidth))
     readonly property real column: Math.floor(Math.min(columnWidth, isWide ? (width - 2 * margin - columnGap) / 2 : width - 2 * margin))
     readonly property real columnX: Math.floor((width - column - (isWide ? columnGap + column : 0)) / 2)
 
-    // What the column leaves free above its lower edge. With room enough the preview stands there, else beside the switch.
+    // What the column leaves free above its lower edge.
     readonly property real lowerEdge: isWide ? keypad.y + keypad.height : keypad.y - between(6, 16)
     readonly property real free: lowerEdge - fields.upperEdge - fields.height
-    readonly property bool isPreviewBelow: free >= 84
 
     function between(least, most) {
         return Math.round(least + ease * (most - least));

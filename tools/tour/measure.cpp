@@ -253,6 +253,7 @@ int probe(int argumentCount, char** arguments) {
   Application application(argumentCount, arguments);
   for (const auto* answered : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted})
     PreferenceStore::standard().setValue(*answered, true);
+  PreferenceStore::standard().setValue(preferences::counterForRating, 1000);  // No rating comes in between.
   Stage stage(application);
   tell(firstFrame, 0);
 
