@@ -8,7 +8,7 @@
         <translation>Gib die Zahlen deiner Aufgabe ein:</translation>
     </message>
     <message id="Your Input">
-        <source>Your Input</source>
+        <source>Your input</source>
         <translation>Deine Eingabe</translation>
     </message>
     <message id="Expand">
@@ -16,7 +16,7 @@
         <translation>Erweitern</translation>
     </message>
     <message id="Modified Input">
-        <source>Modified Input</source>
+        <source>Rewritten input</source>
         <translation>Umgeformte Eingabe</translation>
     </message>
     <message id="Step">
@@ -28,15 +28,15 @@
         <translation>Ergebnis</translation>
     </message>
     <message id="noSolution">
-        <source>noSolution</source>
+        <source>No solution among the real numbers</source>
         <translation>Keine Lösung in den reellen Zahlen</translation>
     </message>
     <message id="recommendedVideoIfUnclear">
-        <source>recommendedVideoIfUnclear</source>
+        <source>Still unclear? Watch a video</source>
         <translation>Noch unklar? Sieh dir ein Video an</translation>
     </message>
     <message id="touchTounlock">
-        <source>touchTounlock</source>
+        <source>Touch to unlock</source>
         <translation>Zum Freischalten tippen</translation>
     </message>
     <message id="Cancel">
@@ -48,7 +48,7 @@
         <translation>Umformen</translation>
     </message>
     <message id="Rate">
-        <source>Rate</source>
+        <source>How do you like the app?</source>
         <translation>Wie gefällt dir die App?</translation>
     </message>
     <message id="Send">
@@ -60,15 +60,15 @@
         <translation>Schließen</translation>
     </message>
     <message id="Thanks">
-        <source>Thanks</source>
+        <source>Thank you!</source>
         <translation>Danke!</translation>
     </message>
     <message id="error">
-        <source>error</source>
+        <source>Error</source>
         <translation>Fehler</translation>
     </message>
     <message id="Cancel (math)">
-        <source>Cancel (math)</source>
+        <source>Cancel the fraction</source>
         <translation>Bruch kürzen</translation>
     </message>
     <message id="Extract a root">
@@ -76,7 +76,7 @@
         <translation>Wurzel ziehen</translation>
     </message>
     <message id="Calculate power">
-        <source>Calculate power</source>
+        <source>Calculate the power</source>
         <translation>Potenz berechnen</translation>
     </message>
     <message id="Reciprocal">
@@ -96,15 +96,15 @@
         <translation>Löschen</translation>
     </message>
     <message id="Calculate Title">
-        <source>Calculate Title</source>
+        <source>Powers and roots</source>
         <translation>Potenzen und Wurzeln</translation>
     </message>
     <message id="sharingImageQualityTitle">
-        <source>sharingImageQualityTitle</source>
+        <source>Preparing your picture</source>
         <translation>Dein Bild entsteht</translation>
     </message>
     <message id="sharingImageQualityText">
-        <source>sharingImageQualityText</source>
+        <source>The whole solution becomes one long picture. For the best quality, send it as a file.</source>
         <translation>Der ganze Lösungsweg wird ein langes Bild. Am schärfsten bleibt es, wenn du es als Datei verschickst.</translation>
     </message>
     <message id="History">
@@ -112,11 +112,11 @@
         <translation>Verlauf</translation>
     </message>
     <message id="Clear History">
-        <source>Clear History</source>
+        <source>Clear history</source>
         <translation>Verlauf löschen</translation>
     </message>
     <message id="Are you sure to delete your whole history?">
-        <source>Are you sure to delete your whole history?</source>
+        <source>Are you sure you want to delete your whole history?</source>
         <translation>Möchtest du wirklich den ganzen Verlauf löschen?</translation>
     </message>
     <message id="Edit">
@@ -124,15 +124,15 @@
         <translation>Bearbeiten</translation>
     </message>
     <message id="historyDelete">
-        <source>historyDelete</source>
+        <source>Delete %0</source>
         <translation>%0 löschen</translation>
     </message>
     <message id="historyDeleted">
-        <source>historyDeleted</source>
+        <source>Calculation deleted</source>
         <translation>Aufgabe gelöscht</translation>
     </message>
     <message id="historyCleared">
-        <source>historyCleared</source>
+        <source>History deleted</source>
         <translation>Verlauf gelöscht</translation>
     </message>
     <message id="Undo">
@@ -140,115 +140,119 @@
         <translation>Rückgängig</translation>
     </message>
     <message id="historyMoved">
-        <source>historyMoved</source>
+        <source>Moved to %0 of %1</source>
         <translation>Verschoben auf %0 von %1</translation>
     </message>
     <message id="historyEmpty">
-        <source>historyEmpty</source>
+        <source>Nothing here yet. Everything you calculate is kept here, so that you can come back to it.</source>
         <translation>Noch nichts da. Alles, was du rechnest, steht später hier, und du kannst es wieder öffnen.</translation>
     </message>
     <message id="historyCalculate">
-        <source>historyCalculate</source>
+        <source>Calculate something</source>
         <translation>Etwas berechnen</translation>
     </message>
     <message id="historyUntitled">
-        <source>historyUntitled</source>
+        <source>Calculation without a formula</source>
         <translation>Aufgabe ohne Formel</translation>
     </message>
     <message id="nothingIsKept">
-        <source>nothingIsKept</source>
+        <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Gerade kann nichts gespeichert werden. Dein Verlauf bleibt, bis du die App schließt.</translation>
     </message>
     <message id="Assistance">
-        <source>Assistance</source>
+        <source>Help</source>
         <translation>Hilfe</translation>
     </message>
     <message id="noInternet">
-        <source>noInternet</source>
+        <source>No internet connection</source>
         <translation>Keine Internetverbindung</translation>
     </message>
     <message id="dsgvoAccept">
-        <source>dsgvoAccept</source>
+        <source>Accept</source>
         <translation>Zustimmen</translation>
     </message>
     <message id="dsgvoDecline">
-        <source>dsgvoDecline</source>
+        <source>Decline</source>
         <translation>Ablehnen</translation>
     </message>
     <message id="dsgvoYoutubeTitle">
-        <source>dsgvoYoutubeTitle</source>
+        <source>Video privacy</source>
         <translation>Datenschutz bei Videos</translation>
     </message>
     <message id="dsgvoYoutubeText">
-        <source>dsgvoYoutubeText</source>
+        <source>The videos come from YouTube, a service of others. If you accept, they are loaded from YouTube's servers as soon as they come into sight. YouTube then learns your internet address, can store data on your device and can recognise you if you are signed in there.
+
+Until then nothing is loaded. You can withdraw at any time with the lock over the videos, and everything else works without them.</source>
         <translation>Die Videos kommen von YouTube, einem fremden Dienst. Wenn du zustimmst, werden sie von den Servern von YouTube geladen, sobald sie zu sehen sind. YouTube erfährt dabei deine Internetadresse, kann Daten auf deinem Gerät speichern und dich wiedererkennen, wenn du dort angemeldet bist.
 
 Vorher wird nichts geladen. Mit dem Schloss über den Videos kannst du deine Zustimmung jederzeit widerrufen; alles andere geht auch ohne Videos.</translation>
     </message>
     <message id="dsgvoTitlePro">
-        <source>dsgvoTitlePro</source>
+        <source>Privacy</source>
         <translation>Datenschutz</translation>
     </message>
     <message id="dsgvoTextPro">
-        <source>dsgvoTextPro</source>
+        <source>What you calculate stays on this device. Your tasks, your settings and this answer are stored here only.
+
+Where an address for it is set, the app fetches its list of videos and apps from the internet; nothing about you is sent along. Links open in your browser, and videos come from YouTube only after you have allowed it.</source>
         <translation>Was du rechnest, bleibt auf diesem Gerät. Deine Aufgaben, deine Einstellungen und diese Antwort werden nur hier gespeichert.
 
 Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps aus dem Internet; über dich wird dabei nichts gesendet. Links öffnen sich in deinem Browser, und Videos kommen erst von YouTube, wenn du es erlaubt hast.</translation>
     </message>
     <message id="onboardingA">
-        <source>onboardingA</source>
+        <source>Welcome to §appname! Here you learn step by step how powers and roots are worked out.</source>
         <translation>Willkommen bei §appname! Hier lernst du Schritt für Schritt, wie man Potenzen und Wurzeln berechnet.</translation>
     </message>
     <message id="onboardingB">
-        <source>onboardingB</source>
+        <source>At the top, choose between a power and a root.</source>
         <translation>Wähle oben zwischen Potenz und Wurzel.</translation>
     </message>
     <message id="onboardingC">
-        <source>onboardingC</source>
+        <source>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome, too.</source>
         <translation>Tippe auf ein Feld und gib deine Zahlen ein. Auch Brüche, Dezimalzahlen, π und x, y, z sind willkommen.</translation>
     </message>
     <message id="onboardingD">
-        <source>onboardingD</source>
+        <source>Tap the check mark, and you see every step. Colours show what happens; a long line scrolls sideways.</source>
         <translation>Tippe auf den Haken, dann siehst du jeden Schritt. Farben zeigen, was geschieht; lange Zeilen lassen sich seitwärts schieben.</translation>
     </message>
     <message id="onboardingE">
-        <source>onboardingE</source>
+        <source>Your tasks stay in the history, which you find in the menu. The share button makes a picture of a working.</source>
         <translation>Deine Aufgaben bleiben im Verlauf, den du im Menü findest. Der Teilen-Knopf macht aus einer Lösung ein Bild.</translation>
     </message>
     <message id="onboardingYoutube1">
-        <source>onboardingYoutube1</source>
+        <source>Some steps are easier to understand with a video.</source>
         <translation>Manche Schritte versteht man leichter mit einem Video.</translation>
     </message>
     <message id="onboardingYoutube2">
-        <source>onboardingYoutube2</source>
+        <source>The videos under a working explain the same topic. Push the row sideways to see more of them.</source>
         <translation>Die Videos unter einer Lösung erklären das gleiche Thema. Schiebe die Reihe seitwärts, um mehr zu sehen.</translation>
     </message>
     <message id="onboardingYoutube3">
-        <source>onboardingYoutube3</source>
+        <source>They come from YouTube, which then learns your internet address and can store data on your device.</source>
         <translation>Sie kommen von YouTube. YouTube erfährt dabei deine Internetadresse und kann Daten auf deinem Gerät speichern.</translation>
     </message>
     <message id="onboardingYoutube4">
-        <source>onboardingYoutube4</source>
+        <source>While the row is locked, nothing at all is loaded from there.</source>
         <translation>Solange die Reihe gesperrt ist, wird von dort nichts geladen.</translation>
     </message>
     <message id="onboardingYoutube5">
-        <source>onboardingYoutube5</source>
+        <source>You can change your mind at any time: tap the lock over the videos.</source>
         <translation>Du kannst dich jederzeit anders entscheiden: Tippe auf das Schloss über den Videos.</translation>
     </message>
     <message id="introduction">
-        <source>introduction</source>
+        <source>Introduction</source>
         <translation>Einführung</translation>
     </message>
     <message id="privacyPolicy">
-        <source>privacyPolicy</source>
+        <source>Privacy policy</source>
         <translation>Datenschutz</translation>
     </message>
     <message id="Rate this App">
-        <source>Rate this App</source>
+        <source>Rate this app</source>
         <translation>Diese App bewerten</translation>
     </message>
     <message id="Discord">
-        <source>Discord</source>
+        <source>Community chat</source>
         <translation>Community-Chat</translation>
     </message>
     <message id="Visit us:">
@@ -264,55 +268,55 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Weitere Apps:</translation>
     </message>
     <message id="oppositionError">
-        <source>oppositionError</source>
+        <source>These numbers contradict each other. Please check your input.</source>
         <translation>Diese Zahlen widersprechen sich. Bitte prüfe deine Eingabe.</translation>
     </message>
     <message id="mustBeBiggerThanXAndLessThanY">
-        <source>mustBeBiggerThanXAndLessThanY</source>
+        <source>The value must be greater than %0 and less than %1.</source>
         <translation>Der Wert muss größer als %0 und kleiner als %1 sein.</translation>
     </message>
     <message id="mustBeGreatherThanX">
-        <source>mustBeGreatherThanX</source>
+        <source>The value must be greater than %0.</source>
         <translation>Der Wert muss größer als %0 sein.</translation>
     </message>
     <message id="mustBeLessThanX">
-        <source>mustBeLessThanX</source>
+        <source>The value must be less than %0.</source>
         <translation>Der Wert muss kleiner als %0 sein.</translation>
     </message>
     <message id="notEnoughInputValues">
-        <source>notEnoughInputValues</source>
+        <source>A value is missing. Please fill in the marked field.</source>
         <translation>Es fehlt ein Wert. Bitte fülle das markierte Feld aus.</translation>
     </message>
     <message id="inputParameterError">
-        <source>inputParameterError</source>
+        <source>This is not a number I can read. Please check the marked field.</source>
         <translation>Das kann ich nicht als Zahl lesen. Bitte prüfe das markierte Feld.</translation>
     </message>
     <message id="fractionIncomplete">
-        <source>fractionIncomplete</source>
+        <source>The fraction is incomplete. It needs a number above and below the line.</source>
         <translation>Der Bruch ist unvollständig. Er braucht einen Zähler und einen Nenner.</translation>
     </message>
     <message id="inputZeroInDenominator">
-        <source>inputZeroInDenominator</source>
+        <source>You cannot divide by zero. Please change the denominator.</source>
         <translation>Durch null kann man nicht teilen. Bitte ändere den Nenner.</translation>
     </message>
     <message id="toManyNaturalConstantsInSubstring">
-        <source>toManyNaturalConstantsInSubstring</source>
+        <source>Use π only once in each part of a number.</source>
         <translation>Schreibe π in jedem Teil einer Zahl nur einmal.</translation>
     </message>
     <message id="naturalConstantInWrongPositionOfSubstring">
-        <source>naturalConstantInWrongPositionOfSubstring</source>
+        <source>Write π or a letter behind its number, as in 2π or 3x.</source>
         <translation>Schreibe π oder einen Buchstaben hinter die Zahl, wie in 2π oder 3x.</translation>
     </message>
     <message id="toManyVariablesInSubstring">
-        <source>toManyVariablesInSubstring</source>
+        <source>Use only one variable in each part of a number.</source>
         <translation>Schreibe in jedem Teil einer Zahl nur eine Variable.</translation>
     </message>
     <message id="calculationTooLong">
-        <source>calculationTooLong</source>
+        <source>This would take more steps than anyone can read. Please try a smaller number here.</source>
         <translation>Das wären mehr Schritte, als man lesen kann. Bitte nimm hier eine kleinere Zahl.</translation>
     </message>
     <message id="calculationOutOfRange">
-        <source>calculationOutOfRange</source>
+        <source>These numbers are too large or too exact for me. Please use smaller or shorter ones.</source>
         <translation>Diese Zahlen sind mir zu groß oder zu genau. Bitte nimm kleinere oder kürzere.</translation>
     </message>
     <message id="hintTapField">
@@ -464,171 +468,171 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Pi</translation>
     </message>
     <message id="menuButton">
-        <source>menuButton</source>
+        <source>Menu</source>
         <translation>Menü</translation>
     </message>
     <message id="shareButton">
-        <source>shareButton</source>
+        <source>Share the solution</source>
         <translation>Lösung teilen</translation>
     </message>
     <message id="sharingSave">
-        <source>sharingSave</source>
+        <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message id="sharingPicture">
-        <source>sharingPicture</source>
+        <source>Picture</source>
         <translation>Bild</translation>
     </message>
     <message id="copyAsLatex">
-        <source>copyAsLatex</source>
+        <source>Copy as LaTeX</source>
         <translation>Als LaTeX kopieren</translation>
     </message>
     <message id="copyAsMathMl">
-        <source>copyAsMathMl</source>
+        <source>Copy as MathML</source>
         <translation>Als MathML kopieren</translation>
     </message>
     <message id="copyAsWords">
-        <source>copyAsWords</source>
+        <source>Copy as words</source>
         <translation>In Worten kopieren</translation>
     </message>
     <message id="copyAsPicture">
-        <source>copyAsPicture</source>
+        <source>Copy as picture</source>
         <translation>Als Bild kopieren</translation>
     </message>
     <message id="sharingSaveAs">
-        <source>sharingSaveAs</source>
+        <source>Save as…</source>
         <translation>Speichern unter …</translation>
     </message>
     <message id="sharingSaveHere">
-        <source>sharingSaveHere</source>
+        <source>Save</source>
         <translation>Speichern</translation>
     </message>
     <message id="sharingCopy">
-        <source>sharingCopy</source>
+        <source>Copy</source>
         <translation>Kopieren</translation>
     </message>
     <message id="sharingOpen">
-        <source>sharingOpen</source>
+        <source>Open</source>
         <translation>Öffnen</translation>
     </message>
     <message id="sharingFileName">
-        <source>sharingFileName</source>
+        <source>Solution</source>
         <translation>Lösung</translation>
     </message>
     <message id="sharingSaved">
-        <source>sharingSaved</source>
+        <source>Saved as %1</source>
         <translation>Gespeichert unter %1</translation>
     </message>
     <message id="sharingCopied">
-        <source>sharingCopied</source>
+        <source>Copied</source>
         <translation>Kopiert</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>sharingNoRoom</source>
+        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
         <translation>Für das Bild ist nicht genug Platz. Schaffe Platz oder wähle einen anderen Ort; es wurde nichts gespeichert.</translation>
     </message>
     <message id="sharingNotWritable">
-        <source>sharingNotWritable</source>
+        <source>Nothing can be saved in this folder. Choose another one.</source>
         <translation>In diesem Ordner lässt sich nichts speichern. Wähle einen anderen.</translation>
     </message>
     <message id="sharingNoViewer">
-        <source>sharingNoViewer</source>
+        <source>No program was found that shows pictures. Save the picture instead.</source>
         <translation>Es wurde kein Programm gefunden, das Bilder zeigt. Speichere das Bild stattdessen.</translation>
     </message>
     <message id="manualButton">
-        <source>manualButton</source>
+        <source>How it works</source>
         <translation>So geht es</translation>
     </message>
     <message id="animateAgainButton">
-        <source>animateAgainButton</source>
+        <source>Play again</source>
         <translation>Noch einmal abspielen</translation>
     </message>
     <message id="next">
-        <source>next</source>
+        <source>Next</source>
         <translation>Weiter</translation>
     </message>
     <message id="letsStart">
-        <source>letsStart</source>
+        <source>Let's start</source>
         <translation>Los geht's</translation>
     </message>
     <message id="pageOf">
-        <source>pageOf</source>
+        <source>Page %1 of %2</source>
         <translation>Seite %1 von %2</translation>
     </message>
     <message id="videoGuide">
-        <source>videoGuide</source>
+        <source>About the videos</source>
         <translation>Über die Videos</translation>
     </message>
     <message id="videoPrivacyLocked">
-        <source>videoPrivacyLocked</source>
+        <source>Privacy of the videos: locked</source>
         <translation>Datenschutz der Videos: gesperrt</translation>
     </message>
     <message id="videoPrivacyOpen">
-        <source>videoPrivacyOpen</source>
+        <source>Privacy of the videos: allowed</source>
         <translation>Datenschutz der Videos: erlaubt</translation>
     </message>
     <message id="videoMissing">
-        <source>videoMissing</source>
+        <source>No video</source>
         <translation>Kein Video</translation>
     </message>
     <message id="videoCovered">
-        <source>videoCovered</source>
+        <source>Video, not ready yet</source>
         <translation>Video, noch nicht bereit</translation>
     </message>
     <message id="videoReady">
-        <source>videoReady</source>
+        <source>Video</source>
         <translation>Video</translation>
     </message>
     <message id="videoOutside">
-        <source>videoOutside</source>
+        <source>Watch in the browser</source>
         <translation>Im Browser ansehen</translation>
     </message>
     <message id="ratingStars">
-        <source>ratingStars</source>
+        <source>%1 of %2 stars</source>
         <translation>%1 von %2 Sternen</translation>
     </message>
     <message id="grabAdsDiscountForPercentage">
-        <source>grabAdsDiscountForPercentage</source>
+        <source>Get § off</source>
         <translation>§ Rabatt sichern</translation>
     </message>
     <message id="linkNotOpened">
-        <source>linkNotOpened</source>
+        <source>This link cannot be opened here.</source>
         <translation>Dieser Link lässt sich hier nicht öffnen.</translation>
     </message>
     <message id="manual1">
-        <source>manual1</source>
+        <source>Choose whether you want a power or a root.</source>
         <translation>Wähle, ob du eine Potenz oder eine Wurzel willst.</translation>
     </message>
     <message id="manual2">
-        <source>manual2</source>
+        <source>The base; for a root, the number under the root sign. Tap a field to type into it.</source>
         <translation>Die Basis, bei Wurzeln die Zahl unter dem Wurzelzeichen. Tippe auf ein Feld, um hineinzuschreiben.</translation>
     </message>
     <message id="manual3">
-        <source>manual3</source>
+        <source>The exponent; for a root, its index. An empty index means 2.</source>
         <translation>Der Exponent, bei Wurzeln der Wurzelexponent. Leer bedeutet er 2.</translation>
     </message>
     <message id="manual4">
-        <source>manual4</source>
+        <source>Point, slash and letters: type 0.5, 3/2, π or x. Minus changes the sign of the field.</source>
         <translation>Punkt, Bruchstrich und Buchstaben: Schreibe 0.5, 3/2, π oder x. Minus wechselt das Vorzeichen des Feldes.</translation>
     </message>
     <message id="manual5">
-        <source>manual5</source>
+        <source>Delete on the left; the check mark starts the calculation.</source>
         <translation>Links löschst du, der Haken startet die Rechnung.</translation>
     </message>
     <message id="manual6">
-        <source>manual6</source>
+        <source>The working begins with your task. Rows that are too long scroll sideways.</source>
         <translation>Die Lösung beginnt mit deiner Aufgabe. Zu lange Zeilen lassen sich seitwärts schieben.</translation>
     </message>
     <message id="manual7">
-        <source>manual7</source>
+        <source>Red: what the next step works on. Blue and violet: numerator and denominator of an exponent.</source>
         <translation>Rot: womit der nächste Schritt arbeitet. Blau und Violett: Zähler und Nenner eines Exponenten.</translation>
     </message>
     <message id="manual8">
-        <source>manual8</source>
+        <source>Green: what has just been worked out.</source>
         <translation>Grün: was gerade ausgerechnet wurde.</translation>
     </message>
     <message id="manual9">
-        <source>manual9</source>
+        <source>The result, marked by the bar at its left.</source>
         <translation>Das Ergebnis, zu erkennen am Balken links.</translation>
     </message>
     <message id="pleaseWait">
@@ -639,205 +643,205 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>OK</source>
         <translation>OK</translation>
     </message>
-    <message id="chartLine">
-        <source>chartLine</source>
-        <translation>Liniendiagramm</translation>
-    </message>
-    <message id="chartCurve">
-        <source>chartCurve</source>
-        <translation>Kurve</translation>
-    </message>
-    <message id="chartScatter">
-        <source>chartScatter</source>
-        <translation>Punktdiagramm</translation>
-    </message>
-    <message id="chartArea">
-        <source>chartArea</source>
-        <translation>Flächendiagramm</translation>
-    </message>
-    <message id="chartAxisRange">
-        <source>chartAxisRange</source>
-        <translation>%1 von %2 bis %3</translation>
-    </message>
-    <message id="chartNoPoints">
-        <source>chartNoPoints</source>
-        <translation>%1: keine Punkte</translation>
-    </message>
-    <message id="chartOnePoint">
-        <source>chartOnePoint</source>
-        <translation>%1: ein Punkt, %2</translation>
-    </message>
-    <message id="chartPoints">
-        <source>chartPoints</source>
-        <translation>%1: %2 Punkte, von %3 bis %4, am tiefsten %5, am höchsten %6</translation>
-    </message>
-    <message id="chartValueAt">
-        <source>chartValueAt</source>
-        <translation>%1 bei %2</translation>
-    </message>
-    <message id="chartTree">
-        <source>chartTree</source>
-        <translation>Baumdiagramm mit %1 Versuchen, Trefferwahrscheinlichkeit %2, Gegenwahrscheinlichkeit %3</translation>
-    </message>
-    <message id="chartAngle">
-        <source>chartAngle</source>
-        <translation>Einheitskreis, Winkel %1, volle Umdrehungen %2 und %3, Kosinus %4, Sinus %5</translation>
-    </message>
-    <message id="chartNoAngle">
-        <source>chartNoAngle</source>
-        <translation>Einheitskreis</translation>
-    </message>
-    <message id="chartQuadrant">
-        <source>chartQuadrant</source>
-        <translation>Quadrant %1</translation>
-    </message>
-    <message id="mathPlus">
-        <source>mathPlus</source>
-        <translation>plus</translation>
-    </message>
-    <message id="mathMinus">
-        <source>mathMinus</source>
-        <translation>minus</translation>
-    </message>
-    <message id="mathPlusMinus">
-        <source>mathPlusMinus</source>
-        <translation>plus oder minus</translation>
-    </message>
-    <message id="mathTimes">
-        <source>mathTimes</source>
-        <translation>mal</translation>
-    </message>
-    <message id="mathDividedBy">
-        <source>mathDividedBy</source>
-        <translation>geteilt durch</translation>
-    </message>
-    <message id="mathEquals">
-        <source>mathEquals</source>
-        <translation>gleich</translation>
-    </message>
-    <message id="mathNotEqual">
-        <source>mathNotEqual</source>
-        <translation>ist ungleich</translation>
-    </message>
-    <message id="mathApproximately">
-        <source>mathApproximately</source>
-        <translation>ist ungefähr</translation>
-    </message>
-    <message id="mathLess">
-        <source>mathLess</source>
-        <translation>ist kleiner als</translation>
-    </message>
-    <message id="mathGreater">
-        <source>mathGreater</source>
-        <translation>ist größer als</translation>
-    </message>
-    <message id="mathLessOrEqual">
-        <source>mathLessOrEqual</source>
-        <translation>ist kleiner oder gleich</translation>
-    </message>
-    <message id="mathGreaterOrEqual">
-        <source>mathGreaterOrEqual</source>
-        <translation>ist größer oder gleich</translation>
-    </message>
-    <message id="mathInfinity">
-        <source>mathInfinity</source>
-        <translation>unendlich</translation>
-    </message>
-    <message id="mathDegrees">
-        <source>mathDegrees</source>
-        <translation>Grad</translation>
-    </message>
-    <message id="mathPercent">
-        <source>mathPercent</source>
-        <translation>Prozent</translation>
-    </message>
-    <message id="mathFactorial">
-        <source>mathFactorial</source>
-        <translation>Fakultät</translation>
-    </message>
-    <message id="mathFraction">
-        <source>mathFraction</source>
-        <translation>%1 durch %2</translation>
-    </message>
-    <message id="mathLongFraction">
-        <source>mathLongFraction</source>
-        <translation>Bruch %1 durch %2 Ende Bruch</translation>
-    </message>
-    <message id="mathSquareRoot">
-        <source>mathSquareRoot</source>
-        <translation>Quadratwurzel aus %1</translation>
-    </message>
-    <message id="mathLongSquareRoot">
-        <source>mathLongSquareRoot</source>
-        <translation>Quadratwurzel aus %1 Ende Wurzel</translation>
-    </message>
-    <message id="mathCubeRoot">
-        <source>mathCubeRoot</source>
-        <translation>dritte Wurzel aus %1</translation>
-    </message>
-    <message id="mathLongCubeRoot">
-        <source>mathLongCubeRoot</source>
-        <translation>dritte Wurzel aus %1 Ende Wurzel</translation>
-    </message>
-    <message id="mathRoot">
-        <source>mathRoot</source>
-        <translation>Wurzel mit Wurzelexponent %1 aus %2</translation>
-    </message>
-    <message id="mathLongRoot">
-        <source>mathLongRoot</source>
-        <translation>Wurzel mit Wurzelexponent %1 aus %2 Ende Wurzel</translation>
-    </message>
-    <message id="mathPower">
-        <source>mathPower</source>
-        <translation>%1 hoch %2</translation>
-    </message>
-    <message id="mathLongPower">
-        <source>mathLongPower</source>
-        <translation>%1 hoch %2 Ende Exponent</translation>
-    </message>
-    <message id="mathIndex">
-        <source>mathIndex</source>
-        <translation>%1 Index %2</translation>
-    </message>
-    <message id="mathParentheses">
-        <source>mathParentheses</source>
-        <translation>Klammer auf %1 Klammer zu</translation>
+    <message id="mathAbsoluteValue">
+        <source>absolute value of %1 end of absolute value</source>
+        <translation>Betrag von %1 Ende Betrag</translation>
     </message>
     <message id="mathBrackets">
-        <source>mathBrackets</source>
+        <source>open bracket %1 close bracket</source>
         <translation>eckige Klammer auf %1 eckige Klammer zu</translation>
     </message>
     <message id="mathBraces">
-        <source>mathBraces</source>
+        <source>open brace %1 close brace</source>
         <translation>geschweifte Klammer auf %1 geschweifte Klammer zu</translation>
     </message>
-    <message id="mathAbsoluteValue">
-        <source>mathAbsoluteValue</source>
-        <translation>Betrag von %1 Ende Betrag</translation>
+    <message id="mathParentheses">
+        <source>open parenthesis %1 close parenthesis</source>
+        <translation>Klammer auf %1 Klammer zu</translation>
+    </message>
+    <message id="mathFraction">
+        <source>%1 over %2</source>
+        <translation>%1 durch %2</translation>
+    </message>
+    <message id="mathLongFraction">
+        <source>fraction %1 over %2 end of fraction</source>
+        <translation>Bruch %1 durch %2 Ende Bruch</translation>
+    </message>
+    <message id="mathSquareRoot">
+        <source>square root of %1</source>
+        <translation>Quadratwurzel aus %1</translation>
+    </message>
+    <message id="mathLongSquareRoot">
+        <source>square root of %1 end of root</source>
+        <translation>Quadratwurzel aus %1 Ende Wurzel</translation>
+    </message>
+    <message id="mathCubeRoot">
+        <source>cube root of %1</source>
+        <translation>dritte Wurzel aus %1</translation>
+    </message>
+    <message id="mathLongCubeRoot">
+        <source>cube root of %1 end of root</source>
+        <translation>dritte Wurzel aus %1 Ende Wurzel</translation>
+    </message>
+    <message id="mathRoot">
+        <source>root with index %1 of %2</source>
+        <translation>Wurzel mit Wurzelexponent %1 aus %2</translation>
+    </message>
+    <message id="mathLongRoot">
+        <source>root with index %1 of %2 end of root</source>
+        <translation>Wurzel mit Wurzelexponent %1 aus %2 Ende Wurzel</translation>
+    </message>
+    <message id="mathIndex">
+        <source>%1 sub %2</source>
+        <translation>%1 Index %2</translation>
+    </message>
+    <message id="mathPower">
+        <source>%1 to the power of %2</source>
+        <translation>%1 hoch %2</translation>
+    </message>
+    <message id="mathLongPower">
+        <source>%1 to the power of %2 end of power</source>
+        <translation>%1 hoch %2 Ende Exponent</translation>
+    </message>
+    <message id="mathPlus">
+        <source>plus</source>
+        <translation>plus</translation>
+    </message>
+    <message id="mathMinus">
+        <source>minus</source>
+        <translation>minus</translation>
+    </message>
+    <message id="mathPlusMinus">
+        <source>plus or minus</source>
+        <translation>plus oder minus</translation>
+    </message>
+    <message id="mathDividedBy">
+        <source>divided by</source>
+        <translation>geteilt durch</translation>
+    </message>
+    <message id="mathEquals">
+        <source>equals</source>
+        <translation>gleich</translation>
+    </message>
+    <message id="mathNotEqual">
+        <source>is not equal to</source>
+        <translation>ist ungleich</translation>
+    </message>
+    <message id="mathApproximately">
+        <source>is approximately</source>
+        <translation>ist ungefähr</translation>
+    </message>
+    <message id="mathLess">
+        <source>is less than</source>
+        <translation>ist kleiner als</translation>
+    </message>
+    <message id="mathGreater">
+        <source>is greater than</source>
+        <translation>ist größer als</translation>
+    </message>
+    <message id="mathLessOrEqual">
+        <source>is less than or equal to</source>
+        <translation>ist kleiner oder gleich</translation>
+    </message>
+    <message id="mathGreaterOrEqual">
+        <source>is greater than or equal to</source>
+        <translation>ist größer oder gleich</translation>
+    </message>
+    <message id="mathInfinity">
+        <source>infinity</source>
+        <translation>unendlich</translation>
+    </message>
+    <message id="mathDegrees">
+        <source>degrees</source>
+        <translation>Grad</translation>
+    </message>
+    <message id="mathPercent">
+        <source>percent</source>
+        <translation>Prozent</translation>
+    </message>
+    <message id="mathFactorial">
+        <source>factorial</source>
+        <translation>Fakultät</translation>
+    </message>
+    <message id="mathPi">
+        <source>pi</source>
+        <translation>Pi</translation>
     </message>
     <message id="mathSine">
-        <source>mathSine</source>
+        <source>sine</source>
         <translation>Sinus</translation>
     </message>
     <message id="mathCosine">
-        <source>mathCosine</source>
+        <source>cosine</source>
         <translation>Kosinus</translation>
     </message>
     <message id="mathTangent">
-        <source>mathTangent</source>
+        <source>tangent</source>
         <translation>Tangens</translation>
     </message>
     <message id="mathLogarithm">
-        <source>mathLogarithm</source>
+        <source>logarithm</source>
         <translation>Logarithmus</translation>
     </message>
     <message id="mathNaturalLogarithm">
-        <source>mathNaturalLogarithm</source>
+        <source>natural logarithm</source>
         <translation>natürlicher Logarithmus</translation>
     </message>
-    <message id="mathPi">
-        <source>mathPi</source>
-        <translation>Pi</translation>
+    <message id="mathTimes">
+        <source>times</source>
+        <translation>mal</translation>
+    </message>
+    <message id="chartAxisRange">
+        <source>%1 from %2 to %3</source>
+        <translation>%1 von %2 bis %3</translation>
+    </message>
+    <message id="chartNoPoints">
+        <source>%1: no points</source>
+        <translation>%1: keine Punkte</translation>
+    </message>
+    <message id="chartOnePoint">
+        <source>%1: one point, %2</source>
+        <translation>%1: ein Punkt, %2</translation>
+    </message>
+    <message id="chartPoints">
+        <source>%1: %2 points, from %3 to %4, lowest %5, highest %6</source>
+        <translation>%1: %2 Punkte, von %3 bis %4, am tiefsten %5, am höchsten %6</translation>
+    </message>
+    <message id="chartValueAt">
+        <source>%1 at %2</source>
+        <translation>%1 bei %2</translation>
+    </message>
+    <message id="chartTree">
+        <source>probability tree of %1 trials, probability of success %2, of failure %3</source>
+        <translation>Baumdiagramm mit %1 Versuchen, Trefferwahrscheinlichkeit %2, Gegenwahrscheinlichkeit %3</translation>
+    </message>
+    <message id="chartAngle">
+        <source>unit circle, angle %1, full turns %2 and %3, cosine %4, sine %5</source>
+        <translation>Einheitskreis, Winkel %1, volle Umdrehungen %2 und %3, Kosinus %4, Sinus %5</translation>
+    </message>
+    <message id="chartNoAngle">
+        <source>unit circle</source>
+        <translation>Einheitskreis</translation>
+    </message>
+    <message id="chartQuadrant">
+        <source>quadrant %1</source>
+        <translation>Quadrant %1</translation>
+    </message>
+    <message id="chartLine">
+        <source>line chart</source>
+        <translation>Liniendiagramm</translation>
+    </message>
+    <message id="chartCurve">
+        <source>curve</source>
+        <translation>Kurve</translation>
+    </message>
+    <message id="chartScatter">
+        <source>chart of points</source>
+        <translation>Punktdiagramm</translation>
+    </message>
+    <message id="chartArea">
+        <source>area chart</source>
+        <translation>Flächendiagramm</translation>
     </message>
     <message id="settings">
         <source>settings</source>

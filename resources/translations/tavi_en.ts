@@ -8,7 +8,7 @@
         <translation>Fill in your given numbers:</translation>
     </message>
     <message id="Your Input">
-        <source>Your Input</source>
+        <source>Your input</source>
         <translation>Your input</translation>
     </message>
     <message id="Expand">
@@ -16,7 +16,7 @@
         <translation>Expand</translation>
     </message>
     <message id="Modified Input">
-        <source>Modified Input</source>
+        <source>Rewritten input</source>
         <translation>Rewritten input</translation>
     </message>
     <message id="Step">
@@ -28,15 +28,15 @@
         <translation>Result</translation>
     </message>
     <message id="noSolution">
-        <source>noSolution</source>
+        <source>No solution among the real numbers</source>
         <translation>No solution among the real numbers</translation>
     </message>
     <message id="recommendedVideoIfUnclear">
-        <source>recommendedVideoIfUnclear</source>
+        <source>Still unclear? Watch a video</source>
         <translation>Still unclear? Watch a video</translation>
     </message>
     <message id="touchTounlock">
-        <source>touchTounlock</source>
+        <source>Touch to unlock</source>
         <translation>Touch to unlock</translation>
     </message>
     <message id="Cancel">
@@ -48,7 +48,7 @@
         <translation>Convert</translation>
     </message>
     <message id="Rate">
-        <source>Rate</source>
+        <source>How do you like the app?</source>
         <translation>How do you like the app?</translation>
     </message>
     <message id="Send">
@@ -60,15 +60,15 @@
         <translation>Close</translation>
     </message>
     <message id="Thanks">
-        <source>Thanks</source>
+        <source>Thank you!</source>
         <translation>Thank you!</translation>
     </message>
     <message id="error">
-        <source>error</source>
+        <source>Error</source>
         <translation>Error</translation>
     </message>
     <message id="Cancel (math)">
-        <source>Cancel (math)</source>
+        <source>Cancel the fraction</source>
         <translation>Cancel the fraction</translation>
     </message>
     <message id="Extract a root">
@@ -76,7 +76,7 @@
         <translation>Extract a root</translation>
     </message>
     <message id="Calculate power">
-        <source>Calculate power</source>
+        <source>Calculate the power</source>
         <translation>Calculate the power</translation>
     </message>
     <message id="Reciprocal">
@@ -96,15 +96,15 @@
         <translation>Clear</translation>
     </message>
     <message id="Calculate Title">
-        <source>Calculate Title</source>
+        <source>Powers and roots</source>
         <translation>Powers and roots</translation>
     </message>
     <message id="sharingImageQualityTitle">
-        <source>sharingImageQualityTitle</source>
+        <source>Preparing your picture</source>
         <translation>Preparing your picture</translation>
     </message>
     <message id="sharingImageQualityText">
-        <source>sharingImageQualityText</source>
+        <source>The whole solution becomes one long picture. For the best quality, send it as a file.</source>
         <translation>The whole solution becomes one long picture. For the best quality, send it as a file.</translation>
     </message>
     <message id="History">
@@ -112,11 +112,11 @@
         <translation>History</translation>
     </message>
     <message id="Clear History">
-        <source>Clear History</source>
+        <source>Clear history</source>
         <translation>Clear history</translation>
     </message>
     <message id="Are you sure to delete your whole history?">
-        <source>Are you sure to delete your whole history?</source>
+        <source>Are you sure you want to delete your whole history?</source>
         <translation>Are you sure you want to delete your whole history?</translation>
     </message>
     <message id="Edit">
@@ -124,15 +124,15 @@
         <translation>Edit</translation>
     </message>
     <message id="historyDelete">
-        <source>historyDelete</source>
+        <source>Delete %0</source>
         <translation>Delete %0</translation>
     </message>
     <message id="historyDeleted">
-        <source>historyDeleted</source>
+        <source>Calculation deleted</source>
         <translation>Calculation deleted</translation>
     </message>
     <message id="historyCleared">
-        <source>historyCleared</source>
+        <source>History deleted</source>
         <translation>History deleted</translation>
     </message>
     <message id="Undo">
@@ -140,115 +140,119 @@
         <translation>Undo</translation>
     </message>
     <message id="historyMoved">
-        <source>historyMoved</source>
+        <source>Moved to %0 of %1</source>
         <translation>Moved to %0 of %1</translation>
     </message>
     <message id="historyEmpty">
-        <source>historyEmpty</source>
+        <source>Nothing here yet. Everything you calculate is kept here, so that you can come back to it.</source>
         <translation>Nothing here yet. Everything you calculate is kept here, so that you can come back to it.</translation>
     </message>
     <message id="historyCalculate">
-        <source>historyCalculate</source>
+        <source>Calculate something</source>
         <translation>Calculate something</translation>
     </message>
     <message id="historyUntitled">
-        <source>historyUntitled</source>
+        <source>Calculation without a formula</source>
         <translation>Calculation without a formula</translation>
     </message>
     <message id="nothingIsKept">
-        <source>nothingIsKept</source>
+        <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Nothing can be saved at the moment. Your history lasts until you close the app.</translation>
     </message>
     <message id="Assistance">
-        <source>Assistance</source>
+        <source>Help</source>
         <translation>Help</translation>
     </message>
     <message id="noInternet">
-        <source>noInternet</source>
+        <source>No internet connection</source>
         <translation>No internet connection</translation>
     </message>
     <message id="dsgvoAccept">
-        <source>dsgvoAccept</source>
+        <source>Accept</source>
         <translation>Accept</translation>
     </message>
     <message id="dsgvoDecline">
-        <source>dsgvoDecline</source>
+        <source>Decline</source>
         <translation>Decline</translation>
     </message>
     <message id="dsgvoYoutubeTitle">
-        <source>dsgvoYoutubeTitle</source>
+        <source>Video privacy</source>
         <translation>Video privacy</translation>
     </message>
     <message id="dsgvoYoutubeText">
-        <source>dsgvoYoutubeText</source>
+        <source>The videos come from YouTube, a service of others. If you accept, they are loaded from YouTube's servers as soon as they come into sight. YouTube then learns your internet address, can store data on your device and can recognise you if you are signed in there.
+
+Until then nothing is loaded. You can withdraw at any time with the lock over the videos, and everything else works without them.</source>
         <translation>The videos come from YouTube, a service of others. If you accept, they are loaded from YouTube's servers as soon as they come into sight. YouTube then learns your internet address, can store data on your device and can recognise you if you are signed in there.
 
 Until then nothing is loaded. You can withdraw at any time with the lock over the videos, and everything else works without them.</translation>
     </message>
     <message id="dsgvoTitlePro">
-        <source>dsgvoTitlePro</source>
+        <source>Privacy</source>
         <translation>Privacy</translation>
     </message>
     <message id="dsgvoTextPro">
-        <source>dsgvoTextPro</source>
+        <source>What you calculate stays on this device. Your tasks, your settings and this answer are stored here only.
+
+Where an address for it is set, the app fetches its list of videos and apps from the internet; nothing about you is sent along. Links open in your browser, and videos come from YouTube only after you have allowed it.</source>
         <translation>What you calculate stays on this device. Your tasks, your settings and this answer are stored here only.
 
 Where an address for it is set, the app fetches its list of videos and apps from the internet; nothing about you is sent along. Links open in your browser, and videos come from YouTube only after you have allowed it.</translation>
     </message>
     <message id="onboardingA">
-        <source>onboardingA</source>
+        <source>Welcome to §appname! Here you learn step by step how powers and roots are worked out.</source>
         <translation>Welcome to §appname! Here you learn step by step how powers and roots are worked out.</translation>
     </message>
     <message id="onboardingB">
-        <source>onboardingB</source>
+        <source>At the top, choose between a power and a root.</source>
         <translation>At the top, choose between a power and a root.</translation>
     </message>
     <message id="onboardingC">
-        <source>onboardingC</source>
+        <source>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome, too.</source>
         <translation>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome, too.</translation>
     </message>
     <message id="onboardingD">
-        <source>onboardingD</source>
+        <source>Tap the check mark, and you see every step. Colours show what happens; a long line scrolls sideways.</source>
         <translation>Tap the check mark, and you see every step. Colours show what happens; a long line scrolls sideways.</translation>
     </message>
     <message id="onboardingE">
-        <source>onboardingE</source>
+        <source>Your tasks stay in the history, which you find in the menu. The share button makes a picture of a working.</source>
         <translation>Your tasks stay in the history, which you find in the menu. The share button makes a picture of a working.</translation>
     </message>
     <message id="onboardingYoutube1">
-        <source>onboardingYoutube1</source>
+        <source>Some steps are easier to understand with a video.</source>
         <translation>Some steps are easier to understand with a video.</translation>
     </message>
     <message id="onboardingYoutube2">
-        <source>onboardingYoutube2</source>
+        <source>The videos under a working explain the same topic. Push the row sideways to see more of them.</source>
         <translation>The videos under a working explain the same topic. Push the row sideways to see more of them.</translation>
     </message>
     <message id="onboardingYoutube3">
-        <source>onboardingYoutube3</source>
+        <source>They come from YouTube, which then learns your internet address and can store data on your device.</source>
         <translation>They come from YouTube, which then learns your internet address and can store data on your device.</translation>
     </message>
     <message id="onboardingYoutube4">
-        <source>onboardingYoutube4</source>
+        <source>While the row is locked, nothing at all is loaded from there.</source>
         <translation>While the row is locked, nothing at all is loaded from there.</translation>
     </message>
     <message id="onboardingYoutube5">
-        <source>onboardingYoutube5</source>
+        <source>You can change your mind at any time: tap the lock over the videos.</source>
         <translation>You can change your mind at any time: tap the lock over the videos.</translation>
     </message>
     <message id="introduction">
-        <source>introduction</source>
+        <source>Introduction</source>
         <translation>Introduction</translation>
     </message>
     <message id="privacyPolicy">
-        <source>privacyPolicy</source>
+        <source>Privacy policy</source>
         <translation>Privacy policy</translation>
     </message>
     <message id="Rate this App">
-        <source>Rate this App</source>
+        <source>Rate this app</source>
         <translation>Rate this app</translation>
     </message>
     <message id="Discord">
-        <source>Discord</source>
+        <source>Community chat</source>
         <translation>Community chat</translation>
     </message>
     <message id="Visit us:">
@@ -264,55 +268,55 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Other apps:</translation>
     </message>
     <message id="oppositionError">
-        <source>oppositionError</source>
+        <source>These numbers contradict each other. Please check your input.</source>
         <translation>These numbers contradict each other. Please check your input.</translation>
     </message>
     <message id="mustBeBiggerThanXAndLessThanY">
-        <source>mustBeBiggerThanXAndLessThanY</source>
+        <source>The value must be greater than %0 and less than %1.</source>
         <translation>The value must be greater than %0 and less than %1.</translation>
     </message>
     <message id="mustBeGreatherThanX">
-        <source>mustBeGreatherThanX</source>
+        <source>The value must be greater than %0.</source>
         <translation>The value must be greater than %0.</translation>
     </message>
     <message id="mustBeLessThanX">
-        <source>mustBeLessThanX</source>
+        <source>The value must be less than %0.</source>
         <translation>The value must be less than %0.</translation>
     </message>
     <message id="notEnoughInputValues">
-        <source>notEnoughInputValues</source>
+        <source>A value is missing. Please fill in the marked field.</source>
         <translation>A value is missing. Please fill in the marked field.</translation>
     </message>
     <message id="inputParameterError">
-        <source>inputParameterError</source>
+        <source>This is not a number I can read. Please check the marked field.</source>
         <translation>This is not a number I can read. Please check the marked field.</translation>
     </message>
     <message id="fractionIncomplete">
-        <source>fractionIncomplete</source>
+        <source>The fraction is incomplete. It needs a number above and below the line.</source>
         <translation>The fraction is incomplete. It needs a number above and below the line.</translation>
     </message>
     <message id="inputZeroInDenominator">
-        <source>inputZeroInDenominator</source>
+        <source>You cannot divide by zero. Please change the denominator.</source>
         <translation>You cannot divide by zero. Please change the denominator.</translation>
     </message>
     <message id="toManyNaturalConstantsInSubstring">
-        <source>toManyNaturalConstantsInSubstring</source>
+        <source>Use π only once in each part of a number.</source>
         <translation>Use π only once in each part of a number.</translation>
     </message>
     <message id="naturalConstantInWrongPositionOfSubstring">
-        <source>naturalConstantInWrongPositionOfSubstring</source>
+        <source>Write π or a letter behind its number, as in 2π or 3x.</source>
         <translation>Write π or a letter behind its number, as in 2π or 3x.</translation>
     </message>
     <message id="toManyVariablesInSubstring">
-        <source>toManyVariablesInSubstring</source>
+        <source>Use only one variable in each part of a number.</source>
         <translation>Use only one variable in each part of a number.</translation>
     </message>
     <message id="calculationTooLong">
-        <source>calculationTooLong</source>
+        <source>This would take more steps than anyone can read. Please try a smaller number here.</source>
         <translation>This would take more steps than anyone can read. Please try a smaller number here.</translation>
     </message>
     <message id="calculationOutOfRange">
-        <source>calculationOutOfRange</source>
+        <source>These numbers are too large or too exact for me. Please use smaller or shorter ones.</source>
         <translation>These numbers are too large or too exact for me. Please use smaller or shorter ones.</translation>
     </message>
     <message id="hintTapField">
@@ -464,171 +468,171 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Pi</translation>
     </message>
     <message id="menuButton">
-        <source>menuButton</source>
+        <source>Menu</source>
         <translation>Menu</translation>
     </message>
     <message id="shareButton">
-        <source>shareButton</source>
+        <source>Share the solution</source>
         <translation>Share the solution</translation>
     </message>
     <message id="sharingSave">
-        <source>sharingSave</source>
+        <source>Save</source>
         <translation>Save</translation>
     </message>
     <message id="sharingPicture">
-        <source>sharingPicture</source>
+        <source>Picture</source>
         <translation>Picture</translation>
     </message>
     <message id="copyAsLatex">
-        <source>copyAsLatex</source>
+        <source>Copy as LaTeX</source>
         <translation>Copy as LaTeX</translation>
     </message>
     <message id="copyAsMathMl">
-        <source>copyAsMathMl</source>
+        <source>Copy as MathML</source>
         <translation>Copy as MathML</translation>
     </message>
     <message id="copyAsWords">
-        <source>copyAsWords</source>
+        <source>Copy as words</source>
         <translation>Copy as words</translation>
     </message>
     <message id="copyAsPicture">
-        <source>copyAsPicture</source>
+        <source>Copy as picture</source>
         <translation>Copy as picture</translation>
     </message>
     <message id="sharingSaveAs">
-        <source>sharingSaveAs</source>
+        <source>Save as…</source>
         <translation>Save as…</translation>
     </message>
     <message id="sharingSaveHere">
-        <source>sharingSaveHere</source>
+        <source>Save</source>
         <translation>Save</translation>
     </message>
     <message id="sharingCopy">
-        <source>sharingCopy</source>
+        <source>Copy</source>
         <translation>Copy</translation>
     </message>
     <message id="sharingOpen">
-        <source>sharingOpen</source>
+        <source>Open</source>
         <translation>Open</translation>
     </message>
     <message id="sharingFileName">
-        <source>sharingFileName</source>
+        <source>Solution</source>
         <translation>Solution</translation>
     </message>
     <message id="sharingSaved">
-        <source>sharingSaved</source>
+        <source>Saved as %1</source>
         <translation>Saved as %1</translation>
     </message>
     <message id="sharingCopied">
-        <source>sharingCopied</source>
+        <source>Copied</source>
         <translation>Copied</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>sharingNoRoom</source>
+        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
         <translation>There is not enough room for the picture. Make room or choose another place; nothing was saved.</translation>
     </message>
     <message id="sharingNotWritable">
-        <source>sharingNotWritable</source>
+        <source>Nothing can be saved in this folder. Choose another one.</source>
         <translation>Nothing can be saved in this folder. Choose another one.</translation>
     </message>
     <message id="sharingNoViewer">
-        <source>sharingNoViewer</source>
+        <source>No program was found that shows pictures. Save the picture instead.</source>
         <translation>No program was found that shows pictures. Save the picture instead.</translation>
     </message>
     <message id="manualButton">
-        <source>manualButton</source>
+        <source>How it works</source>
         <translation>How it works</translation>
     </message>
     <message id="animateAgainButton">
-        <source>animateAgainButton</source>
+        <source>Play again</source>
         <translation>Play again</translation>
     </message>
     <message id="next">
-        <source>next</source>
+        <source>Next</source>
         <translation>Next</translation>
     </message>
     <message id="letsStart">
-        <source>letsStart</source>
+        <source>Let's start</source>
         <translation>Let's start</translation>
     </message>
     <message id="pageOf">
-        <source>pageOf</source>
+        <source>Page %1 of %2</source>
         <translation>Page %1 of %2</translation>
     </message>
     <message id="videoGuide">
-        <source>videoGuide</source>
+        <source>About the videos</source>
         <translation>About the videos</translation>
     </message>
     <message id="videoPrivacyLocked">
-        <source>videoPrivacyLocked</source>
+        <source>Privacy of the videos: locked</source>
         <translation>Privacy of the videos: locked</translation>
     </message>
     <message id="videoPrivacyOpen">
-        <source>videoPrivacyOpen</source>
+        <source>Privacy of the videos: allowed</source>
         <translation>Privacy of the videos: allowed</translation>
     </message>
     <message id="videoMissing">
-        <source>videoMissing</source>
+        <source>No video</source>
         <translation>No video</translation>
     </message>
     <message id="videoCovered">
-        <source>videoCovered</source>
+        <source>Video, not ready yet</source>
         <translation>Video, not ready yet</translation>
     </message>
     <message id="videoReady">
-        <source>videoReady</source>
+        <source>Video</source>
         <translation>Video</translation>
     </message>
     <message id="videoOutside">
-        <source>videoOutside</source>
+        <source>Watch in the browser</source>
         <translation>Watch in the browser</translation>
     </message>
     <message id="ratingStars">
-        <source>ratingStars</source>
+        <source>%1 of %2 stars</source>
         <translation>%1 of %2 stars</translation>
     </message>
     <message id="grabAdsDiscountForPercentage">
-        <source>grabAdsDiscountForPercentage</source>
+        <source>Get § off</source>
         <translation>Get § off</translation>
     </message>
     <message id="linkNotOpened">
-        <source>linkNotOpened</source>
+        <source>This link cannot be opened here.</source>
         <translation>This link cannot be opened here.</translation>
     </message>
     <message id="manual1">
-        <source>manual1</source>
+        <source>Choose whether you want a power or a root.</source>
         <translation>Choose whether you want a power or a root.</translation>
     </message>
     <message id="manual2">
-        <source>manual2</source>
+        <source>The base; for a root, the number under the root sign. Tap a field to type into it.</source>
         <translation>The base; for a root, the number under the root sign. Tap a field to type into it.</translation>
     </message>
     <message id="manual3">
-        <source>manual3</source>
+        <source>The exponent; for a root, its index. An empty index means 2.</source>
         <translation>The exponent; for a root, its index. An empty index means 2.</translation>
     </message>
     <message id="manual4">
-        <source>manual4</source>
+        <source>Point, slash and letters: type 0.5, 3/2, π or x. Minus changes the sign of the field.</source>
         <translation>Point, slash and letters: type 0.5, 3/2, π or x. Minus changes the sign of the field.</translation>
     </message>
     <message id="manual5">
-        <source>manual5</source>
+        <source>Delete on the left; the check mark starts the calculation.</source>
         <translation>Delete on the left; the check mark starts the calculation.</translation>
     </message>
     <message id="manual6">
-        <source>manual6</source>
+        <source>The working begins with your task. Rows that are too long scroll sideways.</source>
         <translation>The working begins with your task. Rows that are too long scroll sideways.</translation>
     </message>
     <message id="manual7">
-        <source>manual7</source>
+        <source>Red: what the next step works on. Blue and violet: numerator and denominator of an exponent.</source>
         <translation>Red: what the next step works on. Blue and violet: numerator and denominator of an exponent.</translation>
     </message>
     <message id="manual8">
-        <source>manual8</source>
+        <source>Green: what has just been worked out.</source>
         <translation>Green: what has just been worked out.</translation>
     </message>
     <message id="manual9">
-        <source>manual9</source>
+        <source>The result, marked by the bar at its left.</source>
         <translation>The result, marked by the bar at its left.</translation>
     </message>
     <message id="pleaseWait">

@@ -48,6 +48,8 @@ DTTextFieldItem {
         color: field.isLabelOut ? field.style.labelColor : Theme.label
         opacity: field.isLabelOut ? 1 : 0.65
         elide: Text.ElideRight
+        fontSizeMode: Text.HorizontalFit
+        minimumPixelSize: 12
         Accessible.ignored: true
     }
 

@@ -99,7 +99,7 @@ Item {
             id: indexField
 
             objectName: "indexField"
-            width: Math.round(Math.min(120, parent.width * 0.28))
+            width: Math.round(Math.min(120, parent.width * 0.34))
             height: fields.smallHeight
             label: qsTrId("Root index")
             labelWidth: parent.width

@@ -28,19 +28,20 @@ void countWarning(QtMsgType type, const QMessageLogContext&, const QString& text
 }
 
 /// Nothing of the user's own is read or written, and the pictures are the same everywhere.
-void isolate(const QString& folder) {
+void isolate(const QString& folder, const QString& language) {
   qputenv("XDG_DATA_HOME", QFile::encodeName(folder));
   qputenv("XDG_CONFIG_HOME", QFile::encodeName(folder));
   qputenv("XDG_RUNTIME_DIR", QFile::encodeName(folder));
   qputenv("QT_QPA_PLATFORM", "offscreen");
   qputenv("QT_SCALE_FACTOR", "1");
-  qputenv("LANGUAGE", "en");
+  qputenv("LANGUAGE", language.toUtf8());
 }
 
 struct Options {
   QString folder;
   QString visit;  ///< Only this one; empty for all, each in a process of its own.
   QString only;   ///< Only this step.
+  QString language;
   bool isMeasuring = false;
 };
 
@@ -57,6 +58,7 @@ bool run(const Visit& visit, const Options& options, Stage& stage) {
     try {
       step.act(stage);
       save(stage.picture(), path);
+      stage.expectNothingCut();
       if (const QImage shared = stage.sharedPicture(); !shared.isNull())
         save(shared, name + QStringLiteral("-picture.png"));
     } catch (const Failure& failure) {
@@ -74,7 +76,8 @@ bool run(const Visit& visit, const Options& options, Stage& stage) {
 
 bool runInOwnProcess(const Visit& visit, const Options& options) {
   return QProcess::execute(QCoreApplication::applicationFilePath(),
-                           {options.folder, QStringLiteral("--visit"), QLatin1StringView(visit.name)}) == 0;
+                           {options.folder, QStringLiteral("--visit"), QLatin1StringView(visit.name),
+                            QStringLiteral("--language"), options.language}) == 0;
 }
 
 bool hasStep(const Visit& visit, const QString& name) {
@@ -109,12 +112,14 @@ Options parse(const QStringList& arguments) {
                     QStringLiteral("name")});
   parser.addOption({QStringLiteral("only"), QStringLiteral("only this picture, such as 02-power"),
                     QStringLiteral("name")});
+  parser.addOption({QStringLiteral("language"), QStringLiteral("the language to speak, such as ja"),
+                    QStringLiteral("name"), QStringLiteral("en")});
   parser.addOption({QStringLiteral("measure"), QStringLiteral("print start times and memory instead")});
   parser.process(arguments);
   const bool isMeasuring = parser.isSet(QStringLiteral("measure"));
   if (!isMeasuring && parser.positionalArguments().size() != 1) parser.showHelp(64);
   return {parser.positionalArguments().value(0), parser.value(QStringLiteral("visit")),
-          parser.value(QStringLiteral("only")), isMeasuring};
+          parser.value(QStringLiteral("only")), parser.value(QStringLiteral("language")), isMeasuring};
 }
 
 /// Goes to the stations that the options ask for; false if one fails or none is asked for.
@@ -148,13 +153,13 @@ bool goThrough(const Options& options, Application& application) {
 int go(int argumentCount, char** arguments) {
   if (argumentCount > 1 && std::string_view(arguments[1]) == probeArgument)
     return probe(argumentCount, arguments);
+  const Options options = parse({arguments, arguments + argumentCount});
   const QTemporaryDir home;
-  isolate(home.path());
+  isolate(home.path(), options.language);
   qInstallMessageHandler(countWarning);
   bool isPassed = false;
   {
     Application application(argumentCount, arguments);
-    const Options options = parse(Application::arguments());
     isPassed =
         options.isMeasuring ? measure() : QDir().mkpath(options.folder) && goThrough(options, application);
   }

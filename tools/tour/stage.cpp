@@ -24,6 +24,21 @@ bool isWideFlickable(const QQuickItem& item) {
   return item.inherits("QQuickFlickable") && item.property("contentWidth").toReal() > item.width() + 1;
 }
 
+/// A text that the page shortens, or that is wider than its place or the window, or a line higher than its
+/// place. What can be scrolled to is not cut.
+bool isCutText(const QQuickItem& item) {
+  if (!item.inherits("QQuickText") || item.property("text").toString().isEmpty()) return false;
+  const double width = item.property("contentWidth").toReal();
+  const double height = item.property("contentHeight").toReal();
+  const double line = height / std::max(1, item.property("lineCount").toInt());
+  if (item.property("truncated").toBool() || width > item.width() + 1 || height > item.height() + line / 2)
+    return true;
+  for (const QQuickItem* around = &item; around != nullptr; around = around->parentItem())
+    if (isWideFlickable(*around)) return false;
+  const double middleX = item.mapToScene({item.width() / 2, 0}).x();
+  return middleX - width / 2 < -1 || middleX + width / 2 > item.window()->width() + 1;
+}
+
 QPoint middle(const QQuickItem& item) {
   return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
 }
@@ -137,6 +152,11 @@ void waitUntil(const std::function<bool()>& isReached, const std::string& what) 
 
 void Stage::waitForToastsToGo() const {
   waitUntil([this] { return !shows(QStringLiteral("toast")); }, "the last toast is gone");
+}
+
+void Stage::expectNothingCut() {
+  if (const QQuickItem* cut = find(*window().contentItem(), isCutText))
+    throw Failure("cut: " + cut->property("text").toString().toStdString());
 }
 
 QImage Stage::picture() {

@@ -66,6 +66,9 @@ class Stage {
 
   void waitForToastsToGo() const;
 
+  /// Fails with the first of the texts in sight that is shortened or that does not fit into its place.
+  void expectNothingCut();
+
   /// What the window shows once everything has come to rest.
   QImage picture();
 

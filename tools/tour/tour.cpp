@@ -172,6 +172,26 @@ void at(Stage& stage) {
   act(stage);
 }
 
+template <void (*act)(Stage&)>
+void cleared(Stage& stage) {
+  stage.clearTheView();
+  act(stage);
+}
+
+void rowMenu(Stage& stage) {
+  manySteps(stage);
+  stage.picture();
+  const QPointF place = stage.item(QStringLiteral("solutionTable")).mapToScene({40, 40});
+  QTest::mouseClick(&stage.window(), Qt::RightButton, {}, place.toPoint());
+  waitUntil([&stage] { return stage.shows(QStringLiteral("copyRowLatex")); }, "the row's menu is open");
+}
+
+void shareFromMenu(Stage& stage) {
+  QTest::keyClick(&stage.window(), Qt::Key_Escape);
+  waitUntil([&stage] { return !stage.shows(QStringLiteral("copyRowLatex")); }, "the row's menu is closed");
+  stage.share();
+}
+
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 constexpr QSize narrow{360, 640};
@@ -254,12 +274,33 @@ constexpr auto tabletAroundSteps = std::to_array<Step>({{"45-tablet-settings", s
                                                         {"76-tablet-ready-videos", readyVideos},
                                                         {"77-tablet-advertisement", advertisement},
                                                         {"78-tablet-rating", rating}});
-constexpr auto narrowSteps = std::to_array<Step>({{"46-narrow-settings", settings},
-                                                  {"79-narrow-introduction", menuIntroduction},
-                                                  {"80-narrow-manual", inputManual},
-                                                  {"81-narrow-videos", lockedVideos},
-                                                  {"82-narrow-video-consent", videoConsent},
-                                                  {"83-narrow-rating", rating}});
+constexpr auto narrowSteps = std::to_array<Step>({{"100-narrow-consent", firstConsent},
+                                                  {"101-narrow-introduction-1", introductionPage1},
+                                                  {"102-narrow-introduction-2", introductionPage2},
+                                                  {"103-narrow-introduction-3", introductionPage3},
+                                                  {"104-narrow-introduction-4", introductionPage4},
+                                                  {"105-narrow-introduction-5", introductionPage5},
+                                                  {"106-narrow-start", cleared<firstStart>},
+                                                  {"107-narrow-root", typingAt<Mode::root, 360, 640>},
+                                                  {"108-narrow-missing-value", missingValue},
+                                                  {"109-narrow-solution", manySteps},
+                                                  {"110-narrow-no-solution", noSolution},
+                                                  {"111-narrow-row-menu", rowMenu},
+                                                  {"112-narrow-share", shareFromMenu},
+                                                  {"113-narrow-drawer", cleared<openDrawer>},
+                                                  {"114-narrow-manual", inputManual},
+                                                  {"115-narrow-solution-manual", solutionManual},
+                                                  {"116-narrow-videos", lockedVideos},
+                                                  {"117-narrow-video-consent", videoConsent},
+                                                  {"118-narrow-video-guide", videoGuide},
+                                                  {"119-narrow-ready-videos", readyVideos},
+                                                  {"120-narrow-advertisement", advertisement},
+                                                  {"121-narrow-rating", rating},
+                                                  {"122-narrow-history", history},
+                                                  {"123-narrow-edit-history", editHistory},
+                                                  {"124-narrow-clear-history", clearHistory},
+                                                  {"125-narrow-empty-history", emptyHistory},
+                                                  {"126-narrow-settings", cleared<settings>}});
 constexpr auto lowSteps = std::to_array<Step>({{"47-low-settings", settings},
                                                {"84-low-introduction", menuIntroduction},
                                                {"85-low-manual", inputManual},
@@ -289,7 +330,7 @@ constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps
                                               {"around", phone, false, aroundSteps},
                                               {"dark-around", phone, true, darkAroundSteps},
                                               {"tablet-around", tablet, false, tabletAroundSteps},
-                                              {"narrow-around", narrow, false, narrowSteps},
+                                              {"narrow", narrow, false, narrowSteps, true},
                                               {"low-around", low, false, lowSteps},
                                               {"charts", phone, false, chartSteps},
                                               {"dark-charts", phone, true, darkChartSteps},
