@@ -191,7 +191,7 @@ class Reader {
     const std::optional<Value> below = part();
     if (!below || !value->denominator.empty() || !below->denominator.empty()) return std::nullopt;
     value->denominator = below->numerator;
-    value->isNegative ^= below->isNegative;
+    value->isNegative = value->isNegative != below->isNegative;
     value->isBracketed = false;
     return value;
   }
@@ -298,7 +298,7 @@ class Reader {
     take('*');
     skipBlanks();
     if (!rest_.empty() && symbols.find(rest_.front()) != std::string_view::npos) {
-      const std::string taken(1, rest_.front());
+      std::string taken(1, rest_.front());
       rest_.remove_prefix(1);
       return taken;
     }

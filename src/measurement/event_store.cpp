@@ -186,7 +186,7 @@ QByteArray EventStore::dailyNumber(const QDate& today) {
   const QByteArray day = today.toString(Qt::ISODate).toLatin1();
   const QByteArray kept = note("daily");
   if (kept.startsWith(day + ' ')) return kept.mid(day.size() + 1);
-  const QByteArray number =
+  QByteArray number =
       QByteArray::number(QRandomGenerator::system()->generate64(), 16).rightJustified(16, '0');
   setNote("daily", day + ' ' + number);
   return number;

@@ -168,8 +168,9 @@ void MeasurementClient::postpone(milliseconds asked) {
   constexpr int doublingLimit = 20;
   const int failures = std::min(store_->sendState().failures + 1, doublingLimit);
   const qint64 span = std::min(settings_.shortestPause.count() << failures, settings_.longestPause.count());
-  const qint64 own = span / 2 + static_cast<qint64>(QRandomGenerator::global()->generateDouble() *
-                                                    static_cast<double>(span - span / 2));
+  const qint64 least = span / 2;
+  const qint64 own = least + static_cast<qint64>(QRandomGenerator::global()->generateDouble() *
+                                                 static_cast<double>(span - least));
   store_->setSendState(
       {.notBefore = now() + std::max(own, static_cast<qint64>(asked.count())), .failures = failures});
 }

@@ -8,7 +8,7 @@
 namespace tavi {
 namespace {
 
-constexpr qint64 readBuffer = 64 * 1024;
+constexpr qint64 readBuffer = 64LL * 1024;
 constexpr int redirectLimit = 5;
 constexpr int statusOk = 200;
 constexpr int statusNotModified = 304;

@@ -31,7 +31,7 @@ using RemovedCalculations = QList<RemovedCalculation>;
 /// What the user has calculated: the history, newest first, the snapshot of the fields and the record picked
 /// for reopening. Each change is written at once; what cannot be written is kept until the process ends. Of
 /// two processes over one store neither touches the other's records. Main thread only.
-class CalcManager : public Persistable {
+class CalcManager final : public Persistable {
  public:
   static CalcManager& shared();
 

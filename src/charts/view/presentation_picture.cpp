@@ -16,7 +16,7 @@ void paintPresentation(QPainter& painter, const DistributionFunctionPresentation
   constexpr double axisHeight = 0.25;  // of the em: where the middle of a line is over its baseline
   const typeset::Ink ink{.text = palette.label, .background = palette.background};
   const typeset::Layout name = setFormula(view.labelLeft, textSize);
-  const typeset::Layout brace = setFormula(view.labelMid, view.braceSize);
+  const typeset::Layout brace = setFormula(view.labelMid, DistributionFunctionPresentationView::braceSize);
   double valueWidth = 0;
   double rangeWidth = 0;
   for (const std::string& value : view.values)

@@ -4,6 +4,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 #include <unordered_set>
 #include <utility>
 
@@ -37,8 +38,8 @@ std::vector<QPointF> thinned(std::span<const QPointF> points, double columns) {
     }
     std::array<std::size_t, 4> chosen{first, lowest, highest, end - 1};
     std::ranges::sort(chosen);
-    const auto repeated = std::ranges::unique(chosen);
-    for (auto index = chosen.begin(); index != repeated.begin(); ++index) kept.push_back(points[*index]);
+    const std::span distinct(chosen.begin(), std::unique(chosen.begin(), chosen.end()));
+    for (const std::size_t index : distinct) kept.push_back(points[index]);
     first = end;
   }
   return kept;

@@ -39,7 +39,7 @@ void TaviAdsViewController::configureAd() {
   emit configured();
 }
 
-QColor TaviAdsViewController::discountTitleColor() const {
+QColor TaviAdsViewController::discountTitleColor() {
   return InterfaceColor::darkTitle();
 }
 

@@ -37,7 +37,7 @@ class TaviAdsViewController : public tavi::ViewController {
   QString discountTitle() const { return discountTitle_; }
   QColor closeColor() const { return closeColor_; }
   QColor discountColor() const { return discountColor_; }
-  QColor discountTitleColor() const;
+  static QColor discountTitleColor();
   LayerShadow buttonShadow() const { return buttonShadow_; }  ///< None in dark appearance.
 
   // What the page calls.
