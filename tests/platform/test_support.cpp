@@ -28,7 +28,7 @@ QStringList& consoleLines() {
 }  // namespace
 
 bool waitUntil(const std::function<bool()>& condition) {
-  const QDeadlineTimer deadline(std::chrono::seconds(10));
+  const QDeadlineTimer deadline(std::chrono::minutes(1));
   while (!condition() && !deadline.hasExpired())
     QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
   return condition();

@@ -16,7 +16,7 @@ void PrintTo(const QVariant& value, std::ostream* stream);
 
 namespace tavi {
 
-/// Runs the event loop until the condition holds; false when it does not within ten seconds.
+/// Runs the event loop until the condition holds; false when it does not within a minute.
 bool waitUntil(const std::function<bool()>& condition);
 
 /// Collects what is printed to the console while it lives.
