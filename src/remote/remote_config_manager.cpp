@@ -126,12 +126,16 @@ QList<AppMetaData> RemoteConfigManager::listedApps(bool isMultiApp) const {
 }
 
 const std::optional<AppMetaData>& RemoteConfigManager::currentApp() {
+  if (!currentApp_) currentApp_ = peekCurrentApp();
+  return currentApp_;
+}
+
+std::optional<AppMetaData> RemoteConfigManager::peekCurrentApp() const {
   const std::optional<QString> identifier = context_().identifier;
   if (currentApp_ || !identifier) return currentApp_;
   const auto own = std::ranges::find_if(
       apps_, [&](const AppMetaData& app) { return app.appIdentifiers.contains(*identifier); });
-  if (own != apps_.end()) currentApp_ = *own;
-  return currentApp_;
+  return own == apps_.end() ? std::nullopt : std::optional(*own);
 }
 
 QStringList RemoteConfigManager::videoLinks(VideoTopic topic) const {

@@ -59,6 +59,9 @@ class RemoteConfigManager {
   /// This application's own record. Once found it stays, even when `apps` changes.
   const std::optional<AppMetaData>& currentApp();
 
+  /// The same without keeping it: the next list may know more of it.
+  std::optional<AppMetaData> peekCurrentApp() const;
+
   /// Links in the user's language, then the English ones.
   QStringList videoLinks(VideoTopic topic) const;
 

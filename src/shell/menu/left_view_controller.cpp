@@ -76,6 +76,8 @@ void LeftViewController::viewWillAppear() {
   for (const QLatin1StringView name :
        {NotificationCenter::applicationDidBecomeActive, RemoteConfigManager::didLoadMenu})
     services_.notifications.observe(name, observer_.get(), [this] { didUpdateMenu(); });
+  // What leads nowhere may lead somewhere by now.
+  reloadTable();
 }
 
 void LeftViewController::viewWillDisappear() {
@@ -122,10 +124,10 @@ void LeftViewController::reloadTable() {
   table_.reload(std::move(rows));
 }
 
-bool LeftViewController::isShown(int section, int row) {
+bool LeftViewController::isShown(int section, int row) const {
   if (section != contactSection) return true;
   if (row == communityRow) return services_.settings.communityLink.isValid();
-  const std::optional<AppMetaData>& app = services_.remoteConfigManager.currentApp();
+  const std::optional<AppMetaData> app = services_.remoteConfigManager.peekCurrentApp();
   return app && isRatingPageKnown(*app);
 }
 

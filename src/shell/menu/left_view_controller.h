@@ -76,7 +76,7 @@ class LeftViewController : public tavi::ViewController {
   QStringList names(const QList<AppMetaData>& apps) const;
   void reloadTable();
   /// A row that leads to an address is there only while that is known.
-  bool isShown(int section, int row);
+  bool isShown(int section, int row) const;
 
   void rebuildRoot();
   void openHistory();

@@ -94,6 +94,24 @@ TEST_F(LaunchTest, SaysThatNothingCanBeKept) {
   EXPECT_EQ(calcManager.calculations().size(), 1) << "kept until the end";
 }
 
+TEST_F(LaunchTest, PrintsNothingWithoutANetwork) {
+  loadTranslations({"en"});
+  const ConsoleLines console;
+  RemoteConfigService unset(RemoteConfigSettings::fromBundle(ResourceBundle::main()),
+                            folder.filePath("unset.sqlite"));
+  RemoteConfigManager manager(unset, notifications);
+  delegate = std::make_unique<AppDelegate>(
+      engine, AppServices{unset, manager, calcManager, preferences, notifications});
+  delegate->didFinishLaunching();
+  delegate->didBecomeActive();
+  int reloads = 0;
+  notifications.observe(RemoteConfigManager::didLoadVideoTutorialsData, &engine, [&] { ++reloads; });
+  EXPECT_TRUE(waitUntil([&] { return reloads > 0; })) << "asked in vain";
+  EXPECT_TRUE(waitUntil([&] { return delegate->drawer()->presentedController() != nullptr; }));
+  delegate->window()->grabWindow();
+  EXPECT_EQ(console.lines(), QStringList());
+}
+
 TEST_F(LaunchTest, BuildsEachControllerOnce) {
   launch();
   EXPECT_EQ(delegate->calculateViewController(), delegate->calculateViewController());
