@@ -86,6 +86,12 @@ Item {
                 // As sharp as the window at twice its size, and no more memory than that takes.
                 textureSize: Qt.size(Math.min(2, scroll.zoom) * scroll.width * Screen.devicePixelRatio, Math.min(2, scroll.zoom) * scroll.height * Screen.devicePixelRatio) // qmllint disable type
 
+                // Inside, as the view around it would scroll.
+                WheelHandler {
+                    target: null
+                    acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                    onWheel: event => scroll.zoomAt(Qt.point(event.x - scroll.contentX, event.y - scroll.contentY), Math.pow(1.25, event.angleDelta.y / 120))
+                }
                 TapHandler {
                     onDoubleTapped: scroll.zoomAt(Qt.point(point.position.x - scroll.contentX, point.position.y - scroll.contentY), scroll.zoom > 1 ? 0 : 2.5)
                 }
@@ -102,11 +108,6 @@ Item {
                 scroll.zoomAt(Qt.point(centroid.position.x, centroid.position.y), activeScale / last);
                 last = activeScale;
             }
-        }
-        WheelHandler {
-            target: null
-            acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
-            onWheel: event => scroll.zoomAt(Qt.point(event.x, event.y), Math.pow(1.25, event.angleDelta.y / 120))
         }
         FocusRing {
             visible: scroll.activeFocus
