@@ -1,12 +1,14 @@
 import QtQuick
 import QtWebView
 
-// The service's player on a page of ours, in the system's web view. Its page's title says when it is ready.
+// The service's player on a page of ours, in the system's web view. Its page's title says when it is ready
+// and that the player did not come.
 WebView {
     id: view
 
-    property bool isReady: title === "ready"
-    property bool isFailed: false
+    readonly property bool isReady: title === "ready"
+    readonly property bool isFailed: title === "failed" || isLoadFailed
+    property bool isLoadFailed: false
 
     function play(page, address) {
         loadHtml(page, address);
@@ -14,6 +16,6 @@ WebView {
 
     onLoadingChanged: request => {
         if (request.status === WebView.LoadFailedStatus)
-            isFailed = true;
+            isLoadFailed = true;
     }
 }

@@ -20,9 +20,9 @@ QString videoPage(const VideoLink& video, const QUrl& player) {
   const QByteArray page = ResourceBundle::main()
                               .data(QStringLiteral("VideoPlayer"), QStringLiteral("html"))
                               .value_or(QByteArray());
-  const QString address = player.toString(QUrl::FullyEncoded | QUrl::StripTrailingSlash);
+  const QUrl script = player.resolved(QUrl(QStringLiteral("/iframe_api")));
   return QString::fromUtf8(page)
-      .replace(QStringLiteral("ADDRESS"), address.toHtmlEscaped())
+      .replace(QStringLiteral("ADDRESS"), script.toString(QUrl::FullyEncoded).toHtmlEscaped())
       .replace(QStringLiteral("OPTIONS"), QString::fromUtf8(options));
 }
 

@@ -1,6 +1,7 @@
 #include "remote/videos/video_row_controller.h"
 
 #include <QCoreApplication>
+#include <QLibrary>
 
 #include "appearance/color_manager.h"
 #include "remote/consent/dsgvo_manager.h"
@@ -10,6 +11,18 @@
 #include "shell/frame/link_opening.h"
 
 namespace tavi {
+
+namespace {
+
+/// Loads what is behind the system's web view, where that is installed, by its own `QtWebView::initialize`:
+/// the application is not linked with it. The import in QML alone would do it on the thread that reads QML,
+/// and that ends the process.
+void loadWebView() {
+  if (auto* initialize = QLibrary::resolve(QStringLiteral("Qt6WebView"), 6, "_ZN9QtWebView10initializeEv"))
+    initialize();
+}
+
+}  // namespace
 
 VideoRowController::VideoRowController(ViewController& page, PreferenceStore& preferences,
                                        const ProjectSettings& settings, const Links& links)
@@ -52,9 +65,14 @@ bool VideoRowController::isVideo(const QString& link) const {
   return parseVideoLink(link, settings_.videoHost).has_value();
 }
 
+QUrl VideoRowController::systemPlayer() {
+  return {QStringLiteral("qrc:/qt-project.org/imports/Tavi/remote/videos/VideoPlayer.qml")};
+}
+
 QQmlComponent* VideoRowController::player() {
   if (isLocked_ || !page_.engine()) return nullptr;
   if (!player_) {
+    if (playerSource_ == systemPlayer()) loadWebView();
     player_ = std::make_unique<QQmlComponent>(page_.engine(), playerSource_);
     QQmlEngine::setObjectOwnership(player_.get(), QQmlEngine::CppOwnership);
   }

@@ -63,6 +63,7 @@ class VideoRowController : public QObject {
   void lockChanged();
 
  private:
+  static QUrl systemPlayer();
   void unlockVideos();
   void lockVideos();
   void setLocked(bool isLocked);
@@ -73,7 +74,7 @@ class VideoRowController : public QObject {
   const ProjectSettings& settings_;
   const Links& links_;
   bool isLocked_ = true;
-  QUrl playerSource_{QStringLiteral("qrc:/qt-project.org/imports/Tavi/remote/videos/VideoPlayer.qml")};
+  QUrl playerSource_ = systemPlayer();
   std::unique_ptr<QQmlComponent> player_;
 };
 

@@ -25,15 +25,22 @@ namespace {
 
 // Without graphics hardware Qt Quick would draw with OpenGL in software, which costs a start 1.6 times the
 // time, 2.4 times the memory and twice the processor time of its own software renderer. What the user's
-// environment says about it holds.
+// environment says about it holds. A web view can show what it draws with graphics hardware only in contexts
+// that share. To be called before anything of the application object is made.
 void chooseRenderer() {
 #ifdef Q_OS_LINUX
   constexpr std::array variables{"QT_QUICK_BACKEND", "QMLSCENE_DEVICE", "QSG_RHI_BACKEND",
                                  "LIBGL_ALWAYS_SOFTWARE"};
   const bool isChosen = std::any_of(variables.begin(), variables.end(), qEnvironmentVariableIsSet);
   const bool isHardware = !QDir("/dev/dri").entryList({"renderD*"}, QDir::System).isEmpty();
-  if (!isChosen && !isHardware) QQuickWindow::setSceneGraphBackend("software");
+  if (!isChosen && !isHardware) return QQuickWindow::setSceneGraphBackend("software");
 #endif
+  QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
+}
+
+int& withRenderer(int& argumentCount) {
+  chooseRenderer();
+  return argumentCount;
 }
 
 /// The language chosen in the settings, otherwise the system's. What speaks of the user's language asks Qt's
@@ -57,8 +64,7 @@ QString namedDataFolder() {
 }  // namespace
 
 Application::Application(int& argumentCount, char** arguments)
-    : QGuiApplication(argumentCount, arguments), instance_(namedDataFolder()) {
-  chooseRenderer();
+    : QGuiApplication(withRenderer(argumentCount), arguments), instance_(namedDataFolder()) {
   setWindowIcon(QIcon::fromTheme(desktopFileName()));
   speakStoredLanguage();
   Appearance::shared().followSystem();

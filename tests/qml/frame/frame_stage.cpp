@@ -1,6 +1,8 @@
 #include "frame_stage.h"
 
 #include <QQmlContext>
+#include <QTcpSocket>
+#include <utility>
 
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
@@ -29,6 +31,7 @@ void FrameStage::open(QQuickItem* holder) {
   chosen_.clear();
   ViewManager::hideToast();
   openedLink_.clear();
+  isOffline_ = false;
   Services& services = services_.emplace();
   services.links.setHandler([](const QUrl& url) { return url.scheme() == u"https"; },
                             [this](const QUrl& url) {
@@ -46,7 +49,7 @@ void FrameStage::open(QQuickItem* holder) {
   auto menu = made<LeftViewController>(
       *engine_, "shell/menu/LeftPage.qml", LeftViewController::Screens(),
       AppServices{services.remoteConfig, services.remoteConfigManager, services.calcManager,
-                  services.preferences, services.notifications, services.links, OnlineTest::shared(),
+                  services.preferences, services.notifications, services.links, onlineTest_,
                   ApplicationContext::current, services.settings});
   drawer_ = made<AppNavigationDrawerController>(
       *engine_, "shell/frame/DrawerPage.qml",
@@ -110,8 +113,28 @@ void FrameStage::dismiss() {
   tabs_->dismissPresented([this] { isDismissed_ = true; });
 }
 
+void FrameStage::refuseLinks() {
+  services_->links.setHandler([](const QUrl&) { return true; }, [](const QUrl&) { return false; });
+}
+
+void FrameStage::answerOnlineTests(bool isOnline) {
+  isOffline_ = !isOnline;
+  for (QTcpSocket* test : std::exchange(onlineTests_, {})) {
+    if (isOnline) test->write("HTTP/1.1 200 OK\r\nContent-Length: 0\r\n\r\n");
+    test->disconnectFromHost();
+  }
+}
+
 void FrameStage::qmlEngineAvailable(QQmlEngine* engine) {
   engine_ = engine;
+  network_ = new QTcpServer(engine);
+  network_->listen(QHostAddress::LocalHost);
+  connect(network_, &QTcpServer::newConnection, this, [this] {
+    QTcpSocket* test = network_->nextPendingConnection();
+    if (isOffline_) return test->abort();
+    onlineTests_.append(test);
+  });
+  onlineTest_ = OnlineTest(QUrl(QStringLiteral("http://127.0.0.1:%1/").arg(network_->serverPort())));
   engine->rootContext()->setContextProperty("stage", this);
 }
 

@@ -3,6 +3,7 @@
 #include <QObject>
 #include <QQmlEngine>
 #include <QQuickItem>
+#include <QTcpServer>
 #include <QTemporaryDir>
 #include <memory>
 #include <optional>
@@ -23,6 +24,7 @@ class FrameStage : public QObject {
   Q_PROPERTY(bool isDismissed READ isDismissed)
   Q_PROPERTY(QString chosen READ chosen)
   Q_PROPERTY(QString openedLink READ openedLink)
+  Q_PROPERTY(int onlineTests READ onlineTests)
 
  public:
   /// A fresh frame that fills the holder.
@@ -38,12 +40,17 @@ class FrameStage : public QObject {
   /// Presents an empty view, "presented"; `isDismissed` once that is gone.
   Q_INVOKABLE void present(int style, bool isAnimated);
   Q_INVOKABLE void dismiss();
+  /// From now on no link can be opened.
+  Q_INVOKABLE void refuseLinks();
+  /// Who has asked whether the network is there gets an answer, or none however often he asks again.
+  Q_INVOKABLE void answerOnlineTests(bool isOnline);
 
   int selectedIndex() const { return tabs_->selectedIndex(); }
   bool isDrawerOpen() const { return drawer_->isLeftViewOpened(); }
   bool isDismissed() const { return isDismissed_; }
   QString chosen() const { return chosen_; }
   QString openedLink() const { return openedLink_; }
+  int onlineTests() const { return static_cast<int>(onlineTests_.size()); }
 
  public slots:
   void qmlEngineAvailable(QQmlEngine* engine);
@@ -63,6 +70,11 @@ class FrameStage : public QObject {
     Links links;
   };
 
+  /// Where the online test asks.
+  QTcpServer* network_ = nullptr;
+  QList<QTcpSocket*> onlineTests_;
+  bool isOffline_ = false;
+  OnlineTest onlineTest_;
   QQmlEngine* engine_ = nullptr;
   bool isDismissed_ = false;
   QString chosen_;

@@ -144,6 +144,48 @@ Item {
             verify(stage.isDrawerOpen);
         }
 
+        function test_a_link_that_cannot_be_opened_says_so() {
+            openMenu();
+            stage.refuseLinks();
+            mouseClick(item("menuRow 2 0"));
+            tryVerify(() => isShown("toast"));
+            compare(item("toastLabel").text, qsTrId("linkNotOpened"));
+            mouseClick(item("toast"));
+        }
+
+        function test_a_link_waits_for_the_online_test_under_the_spinner_data() {
+            return [{
+                    "tag": "online",
+                    "isOnline": true
+                }, {
+                    "tag": "offline",
+                    "isOnline": false
+                }];
+        }
+
+        function test_a_link_waits_for_the_online_test_under_the_spinner(row) {
+            openMenu();
+            mouseClick(item("menuRow 1 0"));
+            tryVerify(() => ViewManager.isSpinnerVisible);
+            tryCompare(stage, "onlineTests", 1);
+            mouseClick(item("menuRow 1 0"));
+            mouseClick(root, 390, 400);
+            keyClick(Qt.Key_Escape);
+            keyClick(Qt.Key_Return);
+            verify(stage.isDrawerOpen);
+            compare(stage.openedLink, "");
+            wait(50);
+            compare(stage.onlineTests, 1, "further taps do nothing");
+            stage.answerOnlineTests(row.isOnline);
+            tryVerify(() => !ViewManager.isSpinnerVisible);
+            compare(stage.openedLink, row.isOnline ? "https://community.example.org/tavi" : "");
+            if (row.isOnline)
+                return;
+            tryVerify(() => isShown("alertAction0"));
+            mouseClick(item("alertAction0"));
+            tryVerify(() => !isShown("alertAction0"));
+        }
+
         function test_the_keyboard_goes_through_the_menu_and_shows_where_it_is() {
             openMenu();
             keyClick(Qt.Key_Down);
