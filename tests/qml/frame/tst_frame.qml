@@ -444,7 +444,7 @@ Item {
             tryVerify(() => isShown("alertAction0"));
             mouseClick(item("alertAction0"));
             tryVerify(() => !isShown("sheet"));
-            verify(!tab.isHovered);
+            tryVerify(() => !tab.isHovered);
         }
     }
 }

@@ -109,7 +109,7 @@ TEST_F(WebViewTest, OpensTheBrowserWhenThePlayerDoesNotCome) {
   unlock();
   showTile();
   ASSERT_TRUE(waitUntil([this] { return tile->property("opensOutside").toBool(); }));
-  QMetaObject::invokeMethod(tile->findChild<QQuickItem*>("coveringView"), "click");
+  QMetaObject::invokeMethod(tile->findChild<QQuickItem*>("coveringView"), "clicked");
   EXPECT_EQ(opened, "https://videos.example.org/watch?v=abcdefghi_-&t=30s");
 }
 
