@@ -12,9 +12,11 @@ T.Popup {
     readonly property bool isHigh: style === ViewController.PageSheet || style === ViewController.FormSheet
     readonly property bool isSheet: isHigh || style === ViewController.ActionSheet
     readonly property bool isFitted: isCard || style === ViewController.ActionSheet
-    readonly property bool isWide: parent.width >= Theme.tabletWidth
+    // A window that closes takes the place away before the popup.
+    readonly property size room: parent ? Qt.size(parent.width, parent.height) : Qt.size(0, 0)
+    readonly property bool isWide: room.width >= Theme.tabletWidth
     readonly property bool isAtFoot: isSheet && !(isHigh && isWide)
-    readonly property real restY: isAtFoot ? parent.height - height : (parent.height - height) / 2
+    readonly property real restY: isAtFoot ? room.height - height : (room.height - height) / 2
     property real risen: 1
 
     function wanted(full) {
@@ -32,11 +34,11 @@ T.Popup {
         }
     }
 
-    x: (parent.width - width) / 2
-    y: parent.height - risen * (parent.height - restY)
+    x: (room.width - width) / 2
+    y: room.height - risen * (room.height - restY)
     z: 1 // Over an open drawer.
-    width: wanted(Qt.size(parent.width, parent.height)).width
-    height: wanted(Qt.size(parent.width, parent.height)).height
+    width: wanted(room).width
+    height: wanted(room).height
     modal: true
     dim: isCard || isSheet
     focus: true
