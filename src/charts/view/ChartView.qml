@@ -23,7 +23,7 @@ Item {
             clock.start();
     }
 
-    activeFocusOnTab: chart.hasPoints || tree.isWide
+    activeFocusOnTab: chart.hasPoints || tree.isWide || activeFocus
     Accessible.role: Accessible.Chart
     Accessible.name: chart.words
     Accessible.description: chart.markedWords

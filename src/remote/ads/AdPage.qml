@@ -55,6 +55,5 @@ Rectangle {
         View.titleColor: page.controller.discountTitleColor
         View.shadow: page.controller.buttonShadow
         onClicked: page.controller.tappedDiscountButton()
-        Keys.onReturnPressed: click()
     }
 }

@@ -156,8 +156,6 @@ Rectangle {
             onClicked: page.controller.advance()
             Keys.onRightPressed: list.incrementCurrentIndex()
             Keys.onLeftPressed: list.decrementCurrentIndex()
-            Keys.onReturnPressed: click()
-            Keys.onEnterPressed: click()
 
             Rectangle {
                 anchors.fill: parent

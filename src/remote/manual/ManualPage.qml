@@ -125,7 +125,7 @@ Item {
         contentHeight: legend.height + 32
         clip: true
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: contentHeight > height
+        activeFocusOnTab: contentHeight > height || activeFocus // Not to be taken back while it has the focus.
         Accessible.role: Accessible.List
         Accessible.name: page.controller.label
         Keys.onDownPressed: contentY = Math.max(0, Math.min(contentHeight - height, contentY + 48))

@@ -62,7 +62,6 @@ Item {
                     text: qsTrId("Cancel")
                     font: Theme.medium(17)
                     onClicked: page.controller.tappedCancelRatingButton()
-                    Keys.onReturnPressed: click()
                 }
                 ActionButton {
                     objectName: "sendRatingButton"
@@ -73,7 +72,6 @@ Item {
                     text: qsTrId("Send")
                     font: Theme.medium(17)
                     onClicked: page.controller.tappedSendRatingButton()
-                    Keys.onReturnPressed: click()
                 }
             }
         }

@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Templates as T
 import Tavi
 
 // One video: covered until its player is ready. Without a player a tap opens it in the browser; a link to no video
@@ -62,19 +61,15 @@ Item {
         onTriggered: tile.isGivenUp = true
     }
 
-    T.AbstractButton {
+    Pressable {
         id: coveringView
 
         objectName: "coveringView"
         anchors.fill: parent
         visible: !tile.isReady
         enabled: tile.opensOutside
-        hoverEnabled: false
         text: qsTrId("videoOutside")
-        Accessible.role: Accessible.Button
-        Accessible.name: text
         Accessible.ignored: !tile.opensOutside
-        Keys.onReturnPressed: click()
         onClicked: tile.controller.openOutside(tile.link)
 
         background: Rectangle {

@@ -68,7 +68,7 @@ Rectangle {
         model: page.controller.table
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
-        activeFocusOnTab: count > 0
+        activeFocusOnTab: count > 0 || activeFocus
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("History")
         onMovementStarted: closeOpenRow()

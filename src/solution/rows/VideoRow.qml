@@ -86,7 +86,7 @@ TableRow {
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             interactive: !row.videos.isLocked
-            activeFocusOnTab: !row.videos.isLocked
+            activeFocusOnTab: !row.videos.isLocked || activeFocus
             keyNavigationEnabled: true
             highlightMoveDuration: 200
             visible: !row.videos.isLocked
@@ -152,7 +152,6 @@ TableRow {
                     text: qsTrId("touchTounlock")
                     font: Theme.medium(17)
                     onClicked: row.videos.tappedLockingViewButton()
-                    Keys.onReturnPressed: click()
                     Component.onCompleted: row.videos.applyStyle(unlockButton)
                 }
             }
