@@ -2,24 +2,38 @@
 
 #include <QFile>
 #include <QFileInfo>
+#include <utility>
 
 namespace tavi {
 
-const ResourceBundle& ResourceBundle::main() {
-  static const ResourceBundle bundle(QStringLiteral(":"));
+ResourceBundle& ResourceBundle::own() {
+  static ResourceBundle bundle(QStringLiteral(":"));
   return bundle;
+}
+
+const ResourceBundle& ResourceBundle::main() {
+  return own();
+}
+
+void ResourceBundle::overlayMain(QString folder) {
+  own().overlay_ = std::move(folder);
 }
 
 ResourceBundle::ResourceBundle(QString root) : root_(std::move(root)) {}
 
+QString ResourceBundle::file(const QString& name, const QString& extension) const {
+  const QString tail = '/' + name + '.' + extension;
+  return !overlay_.isEmpty() && QFileInfo(overlay_ + tail).isFile() ? overlay_ + tail : root_ + tail;
+}
+
 std::optional<QString> ResourceBundle::path(const QString& name, const QString& extension) const {
-  const QString path = root_ + '/' + name + '.' + extension;
+  const QString path = file(name, extension);
   return QFileInfo(path).isFile() ? std::optional(path) : std::nullopt;
 }
 
 std::optional<QByteArray> ResourceBundle::data(const QString& name, const QString& extension) const {
-  QFile file(root_ + '/' + name + '.' + extension);
-  return file.open(QFile::ReadOnly) ? std::optional(file.readAll()) : std::nullopt;
+  QFile content(file(name, extension));
+  return content.open(QFile::ReadOnly) ? std::optional(content.readAll()) : std::nullopt;
 }
 
 std::optional<std::string> readResource(std::string_view name, std::string_view extension) {

@@ -14,6 +14,10 @@ class ResourceBundle {
   /// The application's own resources.
   static const ResourceBundle& main();
 
+  /// From now on files in that folder stand for those of the application's own of the same names. For
+  /// programs that try the application under other settings; to be called before anything is read.
+  static void overlayMain(QString folder);
+
   /// A bundle over a folder of the resource system or, for tests, of the disk.
   explicit ResourceBundle(QString root);
 
@@ -29,7 +33,11 @@ class ResourceBundle {
   }
 
  private:
+  static ResourceBundle& own();
+  QString file(const QString& name, const QString& extension) const;
+
   QString root_;
+  QString overlay_ = {};  ///< Whose files come first; empty for none.
 };
 
 /// A file of the application's own resources, for the engine, which knows of no Qt; absent as above.

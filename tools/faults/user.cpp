@@ -1,0 +1,271 @@
+// A user who throws dice: plays with the application at random, for ./dev faults. What the history holds is
+// told after each action, so that whoever ends this process knows what was acknowledged.
+
+#include <QClipboard>
+#include <QCommandLineParser>
+#include <QCryptographicHash>
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QPixmapCache>
+#include <QTest>
+#include <algorithm>
+#include <chrono>
+#include <cstdio>
+#include <random>
+
+#include <malloc.h>
+
+#include "appearance/appearance.h"
+#include "number/fatal_stop.h"
+#include "platform/analytics.h"
+#include "platform/links.h"
+#include "platform/preferences.h"
+#include "platform/resource_bundle.h"
+#include "remote/analytics_events.h"
+#include "shell/launch/application.h"
+
+namespace tavi::faults {
+
+namespace {
+
+void say(const QString& line) {
+  std::puts(qPrintable(line));
+  std::fflush(stdout);
+}
+
+/// A short name of each record, newest first.
+QString records(const QList<Calculation>& calculations) {
+  QStringList names{QStringLiteral("records")};
+  for (const Calculation& each : calculations) {
+    const QByteArray text = QJsonDocument(QJsonObject::fromVariantMap(each.properties())).toJson();
+    names.append(QCryptographicHash::hash(text, QCryptographicHash::Md5).toHex().left(12));
+  }
+  return names.join(' ');
+}
+
+/// Resident memory of this process in KiB.
+long residentMemory() {
+  QFile status(QStringLiteral("/proc/self/status"));
+  if (!status.open(QFile::ReadOnly)) return 0;
+  for (const QByteArray& line : status.readAll().split('\n'))
+    if (line.startsWith("VmRSS:")) return line.mid(6).trimmed().split(' ').value(0).toLong();
+  return 0;
+}
+
+/// Whether an event is one that the vocabulary knows, with no parameter that it does not tell of.
+bool isTold(const AnalyticsEvent& event) {
+  for (const events::EventKind& kind : events::vocabulary) {
+    if (kind.name != event.name) continue;
+    const QStringList given = event.parameters.value_or(QVariantMap()).keys();
+    return std::ranges::all_of(given, [&kind](const QString& parameter) {
+      return std::ranges::any_of(kind.parameters, [&](QLatin1StringView told) { return told == parameter; });
+    });
+  }
+  return false;
+}
+
+/// Hands and eyes of the user: every place of the window, every key of the keyboard.
+class User {
+ public:
+  User(Application& application, unsigned seed)
+      : application_(application), dice_(seed), finger_(QTest::createTouchDevice()) {}
+
+  /// One action; the time that the application took for it, until it waits for the next event.
+  std::chrono::nanoseconds act() {
+    const auto start = std::chrono::steady_clock::now();
+    struct {
+      int weight;
+      void (User::*action)();
+    } static constexpr actions[] = {
+        {40, &User::tapControl}, {25, &User::typeKey},  {15, &User::tapAnywhere},
+        {6, &User::drag},        {4, &User::turnWheel}, {4, &User::navigate},
+        {2, &User::paste},       {2, &User::resize},    {2, &User::changeAppearance}};
+    int rest = throwDice(100);
+    for (const auto& [weight, action] : actions) {
+      if ((rest -= weight) < 0) {
+        (this->*action)();
+        break;
+      }
+    }
+    QCoreApplication::processEvents();
+    return std::chrono::steady_clock::now() - start;
+  }
+
+  /// What the process holds, in KiB, in the window's first size and with what is free given back.
+  long memoryAtRest() {
+    window().resize(412, 870);
+    QTest::qWait(500);
+    QPixmapCache::clear();
+    malloc_trim(0);
+    return residentMemory();
+  }
+
+ private:
+  QQuickWindow& window() { return *application_.delegate().window(); }
+  int throwDice(int sides) { return std::uniform_int_distribution(0, sides - 1)(dice_); }
+
+  QPoint anyPlace() { return {throwDice(window().width()), throwDice(window().height())}; }
+
+  void collect(QQuickItem& item, std::vector<QQuickItem*>& controls) {
+    if (!item.isVisible()) return;
+    const QPoint middle = item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
+    if (item.inherits("QQuickAbstractButton") && item.isEnabled() &&
+        QRect({}, window().size()).contains(middle))
+      controls.push_back(&item);
+    for (QQuickItem* child : item.childItems()) collect(*child, controls);
+  }
+
+  void touch(QPoint place) {
+    QTest::touchEvent(&window(), finger_.get()).press(0, place);
+    QTest::touchEvent(&window(), finger_.get()).release(0, place);
+  }
+
+  void tapControl() {
+    std::vector<QQuickItem*> controls;
+    collect(*window().contentItem(), controls);
+    if (controls.empty()) return;
+    const QQuickItem& control =
+        *controls[static_cast<std::size_t>(throwDice(static_cast<int>(controls.size())))];
+    const QPoint place = control.mapToScene({control.width() / 2, control.height() / 2}).toPoint();
+    if (throwDice(2) == 0)
+      touch(place);
+    else
+      QTest::mouseClick(&window(), throwDice(10) == 0 ? Qt::RightButton : Qt::LeftButton, {}, place);
+  }
+
+  void tapAnywhere() {
+    throwDice(2) == 0 ? touch(anyPlace()) : QTest::mouseClick(&window(), Qt::LeftButton, {}, anyPlace());
+  }
+
+  void drag() {
+    const QPoint start = anyPlace();
+    const QPoint end = anyPlace();
+    QTest::touchEvent(&window(), finger_.get()).press(0, start);
+    for (int part = 1; part <= 4; ++part)
+      QTest::touchEvent(&window(), finger_.get()).move(0, start + (end - start) * part / 4);
+    QTest::touchEvent(&window(), finger_.get()).release(0, end);
+  }
+
+  void turnWheel() {
+    const QPoint turn(0, throwDice(2) == 0 ? 120 : -120);
+    const QPoint place = anyPlace();
+    QWheelEvent event(place, window().mapToGlobal(place), {}, turn, Qt::NoButton,
+                      throwDice(4) == 0 ? Qt::ControlModifier : Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window(), &event);
+  }
+
+  void typeKey() {
+    static constexpr char keys[] = "0123456789..//--xyp^,*+e";
+    QTest::keyClick(&window(), keys[throwDice(static_cast<int>(std::size(keys)) - 1)]);
+  }
+
+  void navigate() {
+    static constexpr Qt::Key keys[] = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter,
+                                       Qt::Key_Space,  Qt::Key_Left,    Qt::Key_Right,  Qt::Key_Up,
+                                       Qt::Key_Down,   Qt::Key_Home,    Qt::Key_End,    Qt::Key_PageUp,
+                                       Qt::Key_Escape, Qt::Key_Back,    Qt::Key_Delete, Qt::Key_Menu,
+                                       Qt::Key_Z,      Qt::Key_C,       Qt::Key_V,      Qt::Key_A};
+    static constexpr Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
+                                                         Qt::ControlModifier, Qt::AltModifier};
+    QTest::keyClick(&window(), keys[throwDice(static_cast<int>(std::size(keys)))],
+                    modifiers[throwDice(static_cast<int>(std::size(modifiers)))]);
+  }
+
+  void paste() {
+    static constexpr const char* texts[] = {"",   "3/4", "−12",  "1,5",         "2·π",
+                                            "x²", "٣",   "\n\n", "2^10 = 1024", "½"};
+    QString text = QString::fromUtf8(texts[throwDice(static_cast<int>(std::size(texts)))]);
+    if (throwDice(8) == 0) text = QString(5000, u'9');
+    QGuiApplication::clipboard()->setText(text);
+    QTest::keyClick(&window(), Qt::Key_V, Qt::ControlModifier);
+  }
+
+  void resize() {
+    static constexpr QSize sizes[] = {{412, 870}, {320, 480},  {568, 320}, {360, 640},
+                                      {800, 360}, {1280, 800}, {100, 100}};
+    window().resize(sizes[throwDice(static_cast<int>(std::size(sizes)))]);
+  }
+
+  void changeAppearance() { Appearance::shared().force(throwDice(2) == 0); }
+
+  Application& application_;
+  std::mt19937 dice_;
+  std::unique_ptr<QPointingDevice> finger_;
+};
+
+struct Options {
+  unsigned seed;
+  int actions;
+  bool isQuiet;  ///< Tells only how it went, not what the history holds.
+};
+
+/// Acts until it has acted often enough. Memory is compared once everything has been opened a few times.
+int play(Application& application, const Options& options) {
+  if (!application.launch()) {
+    say("runs already");
+    return 0;
+  }
+  if (!QTest::qWaitForWindowExposed(application.delegate().window(), 60'000)) return 1;
+  say("up");
+  User user(application, options.seed);
+  const CalcManager& store = CalcManager::shared();
+  QString told;
+  long settled = 0;
+  std::chrono::nanoseconds longest{};
+  for (int action = 0; action < options.actions; ++action) {
+    if (action == options.actions / 10) settled = user.memoryAtRest();
+    longest = std::max(longest, user.act());
+    if (options.isQuiet) continue;
+    const QString now = records(store.calculations());
+    if (now != told) say(told = now);
+  }
+  say(QStringLiteral("memory %1 %2").arg(settled).arg(user.memoryAtRest()));
+  say(QStringLiteral("longest %1")
+          .arg(std::chrono::duration_cast<std::chrono::milliseconds>(longest).count()));
+  return 0;
+}
+
+int go(int argumentCount, char** arguments) {
+  Application application(argumentCount, arguments);
+  QCommandLineParser parser;
+  parser.addOptions(
+      {{"seed", "of the dice", "number", "1"},
+       {"actions", "how many; many more than one lives to do if absent", "number", "2000000000"},
+       {"settings", "folder of another ProjectSettings.json", "folder"},
+       {"quiet", "do not tell what the history holds"},
+       {"dump", "only tell what the history holds"},
+       {"fill", "first put so many records into the history", "number"},
+       {"agree", "first agree to everything, measurement too"}});
+  parser.process(Application::arguments());
+  if (parser.isSet("settings")) ResourceBundle::overlayMain(parser.value("settings"));
+  Links::shared().setHandler({}, [](const QUrl&) { return true; });
+  if (parser.isSet("dump")) {
+    say(records(CalcManager::shared().calculations()));
+    return 0;
+  }
+  if (parser.isSet("agree"))
+    for (const auto* answer : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted,
+                               &preferences::isYoutubeDsgvoAccepted, &preferences::isMeasurementAccepted})
+      PreferenceStore::standard().setValue(*answer, true);
+  Analytics::setSink([](const AnalyticsEvent& event) {
+    if (!isTold(event)) say(QStringLiteral("not in the vocabulary: ") + event.name);
+  });
+  for (int record = 0; record < parser.value("fill").toInt(); ++record)
+    CalcManager::shared().addCalculation({{}, QString::number(record), {}, {}});
+  return play(application,
+              {parser.value("seed").toUInt(), parser.value("actions").toInt(), parser.isSet("quiet")});
+}
+
+}  // namespace
+
+}  // namespace tavi::faults
+
+int main(int argumentCount, char** arguments) {
+  try {
+    return tavi::faults::go(argumentCount, arguments);
+  } catch (const tavi::FatalStop& stop) {
+    std::fprintf(stderr, "fatal stop: %s\n", stop.reason.c_str());
+    return 3;
+  }
+}
