@@ -320,79 +320,79 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>These numbers are too large or too exact for me. Please use smaller or shorter ones.</translation>
     </message>
     <message id="hintTapField">
-        <source>hintTapField</source>
+        <source>Tap a field to begin</source>
         <translation>Tap a field to begin</translation>
     </message>
     <message id="hintBaseAndExponent">
-        <source>hintBaseAndExponent</source>
+        <source>Base and exponent are missing</source>
         <translation>Base and exponent are missing</translation>
     </message>
     <message id="hintBase">
-        <source>hintBase</source>
+        <source>The base is missing</source>
         <translation>The base is missing</translation>
     </message>
     <message id="hintExponent">
-        <source>hintExponent</source>
+        <source>The exponent is missing</source>
         <translation>The exponent is missing</translation>
     </message>
     <message id="hintRadicand">
-        <source>hintRadicand</source>
+        <source>The radicand is missing</source>
         <translation>The radicand is missing</translation>
     </message>
     <message id="hintFraction">
-        <source>hintFraction</source>
+        <source>The fraction is not finished</source>
         <translation>The fraction is not finished</translation>
     </message>
     <message id="hintDigit">
-        <source>hintDigit</source>
+        <source>A digit is missing</source>
         <translation>A digit is missing</translation>
     </message>
     <message id="hintNumber">
-        <source>hintNumber</source>
+        <source>This is not a number yet</source>
         <translation>This is not a number yet</translation>
     </message>
     <message id="hintOneBar">
-        <source>hintOneBar</source>
+        <source>There can be only one fraction bar</source>
         <translation>There can be only one fraction bar</translation>
     </message>
     <message id="hintZero">
-        <source>hintZero</source>
+        <source>Zero cannot be a denominator</source>
         <translation>Zero cannot be a denominator</translation>
     </message>
     <message id="hintOnePi">
-        <source>hintOnePi</source>
+        <source>π goes only once into a number</source>
         <translation>π goes only once into a number</translation>
     </message>
     <message id="hintOrder">
-        <source>hintOrder</source>
+        <source>π and letters go behind a number</source>
         <translation>π and letters go behind a number</translation>
     </message>
     <message id="hintOneLetter">
-        <source>hintOneLetter</source>
+        <source>Only one letter goes into a number</source>
         <translation>Only one letter goes into a number</translation>
     </message>
     <message id="hintTooLong">
-        <source>hintTooLong</source>
+        <source>This is too long to write out</source>
         <translation>This is too long to write out</translation>
     </message>
     <message id="hintOutOfRange">
-        <source>hintOutOfRange</source>
+        <source>This is too large or too exact</source>
         <translation>This is too large or too exact</translation>
     </message>
     <message id="hintInfinite">
-        <source>hintInfinite</source>
+        <source>The result is too large and will show as ∞</source>
         <translation>The result is too large and will show as ∞</translation>
     </message>
     <message id="hintPaste">
-        <source>hintPaste</source>
+        <source>What was copied is not one clear number</source>
         <translation>What was copied is not one clear number</translation>
     </message>
     <message id="hintPasteMinus">
-        <source>hintPasteMinus</source>
+        <source>A minus can only stand in front</source>
         <translation>A minus can only stand in front</translation>
     </message>
     <message id="hintPastePower">
-        <source>hintPastePower</source>
+        <source>Only one number goes into this field</source>
         <translation>Only one number goes into this field</translation>
     </message>
     <message id="Cut">
@@ -636,7 +636,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>The result, marked by the bar at its left.</translation>
     </message>
     <message id="pleaseWait">
-        <source></source>
+        <source>Please wait</source>
         <translation>Please wait</translation>
     </message>
     <message id="OK">
@@ -644,55 +644,57 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>OK</translation>
     </message>
     <message id="settings">
-        <source>settings</source>
+        <source>Settings</source>
         <translation>Settings</translation>
     </message>
     <message id="appearance">
-        <source>appearance</source>
+        <source>Appearance</source>
         <translation>Appearance</translation>
     </message>
     <message id="asSystem">
-        <source>asSystem</source>
+        <source>System</source>
         <translation>System</translation>
     </message>
     <message id="light">
-        <source>light</source>
+        <source>Light</source>
         <translation>Light</translation>
     </message>
     <message id="dark">
-        <source>dark</source>
+        <source>Dark</source>
         <translation>Dark</translation>
     </message>
     <message id="language">
-        <source>language</source>
+        <source>Language</source>
         <translation>Language</translation>
     </message>
     <message id="languageName">
-        <source>languageName</source>
+        <source>English</source>
         <translation>English</translation>
     </message>
     <message id="fromNextStart">
-        <source>fromNextStart</source>
+        <source>Another language is spoken from the next start on.</source>
         <translation>Another language is spoken from the next start on.</translation>
     </message>
     <message id="measurement">
-        <source>measurement</source>
+        <source>Usage figures</source>
         <translation>Usage figures</translation>
     </message>
     <message id="measurementAccept">
-        <source>measurementAccept</source>
+        <source>Send which functions are used</source>
         <translation>Send which functions are used</translation>
     </message>
     <message id="measurementWhat">
-        <source>measurementWhat</source>
+        <source>What is sent</source>
         <translation>What is sent</translation>
     </message>
     <message id="measurementNone">
-        <source>measurementNone</source>
+        <source>This version keeps and sends nothing about its use.</source>
         <translation>This version keeps and sends nothing about its use.</translation>
     </message>
     <message id="measurementText">
-        <source>measurementText</source>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
+
+With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
         <translation>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</translation>

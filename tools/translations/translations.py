@@ -27,6 +27,10 @@ PACKAGING = ROOT / "packaging"
 SAME_EVERYWHERE = {"Tavi Solver", "OK", "Pi", "mathPi", "videoReady"}
 SAME = {
     "de": {"Exponent", "mathPlus", "mathMinus", "chartQuadrant"},
+    "es": {"Base", "error", "mathFactorial"},
+    "fr": {"Base", "chartQuadrant", "introduction", "mathPlus", "menuButton", "sharingFileName"},
+    "id": {"mathMinus", "menuButton"},
+    "pt": {"Base", "menuButton"},
 }
 
 

@@ -55,6 +55,15 @@ void speakStoredLanguage() {
   loadTranslations({chosen});
 }
 
+QtMessageHandler messageHandler = nullptr;
+
+/// For each size of a text in Hindi Qt complains that the interface's font knows nothing of that script,
+/// before it takes one that does.
+void passMessageOn(QtMsgType type, const QMessageLogContext& context, const QString& message) {
+  if (!message.contains(QLatin1StringView("OpenType support missing for")))
+    messageHandler(type, context, message);
+}
+
 /// Everything that is named after the application comes after this.
 QString namedDataFolder() {
   nameApplication();
@@ -65,6 +74,7 @@ QString namedDataFolder() {
 
 Application::Application(int& argumentCount, char** arguments)
     : QGuiApplication(withRenderer(argumentCount), arguments), instance_(namedDataFolder()) {
+  if (messageHandler == nullptr) messageHandler = qInstallMessageHandler(passMessageOn);
   setWindowIcon(QIcon::fromTheme(desktopFileName()));
   speakStoredLanguage();
   Appearance::shared().followSystem();
