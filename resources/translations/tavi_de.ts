@@ -320,79 +320,79 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Diese Zahlen sind mir zu groß oder zu genau. Bitte nimm kleinere oder kürzere.</translation>
     </message>
     <message id="hintTapField">
-        <source>hintTapField</source>
+        <source>Tap a field to begin</source>
         <translation>Tippe zuerst auf ein Feld</translation>
     </message>
     <message id="hintBaseAndExponent">
-        <source>hintBaseAndExponent</source>
+        <source>Base and exponent are missing</source>
         <translation>Basis und Exponent fehlen noch</translation>
     </message>
     <message id="hintBase">
-        <source>hintBase</source>
+        <source>The base is missing</source>
         <translation>Die Basis fehlt noch</translation>
     </message>
     <message id="hintExponent">
-        <source>hintExponent</source>
+        <source>The exponent is missing</source>
         <translation>Der Exponent fehlt noch</translation>
     </message>
     <message id="hintRadicand">
-        <source>hintRadicand</source>
+        <source>The radicand is missing</source>
         <translation>Der Radikand fehlt noch</translation>
     </message>
     <message id="hintFraction">
-        <source>hintFraction</source>
+        <source>The fraction is not finished</source>
         <translation>Der Bruch ist noch nicht fertig</translation>
     </message>
     <message id="hintDigit">
-        <source>hintDigit</source>
+        <source>A digit is missing</source>
         <translation>Es fehlt noch eine Ziffer</translation>
     </message>
     <message id="hintNumber">
-        <source>hintNumber</source>
+        <source>This is not a number yet</source>
         <translation>Das ist noch keine Zahl</translation>
     </message>
     <message id="hintOneBar">
-        <source>hintOneBar</source>
+        <source>There can be only one fraction bar</source>
         <translation>Es kann nur einen Bruchstrich geben</translation>
     </message>
     <message id="hintZero">
-        <source>hintZero</source>
+        <source>Zero cannot be a denominator</source>
         <translation>Null kann kein Nenner sein</translation>
     </message>
     <message id="hintOnePi">
-        <source>hintOnePi</source>
+        <source>π goes only once into a number</source>
         <translation>π passt nur einmal in eine Zahl</translation>
     </message>
     <message id="hintOrder">
-        <source>hintOrder</source>
+        <source>π and letters go behind a number</source>
         <translation>π und Buchstaben stehen hinter der Zahl</translation>
     </message>
     <message id="hintOneLetter">
-        <source>hintOneLetter</source>
+        <source>Only one letter goes into a number</source>
         <translation>Nur ein Buchstabe passt in eine Zahl</translation>
     </message>
     <message id="hintTooLong">
-        <source>hintTooLong</source>
+        <source>This is too long to write out</source>
         <translation>Das ist zu lang zum Ausschreiben</translation>
     </message>
     <message id="hintOutOfRange">
-        <source>hintOutOfRange</source>
+        <source>This is too large or too exact</source>
         <translation>Das ist zu groß oder zu genau</translation>
     </message>
     <message id="hintInfinite">
-        <source>hintInfinite</source>
+        <source>The result is too large and will show as ∞</source>
         <translation>Das Ergebnis ist zu groß und erscheint als ∞</translation>
     </message>
     <message id="hintPaste">
-        <source>hintPaste</source>
+        <source>What was copied is not one clear number</source>
         <translation>Das Kopierte ist keine eindeutige Zahl</translation>
     </message>
     <message id="hintPasteMinus">
-        <source>hintPasteMinus</source>
+        <source>A minus can only stand in front</source>
         <translation>Ein Minus kann nur vorne stehen</translation>
     </message>
     <message id="hintPastePower">
-        <source>hintPastePower</source>
+        <source>Only one number goes into this field</source>
         <translation>In dieses Feld passt nur eine Zahl</translation>
     </message>
     <message id="Cut">
@@ -636,12 +636,68 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Das Ergebnis, zu erkennen am Balken links.</translation>
     </message>
     <message id="pleaseWait">
-        <source></source>
+        <source>Please wait</source>
         <translation>Bitte warten</translation>
     </message>
     <message id="OK">
         <source>OK</source>
         <translation>OK</translation>
+    </message>
+    <message id="settings">
+        <source>Settings</source>
+        <translation>Einstellungen</translation>
+    </message>
+    <message id="appearance">
+        <source>Appearance</source>
+        <translation>Darstellung</translation>
+    </message>
+    <message id="asSystem">
+        <source>System</source>
+        <translation>System</translation>
+    </message>
+    <message id="light">
+        <source>Light</source>
+        <translation>Hell</translation>
+    </message>
+    <message id="dark">
+        <source>Dark</source>
+        <translation>Dunkel</translation>
+    </message>
+    <message id="language">
+        <source>Language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message id="languageName">
+        <source>English</source>
+        <translation>Deutsch</translation>
+    </message>
+    <message id="fromNextStart">
+        <source>Another language is spoken from the next start on.</source>
+        <translation>Eine andere Sprache gilt ab dem nächsten Start.</translation>
+    </message>
+    <message id="measurement">
+        <source>Usage figures</source>
+        <translation>Nutzungszahlen</translation>
+    </message>
+    <message id="measurementAccept">
+        <source>Send which functions are used</source>
+        <translation>Senden, welche Funktionen genutzt werden</translation>
+    </message>
+    <message id="measurementWhat">
+        <source>What is sent</source>
+        <translation>Was gesendet wird</translation>
+    </message>
+    <message id="measurementNone">
+        <source>This version keeps and sends nothing about its use.</source>
+        <translation>Diese Version merkt sich nichts über ihre Nutzung und sendet nichts.</translation>
+    </message>
+    <message id="measurementText">
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
+
+With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>Nur wenn du es in den Einstellungen erlaubst, merkt sich die App, welche ihrer Funktionen genutzt werden, und sendet das an %1. Du kannst das dort jederzeit widerrufen; was gemerkt ist, wird dann sofort gelöscht.
+
+Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, und Name und Version der App; nichts, was dich oder dein Gerät benennt. Dies sind die Ereignisse und was mit jedem geht:</translation>
     </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
@@ -842,60 +898,6 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
     <message id="chartArea">
         <source>area chart</source>
         <translation>Flächendiagramm</translation>
-    </message>
-    <message id="settings">
-        <source>settings</source>
-        <translation>Einstellungen</translation>
-    </message>
-    <message id="appearance">
-        <source>appearance</source>
-        <translation>Darstellung</translation>
-    </message>
-    <message id="asSystem">
-        <source>asSystem</source>
-        <translation>System</translation>
-    </message>
-    <message id="light">
-        <source>light</source>
-        <translation>Hell</translation>
-    </message>
-    <message id="dark">
-        <source>dark</source>
-        <translation>Dunkel</translation>
-    </message>
-    <message id="language">
-        <source>language</source>
-        <translation>Sprache</translation>
-    </message>
-    <message id="languageName">
-        <source>languageName</source>
-        <translation>Deutsch</translation>
-    </message>
-    <message id="fromNextStart">
-        <source>fromNextStart</source>
-        <translation>Eine andere Sprache gilt ab dem nächsten Start.</translation>
-    </message>
-    <message id="measurement">
-        <source>measurement</source>
-        <translation>Nutzungszahlen</translation>
-    </message>
-    <message id="measurementAccept">
-        <source>measurementAccept</source>
-        <translation>Senden, welche Funktionen genutzt werden</translation>
-    </message>
-    <message id="measurementWhat">
-        <source>measurementWhat</source>
-        <translation>Was gesendet wird</translation>
-    </message>
-    <message id="measurementNone">
-        <source>measurementNone</source>
-        <translation>Diese Version merkt sich nichts über ihre Nutzung und sendet nichts.</translation>
-    </message>
-    <message id="measurementText">
-        <source>measurementText</source>
-        <translation>Nur wenn du es in den Einstellungen erlaubst, merkt sich die App, welche ihrer Funktionen genutzt werden, und sendet das an %1. Du kannst das dort jederzeit widerrufen; was gemerkt ist, wird dann sofort gelöscht.
-
-Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, und Name und Version der App; nichts, was dich oder dein Gerät benennt. Dies sind die Ereignisse und was mit jedem geht:</translation>
     </message>
 </context>
 </TS>

@@ -645,57 +645,59 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
     </message>
     <message id="settings">
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Ajustes</translation>
     </message>
     <message id="appearance">
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apariencia</translation>
     </message>
     <message id="asSystem">
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistema</translation>
     </message>
     <message id="light">
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Claro</translation>
     </message>
     <message id="dark">
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Oscuro</translation>
     </message>
     <message id="language">
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Idioma</translation>
     </message>
     <message id="languageName">
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>Español</translation>
     </message>
     <message id="fromNextStart">
         <source>Another language is spoken from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>El nuevo idioma vale desde el próximo inicio.</translation>
     </message>
     <message id="measurement">
         <source>Usage figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Datos de uso</translation>
     </message>
     <message id="measurementAccept">
         <source>Send which functions are used</source>
-        <translation type="unfinished"></translation>
+        <translation>Enviar qué funciones se usan</translation>
     </message>
     <message id="measurementWhat">
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Qué se envía</translation>
     </message>
     <message id="measurementNone">
         <source>This version keeps and sends nothing about its use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Esta versión no guarda ni envía nada sobre su uso.</translation>
     </message>
     <message id="measurementText">
         <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation type="unfinished"></translation>
+        <translation>Solo si lo permites en los ajustes, la aplicación guarda qué funciones suyas se usan y lo envía a %1. Allí puedes retirar el permiso en cualquier momento; lo guardado se borra entonces enseguida.
+
+Con cada evento van su hora, un número al azar que cambia cada día, y el nombre y la versión de la aplicación; nada que te nombre a ti ni a tu dispositivo. Estos son los eventos y lo que va con cada uno:</translation>
     </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>

@@ -645,57 +645,59 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
     </message>
     <message id="settings">
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Réglages</translation>
     </message>
     <message id="appearance">
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Apparence</translation>
     </message>
     <message id="asSystem">
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Système</translation>
     </message>
     <message id="light">
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Clair</translation>
     </message>
     <message id="dark">
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Sombre</translation>
     </message>
     <message id="language">
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Langue</translation>
     </message>
     <message id="languageName">
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>Français</translation>
     </message>
     <message id="fromNextStart">
         <source>Another language is spoken from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>La nouvelle langue vaut dès le prochain démarrage.</translation>
     </message>
     <message id="measurement">
         <source>Usage figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Données d’utilisation</translation>
     </message>
     <message id="measurementAccept">
         <source>Send which functions are used</source>
-        <translation type="unfinished"></translation>
+        <translation>Envoyer les fonctions utilisées</translation>
     </message>
     <message id="measurementWhat">
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Ce qui est envoyé</translation>
     </message>
     <message id="measurementNone">
         <source>This version keeps and sends nothing about its use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Cette version ne garde et n’envoie rien sur son utilisation.</translation>
     </message>
     <message id="measurementText">
         <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation type="unfinished"></translation>
+        <translation>Seulement si tu l’autorises dans les réglages, l’appli garde quelles fonctions sont utilisées et l’envoie à %1. Tu peux y retirer ton accord à tout moment ; ce qui est gardé est alors effacé aussitôt.
+
+Avec chaque événement partent son heure, un nombre au hasard qui change chaque jour, ainsi que le nom et la version de l’appli ; rien qui te nomme, toi ou ton appareil. Voici les événements et ce qui part avec chacun :</translation>
     </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>

@@ -645,57 +645,59 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="settings">
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>सेटिंग</translation>
     </message>
     <message id="appearance">
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>रूप</translation>
     </message>
     <message id="asSystem">
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>सिस्टम</translation>
     </message>
     <message id="light">
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>हल्का</translation>
     </message>
     <message id="dark">
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>गहरा</translation>
     </message>
     <message id="language">
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>भाषा</translation>
     </message>
     <message id="languageName">
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>हिन्दी</translation>
     </message>
     <message id="fromNextStart">
         <source>Another language is spoken from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>नई भाषा अगली बार ऐप खुलने पर लागू होगी।</translation>
     </message>
     <message id="measurement">
         <source>Usage figures</source>
-        <translation type="unfinished"></translation>
+        <translation>उपयोग के आँकड़े</translation>
     </message>
     <message id="measurementAccept">
         <source>Send which functions are used</source>
-        <translation type="unfinished"></translation>
+        <translation>भेजें कि क्या उपयोग हुआ</translation>
     </message>
     <message id="measurementWhat">
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>क्या भेजा जाता है</translation>
     </message>
     <message id="measurementNone">
         <source>This version keeps and sends nothing about its use.</source>
-        <translation type="unfinished"></translation>
+        <translation>यह संस्करण अपने उपयोग के बारे में न कुछ रखता है, न भेजता है।</translation>
     </message>
     <message id="measurementText">
         <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation type="unfinished"></translation>
+        <translation>केवल आपके सेटिंग में अनुमति देने पर ऐप यह रखता है कि उसकी कौन-सी सुविधाएँ उपयोग होती हैं, और इसे %1 को भेजता है। आप वहाँ अनुमति कभी भी वापस ले सकते हैं; तब जो रखा गया है, वह तुरंत मिटा दिया जाता है।
+
+हर घटना के साथ उसका समय, हर दिन बदलने वाली एक यादृच्छिक संख्या, और ऐप का नाम और संस्करण जाता है; ऐसा कुछ नहीं जो आपकी या आपके उपकरण की पहचान बताए। ये हैं घटनाएँ और हर एक के साथ जाने वाली जानकारी:</translation>
     </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>

@@ -645,57 +645,59 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
     </message>
     <message id="settings">
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Setelan</translation>
     </message>
     <message id="appearance">
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>Tampilan</translation>
     </message>
     <message id="asSystem">
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistem</translation>
     </message>
     <message id="light">
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Terang</translation>
     </message>
     <message id="dark">
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>Gelap</translation>
     </message>
     <message id="language">
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahasa</translation>
     </message>
     <message id="languageName">
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahasa Indonesia</translation>
     </message>
     <message id="fromNextStart">
         <source>Another language is spoken from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bahasa lain berlaku mulai saat aplikasi dibuka lagi.</translation>
     </message>
     <message id="measurement">
         <source>Usage figures</source>
-        <translation type="unfinished"></translation>
+        <translation>Data penggunaan</translation>
     </message>
     <message id="measurementAccept">
         <source>Send which functions are used</source>
-        <translation type="unfinished"></translation>
+        <translation>Kirim fungsi yang dipakai</translation>
     </message>
     <message id="measurementWhat">
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>Yang dikirim</translation>
     </message>
     <message id="measurementNone">
         <source>This version keeps and sends nothing about its use.</source>
-        <translation type="unfinished"></translation>
+        <translation>Versi ini tidak menyimpan dan tidak mengirim apa pun tentang penggunaannya.</translation>
     </message>
     <message id="measurementText">
         <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation type="unfinished"></translation>
+        <translation>Hanya jika kamu mengizinkannya di setelan, aplikasi menyimpan fungsi mana yang dipakai dan mengirimnya ke %1. Kamu dapat mencabut izin di sana kapan saja; yang tersimpan lalu langsung dihapus.
+
+Bersama setiap peristiwa dikirim waktunya, sebuah bilangan acak yang berganti setiap hari, serta nama dan versi aplikasi; tidak ada yang menyebut kamu atau perangkatmu. Inilah peristiwanya dan yang dikirim bersama masing-masing:</translation>
     </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>

@@ -645,57 +645,59 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="settings">
         <source>Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>設定</translation>
     </message>
     <message id="appearance">
         <source>Appearance</source>
-        <translation type="unfinished"></translation>
+        <translation>外観</translation>
     </message>
     <message id="asSystem">
         <source>System</source>
-        <translation type="unfinished"></translation>
+        <translation>システム</translation>
     </message>
     <message id="light">
         <source>Light</source>
-        <translation type="unfinished"></translation>
+        <translation>ライト</translation>
     </message>
     <message id="dark">
         <source>Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>ダーク</translation>
     </message>
     <message id="language">
         <source>Language</source>
-        <translation type="unfinished"></translation>
+        <translation>言語</translation>
     </message>
     <message id="languageName">
         <source>English</source>
-        <translation type="unfinished"></translation>
+        <translation>日本語</translation>
     </message>
     <message id="fromNextStart">
         <source>Another language is spoken from the next start on.</source>
-        <translation type="unfinished"></translation>
+        <translation>選んだ言語は次の起動から使われます。</translation>
     </message>
     <message id="measurement">
         <source>Usage figures</source>
-        <translation type="unfinished"></translation>
+        <translation>利用状況</translation>
     </message>
     <message id="measurementAccept">
         <source>Send which functions are used</source>
-        <translation type="unfinished"></translation>
+        <translation>使った機能を送信する</translation>
     </message>
     <message id="measurementWhat">
         <source>What is sent</source>
-        <translation type="unfinished"></translation>
+        <translation>送信される内容</translation>
     </message>
     <message id="measurementNone">
         <source>This version keeps and sends nothing about its use.</source>
-        <translation type="unfinished"></translation>
+        <translation>このバージョンは利用状況を記録も送信もしません。</translation>
     </message>
     <message id="measurementText">
         <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation type="unfinished"></translation>
+        <translation>設定で許可した場合にだけ、アプリはどの機能が使われたかを記録し、%1に送信します。許可は設定でいつでも取り消せます。取り消すと、記録はすぐに消去されます。
+
+各イベントとともに、その時刻、毎日変わるランダムな数、アプリの名前とバージョンが送られます。あなたや端末を特定するものは送られません。イベントと、それぞれとともに送られるものは次のとおりです：</translation>
     </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>

@@ -26,7 +26,7 @@ PACKAGING = ROOT / "packaging"
 # What is rightly the same as in English: names everywhere, and words of one language.
 SAME_EVERYWHERE = {"Tavi Solver", "OK", "Pi", "mathPi", "videoReady"}
 SAME = {
-    "de": {"Exponent", "mathPlus", "mathMinus", "chartQuadrant"},
+    "de": {"Exponent", "asSystem", "mathPlus", "mathMinus", "chartQuadrant"},
     "es": {"Base", "error", "mathFactorial"},
     "fr": {"Base", "chartQuadrant", "introduction", "mathPlus", "menuButton", "sharingFileName"},
     "id": {"mathMinus", "menuButton"},
@@ -84,8 +84,8 @@ def places(text):
     return sorted(re.findall(r"%\d?|§[a-z]*", text))
 
 
-def is_waiting(english, text):
-    return text is None or not text.is_finished or text.source not in (english, "")
+def is_waiting(english, key, text):
+    return text is None or not text.is_finished or text.source not in (english, key, "")
 
 
 def faults_of(language, key, english, translation):
@@ -129,7 +129,7 @@ def main(is_check):
             write(language, texts)
         for key, words in english.items():
             text = texts.get(key)
-            if is_waiting(words, text):
+            if is_waiting(words, key, text):
                 waiting.append(f"{language}: {key} awaits its translation: {words}")
             else:
                 faults += [f"{language}: {key} {fault}" for fault in faults_of(language, key, words, text.translation)]
