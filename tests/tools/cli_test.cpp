@@ -66,10 +66,12 @@ TEST(Cli, ExitCodesTellHowATaskEnds) {
   EXPECT_EQ(cli("solve power 10001 2 2>/dev/null").exitCode, 4);
   for (const char* wrong :
        {"", "sovle", "solve", "solve power 2", "solve cube 2 3", "solve --rwa power 2 3",
-        "solve --raw --json power 2 3", "solve --json-lines power 2 3", "display-latex x"}) {
+        "solve --raw --json power 2 3", "solve --json-lines power 2 3", "display-latex x", "exact power 2",
+        "exact cube 2 3", "exact --digits 14 power 2 3", "exact --digits 1001 power 2 3", "exact --digits",
+        "exact --json-lines power 2 3"}) {
     EXPECT_EQ(cli(std::string(wrong) + " 2>/dev/null").exitCode, 64) << wrong;
   }
-  for (const char* help : {"--help", "solve --help", "display-latex --help"}) {
+  for (const char* help : {"--help", "solve --help", "display-latex --help", "exact --help"}) {
     const Finished finished = cli(help);
     EXPECT_EQ(finished.exitCode, 0) << help;
     EXPECT_TRUE(finished.output.starts_with("Usage: tavi-cli")) << help;
@@ -102,6 +104,33 @@ TEST(Cli, AnswersJsonLineByLine) {
   const Finished finished = cli("solve --json-lines", questions);
   EXPECT_EQ(finished.exitCode, 0);
   EXPECT_EQ(finished.output, answers);
+}
+
+TEST(Cli, TellsExactValues) {
+  EXPECT_EQ(
+      cli("exact --digits 20 root 2 8/9").output,
+      "task      \\sqrt{\\frac{8}{9}}\n"
+      "value     \\frac{2\\sqrt{2}}{3}\n"
+      "kind      surd\n"
+      "decimal   0.94280904158206336587\\ldots\n"
+      "note      The root sign means the number that is not negative. The equation x^{2} = \\frac{8}{9} is "
+      "solved by two numbers: \\frac{2\\sqrt{2}}{3} and -\\frac{2\\sqrt{2}}{3}.\n");
+  EXPECT_NE(
+      cli("exact power 100 -3").output.find("digits    48: 51537752073201133103...65621272702107522001"),
+      std::string::npos);
+  const Finished rejected = cli("exact power 2 --3 2>&1");
+  EXPECT_EQ(rejected.exitCode, 2);
+  EXPECT_EQ(rejected.output, "inputParameterError xTextField\n");
+  const std::string questions = R"x({"first":"2","second":"-x/3","mode":0}
+{"first":null,"second":"-4","mode":1}
+{"first":"()","second":"-4","mode":1}
+{"first":"2","second":"3","mode":2})x";
+  const std::string answers = R"x({"latex":"\\frac{x^{2}}{9}","decimal":null,"kind":"symbolic"}
+{"latex":"\\sqrt{-4}","decimal":null,"kind":"undefined","reason":"An even root of a negative number is no real number."}
+{"errorKey":"inputParameterError","errorFieldIds":["aTextField"]}
+{"malformed":true}
+)x";
+  EXPECT_EQ(cli("exact --json-lines", questions).output, answers);
 }
 
 TEST(Cli, FiltersLinesIntoWhatIsTypeset) {

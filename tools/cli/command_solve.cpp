@@ -99,9 +99,7 @@ int solveCommand(Arguments arguments) {
   bool areOptionsOver = false;
   for (std::size_t index = 0; index < arguments.size(); ++index) {
     const std::string_view argument = arguments[index];
-    const bool isOption = !areOptionsOver && argument.starts_with("--") &&
-                          (argument.size() == 2 || (argument[2] >= 'a' && argument[2] <= 'z'));
-    if (!isOption) {
+    if (areOptionsOver || !isOption(argument)) {
       operands.emplace_back(argument);
     } else if (argument == "--") {
       areOptionsOver = true;

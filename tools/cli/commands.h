@@ -22,10 +22,14 @@ constexpr int ioError = 74;      ///< The standard streams, EX_IOERR.
 using Arguments = std::span<const std::string_view>;
 
 int solveCommand(Arguments arguments);
+int exactCommand(Arguments arguments);
 int displayLatexCommand(Arguments arguments);
 int typesetCommand(Arguments arguments);
 int renderCommand(Arguments arguments);
 int chartCommand(Arguments arguments);
+
+/// An option, and no operand such as --3.
+bool isOption(std::string_view argument);
 
 /// The mode of that name, "power" or "root".
 std::optional<Mode> readMode(std::string_view name);

@@ -19,6 +19,8 @@ struct Command {
 
 constexpr std::array commands{
     Command{"solve", "the working of a power or a root, step by step", solveCommand},
+    Command{"exact", "the value of a power or a root by the rules of mathematics, every digit proved",
+            exactCommand},
     Command{"display-latex", "filters stored lines of LaTeX into what is typeset", displayLatexCommand},
     Command{"typeset", "sets lines of LaTeX as mathematics: glyphs and rules with their places",
             typesetCommand},
@@ -55,6 +57,10 @@ int run(Arguments arguments) {
 }
 
 }  // namespace
+
+bool isOption(std::string_view argument) {
+  return argument.starts_with("--") && (argument.size() == 2 || (argument[2] >= 'a' && argument[2] <= 'z'));
+}
 
 std::optional<Mode> readMode(std::string_view name) {
   if (name == "power") return Mode::power;
