@@ -72,10 +72,9 @@ Item {
                     id: languageRow
 
                     property bool isOpen: false
-                    readonly property var chosen: page.controller.languages.find(choice => choice.code === page.controller.language) ?? page.controller.languages[0]
 
                     objectName: "languageRow"
-                    text: chosen.name
+                    text: page.controller.languageName
                     mark: isOpen ? foldIcon : unfoldIcon
                     Accessible.description: qsTrId("language")
                     Accessible.checkable: true
@@ -87,7 +86,7 @@ Item {
 
                     SettingsRow {
                         required property var modelData
-                        readonly property bool isChosen: modelData.code === languageRow.chosen.code
+                        readonly property bool isChosen: modelData.code === page.controller.language
 
                         objectName: "language " + modelData.code
                         text: modelData.name

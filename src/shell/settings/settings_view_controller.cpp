@@ -57,7 +57,12 @@ QVariantList SettingsViewController::languages() const {
 }
 
 QString SettingsViewController::language() const {
-  return services_.userDefaults.value(preferences::language);
+  const QString code = services_.userDefaults.value(preferences::language);
+  return translatedLanguages().contains(code) ? code : QString();
+}
+
+QString SettingsViewController::chosenLanguageName() const {
+  return language().isEmpty() ? localized("asSystem") : languageName(language());
 }
 
 bool SettingsViewController::isMeasuring() const {

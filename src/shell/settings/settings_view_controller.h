@@ -17,6 +17,7 @@ class SettingsViewController : public tavi::ViewController {
   Q_PROPERTY(int appearance READ appearance NOTIFY changed)
   Q_PROPERTY(QVariantList languages READ languages CONSTANT)
   Q_PROPERTY(QString language READ language NOTIFY changed)
+  Q_PROPERTY(QString languageName READ chosenLanguageName NOTIFY changed)
   Q_PROPERTY(bool canMeasure READ canMeasure CONSTANT)
   Q_PROPERTY(bool isMeasuring READ isMeasuring NOTIFY changed)
   Q_PROPERTY(QString measurementText READ sentText CONSTANT)
@@ -34,8 +35,9 @@ class SettingsViewController : public tavi::ViewController {
   int appearance() const;
   /// Of { code, name }, each under its own name; the first one, with an empty code, is the system's.
   QVariantList languages() const;
-  /// The code of the chosen one, or empty.
+  /// The code of the chosen one, or empty for the system's.
   QString language() const;
+  QString chosenLanguageName() const;
   /// Whether there is a collector; without one nothing is measured whatever the user says.
   bool canMeasure() const { return services_.measurement != nullptr; }
   bool isMeasuring() const;
