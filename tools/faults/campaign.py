@@ -101,9 +101,12 @@ def killed(home, dice, number):
     reader.join(PATIENCE)
     if home.complained():
         raise Fault(f"said: {home.complained()[:500]}")
+    if list(home.folder.rglob("*.unreadable*")):
+        raise Fault(f"after kill {number} a store could not be read")
     told = records(lines)
     now = home.stored()
-    if told and not any(follows(now, each) for each in told[-1:] + told[-12:]):
+    # The action that was under way may be seen or not; an undo brings several records back at once.
+    if told and not follows(now, told[-1]) and not (now in told and set(told[-1]) <= set(now)):
         raise Fault(f"after kill {number} the store holds {now}, told was {told[-1]}")
 
 
@@ -216,25 +219,41 @@ def taken_away(home, dice, number):
     shutil.rmtree(away, ignore_errors=True)
 
 
+def up(process):
+    """Waits for the first word of a start: whether it is up; otherwise it runs already."""
+    line = process.stdout.readline().strip()
+    if line not in ("up", "runs already"):
+        raise Fault(f"a start began with {line!r}")
+    return line == "up"
+
+
 def twice(home, dice, number):
-    """Two starts at once: one is up, the other says so and ends; where the first cannot be asked, none loses a record."""
-    isolated = number % 2 == 1
-    if isolated:
-        blocked = home.folder / "blocked"
-        blocked.write_text("no folder")
-    more = {"XDG_RUNTIME_DIR": home.folder / "blocked"} if isolated else {}
+    """The second start lets the first go on and ends. Where the first cannot answer, both go on and none loses what it adds."""
     shutil.rmtree(home.data, ignore_errors=True)
     home.run("--agree", "--fill", 3, "--actions", 1)
-    first = home.start("--agree", "--seed", number, "--actions", 400)
-    time.sleep(dice.uniform(0, 0.2))
-    second = home.start("--agree", "--seed", number + 1, "--actions", 40)
-    said = [process.communicate(timeout=PATIENCE)[0].splitlines() for process in (first, second)]
-    if first.returncode or second.returncode:
+    before = set(home.stored())
+    cannot_answer = number % 2 == 1
+    first = home.start("--agree", "--seed", number, "--actions", 300)
+    try:
+        if not up(first):
+            raise Fault("the first start runs already")
+        if cannot_answer:
+            first.send_signal(signal.SIGSTOP)
+        second = home.start("--agree", "--seed", number + 1, "--actions", 100)
+        if up(second) != cannot_answer:
+            raise Fault(f"the second start {'ended' if cannot_answer else 'came up'}")
+        if cannot_answer:
+            first.send_signal(signal.SIGCONT)
+        said = [process.communicate(timeout=PATIENCE)[0].splitlines() for process in (first, second)]
+    finally:
+        first.kill()
+    if second.returncode or first.returncode:
         raise Fault(f"ended with {first.returncode} and {second.returncode}: {home.complained()[-2000:]}")
-    ups = sum("up" in lines for lines in said)
-    if not isolated and ups != 1 and "runs already" not in said[0] + said[1] and ups != 2:
-        raise Fault(f"{ups} of two starts came up")
-    home.stored()
+    stored = set(home.stored())
+    for lines in said:
+        added = set((records(lines) or [[]])[-1]) - before
+        if not added <= stored:
+            raise Fault(f"{len(added - stored)} records of one of two processes are lost")
 
 
 def monkey(home, dice, number, actions):
@@ -247,7 +266,11 @@ def monkey(home, dice, number, actions):
     if untold:
         raise Fault(untold[0])
     settled, end = next(map(int, line.split()[1:]) for line in lines if line.startswith("memory"))
-    return f"{actions} actions, memory {(end - settled) / 1024:+.1f} MB after the first tenth"
+    grown = (end - settled) / 1024
+    # The sanitizers keep what was freed; a short run has not opened everything in its first tenth.
+    if home.build.name == "release" and actions >= 10_000 and grown > 8:
+        raise Fault(f"memory grew by {grown:.1f} MB")
+    return f"{actions} actions, memory {grown:+.1f} MB after the first tenth"
 
 
 class Service(http.server.BaseHTTPRequestHandler):
@@ -348,7 +371,7 @@ def campaign(minutes, builds):
                 except (Fault, subprocess.TimeoutExpired) as fault:
                     is_clean, outcome = False, f"FAULT: {fault}"
                 row(build, name, times, outcome)
-        # What the dice do in a second is taken as a measure; only a long run settles before it is compared.
+        # Sixty actions a second are few, so that this part keeps its share of the time on a slow machine, too.
         actions = max(200, min(100_000, int(share * 0.15 * 60)))
         with tempfile.TemporaryDirectory() as folder:
             try:

@@ -251,6 +251,8 @@ int go(int argumentCount, char** arguments) {
   Analytics::setSink([](const AnalyticsEvent& event) {
     if (!isTold(event)) say(QStringLiteral("not in the vocabulary: ") + event.name);
   });
+  // Otherwise the first start would leave its sample task alone in the history.
+  CalcManager::shared().runFirstStartStep();
   for (int record = 0; record < parser.value("fill").toInt(); ++record)
     CalcManager::shared().addCalculation({{}, QString::number(record), {}, {}});
   return play(application,
