@@ -94,6 +94,10 @@ DTTextFieldItem {
             isCutRight = positionToRectangle(text.length).x > width - leftPadding - rightPadding + 1;
         }
 
+        function findEdgesLater() {
+            Qt.callLater(findEdges); // qmllint disable
+        }
+
         function askForMenu() {
             field.menuRequested(Qt.point(cursorRectangle.x, height));
         }
@@ -143,8 +147,8 @@ DTTextFieldItem {
                 field.select(selectionStart, selectionEnd);
             isSynchronizing = false;
         }
-        onCursorRectangleChanged: Qt.callLater(findEdges) // It tells before it scrolls.
-        onWidthChanged: Qt.callLater(findEdges)
+        onCursorRectangleChanged: findEdgesLater() // It tells before it scrolls.
+        onWidthChanged: findEdgesLater()
         onCursorPositionChanged: report()
         onSelectionStartChanged: report()
         onSelectionEndChanged: report()

@@ -64,15 +64,16 @@ Rectangle {
         id: segmentName
 
         Text {
-            readonly property Loader place: parent
+            readonly property var segment: parent
 
-            text: place.name
+            text: segment.name
             font: Theme.medium(15)
             fontSizeMode: Text.HorizontalFit
             minimumPixelSize: 10
-            color: place.color
+            color: segment.color
             horizontalAlignment: Text.AlignHCenter
             verticalAlignment: Text.AlignVCenter
+            Accessible.ignored: true
         }
     }
 

@@ -21,7 +21,12 @@ Item {
     readonly property int raise: height - largeHeight
 
     // Of those that are seen, the first one with something wrong.
-    readonly property DTTextField faultyField: [baseField, exponentField, indexField, radicandField].find(field => field.parent.visible && field.faultWords !== "") ?? null
+    readonly property DTTextField faultyField: {
+        for (const field of [baseField, exponentField, indexField, radicandField])
+            if (field.parent.visible && field.faultWords !== "")
+                return field;
+        return null;
+    }
 
     // Where typing may begin, while no field is chosen.
     readonly property DTTextField invitingField: controller.isTypingPossible ? null : powerFields.visible ? baseField : radicandField

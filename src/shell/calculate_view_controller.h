@@ -24,6 +24,7 @@ namespace tavi {
 /// What stands typed, as it is shown beside the fields.
 struct TaskPreview {
   Q_GADGET
+  QML_ANONYMOUS
   Q_PROPERTY(QString latex MEMBER latex)
   Q_PROPERTY(QString hint MEMBER hint)
   Q_PROPERTY(bool isReadable MEMBER isReadable)

@@ -42,14 +42,11 @@ Column {
             width: parent.width - 48
             selectedSegmentIndex: page.controller.format
             segments: [{
-                    "name": qsTrId("sharingPicture"),
-                    "picture": pictureName
+                    "name": qsTrId("sharingPicture")
                 }, {
-                    "name": "PDF",
-                    "picture": pdfName
+                    "name": "PDF"
                 }, {
-                    "name": "SVG",
-                    "picture": svgName
+                    "name": "SVG"
                 }]
             onValueChanged: index => page.controller.format = index
         }
@@ -92,37 +89,6 @@ Column {
         text: qsTrId("Cancel")
         iconText: Icons.close
         onClicked: page.controller.cancel()
-    }
-
-    component FormatName: Text {
-        readonly property var segment: parent
-
-        font: Theme.medium(14)
-        color: segment.color
-        horizontalAlignment: Text.AlignHCenter
-        verticalAlignment: Text.AlignVCenter
-        Accessible.ignored: true
-    }
-    Component {
-        id: pictureName
-
-        FormatName {
-            text: qsTrId("sharingPicture")
-        }
-    }
-    Component {
-        id: pdfName
-
-        FormatName {
-            text: "PDF"
-        }
-    }
-    Component {
-        id: svgName
-
-        FormatName {
-            text: "SVG"
-        }
     }
 
     component SheetRow: Pressable {
