@@ -523,6 +523,10 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>Saved as %1</source>
         <translation>Gespeichert unter %1</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>Zeigen</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>Kopiert</translation>

@@ -523,6 +523,10 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <source>Saved as %1</source>
         <translation>Guardado como %1</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>Copiado</translation>

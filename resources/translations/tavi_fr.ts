@@ -523,6 +523,10 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <source>Saved as %1</source>
         <translation>Enregistré sous %1</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>Afficher</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>Copié</translation>

@@ -523,6 +523,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Saved as %1</source>
         <translation>%1 के रूप में सहेजा गया</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>दिखाएँ</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>कॉपी किया गया</translation>

@@ -523,6 +523,10 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <source>Saved as %1</source>
         <translation>Disimpan sebagai %1</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>Tampilkan</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>Disalin</translation>

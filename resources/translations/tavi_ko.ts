@@ -523,6 +523,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Saved as %1</source>
         <translation>%1에 저장했습니다</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>보기</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>복사했습니다</translation>

@@ -523,6 +523,10 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <source>Saved as %1</source>
         <translation>Salvo como %1</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>Mostrar</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>Copiado</translation>

@@ -523,6 +523,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Saved as %1</source>
         <translation>已保存为 %1</translation>
     </message>
+    <message id="sharingShow">
+        <source>Show</source>
+        <translation>查看</translation>
+    </message>
     <message id="sharingCopied">
         <source>Copied</source>
         <translation>已复制</translation>

@@ -198,9 +198,15 @@ TEST_F(ShareSheetTest, OneTapSavesUnderASpeakingNameThatIsFree) {
   const QDir pictures(QStandardPaths::writableLocation(QStandardPaths::PicturesLocation));
   ASSERT_TRUE(pictures.path().startsWith(folder.path()) && pictures.mkpath("."));
   const QString name = localized("sharingFileName") + " 3 over 2 to the power of minus 2";
+  QUrl opened;
+  Links links;
+  links.setHandler({}, [&opened](const QUrl& file) {
+    opened = file;
+    return false;
+  });
   for (const QString& ending : {QString(), QStringLiteral(" (2)")}) {
     const QString path = pictures.filePath(name + ending + ".png");
-    ShareSheetController sheet({.picture = picture, .subject = "3 over 2, to the power of: minus 2"});
+    ShareSheetController sheet({.picture = picture, .subject = "3 over 2, to the power of: minus 2"}, links);
     EXPECT_EQ(sheet.proposedFile().toLocalFile(), path);
     sheet.save();
     waitUntilWritten(sheet);
@@ -208,6 +214,9 @@ TEST_F(ShareSheetTest, OneTapSavesUnderASpeakingNameThatIsFree) {
     EXPECT_TRUE(ViewManager::shared().toastText().contains(localized("sharingSaved").section('%', 0, 0)))
         << "says where";
   }
+  ViewManager::chooseToastAction();
+  EXPECT_EQ(opened, QUrl::fromLocalFile(pictures.filePath(name + " (2).png")));
+  EXPECT_EQ(ViewManager::shared().toastText(), localized("sharingNoViewer")) << "nothing shows it";
   const QString longName =
       ShareSheetController({.picture = picture, .subject = QString("word ").repeated(100)})
           .proposedFile()

@@ -19,7 +19,6 @@
 #include "platform/localization.h"
 #include "platform/picture_file.h"
 #include "shell/frame/detached_task.h"
-#include "shell/frame/view_manager.h"
 #include "solution/share/working_copies.h"
 
 namespace tavi {
@@ -112,8 +111,12 @@ void ShareSheetController::saveAs(const QUrl& file) {
   if (path.isEmpty()) return setState(false, localized("sharingNotWritable"));
   const QLatin1StringView ending = fileKind(format_).ending;
   if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
-  detached(
-      write(path, [this, path] { goWith(localized("sharingSaved").arg(QDir::toNativeSeparators(path))); }));
+  detached(write(path, [this, path] {
+    const auto show = [&links = links_, path] {
+      if (!links.openFile(path)) ViewManager::showToast(localized("sharingNoViewer"));
+    };
+    goWith(localized("sharingSaved").arg(QDir::toNativeSeparators(path)), {localized("sharingShow"), show});
+  }));
 }
 
 void ShareSheetController::copy() {
@@ -179,9 +182,9 @@ void ShareSheetController::setState(bool isBusy, const QString& failure) {
   emit changed();
 }
 
-void ShareSheetController::goWith(const QString& toast) {
+void ShareSheetController::goWith(const QString& toast, ToastAction action) {
   close();
-  ViewManager::showToast(toast);
+  ViewManager::showToast(toast, std::move(action));
 }
 
 }  // namespace tavi

@@ -8,6 +8,7 @@
 
 #include "platform/links.h"
 #include "shell/frame/view_controller.h"
+#include "shell/frame/view_manager.h"
 #include "solution/rows/solution_row.h"
 
 namespace tavi {
@@ -82,7 +83,7 @@ class ShareSheetController : public tavi::ViewController {
   std::function<QByteArray()> bytes() const;
   QCoro::Task<> write(QString path, std::function<void()> whenWritten);
   void setState(bool isBusy, const QString& failure);
-  void goWith(const QString& toast);
+  void goWith(const QString& toast, ToastAction action = {});
 
   SharedWorking working_;
   const Links& links_;
