@@ -236,6 +236,14 @@ bool PreferenceStore::removeElement(const Preference<QVariantList>& preference, 
   return report(preference.key, write(removeOne, preference.key, {}, number));
 }
 
+bool PreferenceStore::removeElements(const Preference<QVariantList>& preference,
+                                     const QList<qlonglong>& numbers) {
+  return together(preference.key, [&] {
+    return std::ranges::all_of(
+        numbers, [&](qlonglong number) { return write(removeOne, preference.key, {}, number); });
+  });
+}
+
 void PreferenceStore::setAside(const QString& key) {
   if (!contains(key)) return;
   QString aside;

@@ -105,7 +105,8 @@ class PreferenceStore {
   std::optional<qlonglong> prependElement(const Preference<QVariantList>& preference, const QVariant& value);
   bool replaceElement(const Preference<QVariantList>& preference, const Element& element);
   bool removeElement(const Preference<QVariantList>& preference, qlonglong number);
-  /// Puts back, under their numbers, elements that were removed.
+  bool removeElements(const Preference<QVariantList>& preference, const QList<qlonglong>& numbers);
+  /// Puts in, under their numbers, elements that were removed or that go behind all others.
   bool restoreElements(const Preference<QVariantList>& preference, qsizetype count,
                        const std::function<Element(qsizetype)>& element);
 

@@ -1,10 +1,12 @@
 #include "shell/calc_manager.h"
 
 #include <QDateTime>
+#include <QHash>
 #include <algorithm>
 #include <functional>
 
 #include "number/fatal_stop.h"
+#include "platform/preference_codec.h"
 #include "platform/preferences.h"
 
 namespace tavi {
@@ -49,9 +51,9 @@ void CalcManager::addCalculation(const Calculation& calculation) {
   });
 }
 
-RemovedCalculations CalcManager::removeCalculation(qsizetype index) {
+StoredCalculations CalcManager::removeCalculation(qsizetype index) {
   requireIndex(index);
-  const RemovedCalculation removed{numbers_.takeAt(index), calculations_.takeAt(index)};
+  const StoredCalculation removed{numbers_.takeAt(index), calculations_.takeAt(index)};
   save([&] { return userDefaults_.removeElement(preferences::calculations, removed.number); });
   return {removed};
 }
@@ -73,8 +75,8 @@ void CalcManager::replace(qsizetype index, const Calculation& calculation) {
   });
 }
 
-RemovedCalculations CalcManager::clearCalculations() {
-  RemovedCalculations removed;
+StoredCalculations CalcManager::clearCalculations() {
+  StoredCalculations removed;
   removed.reserve(calculations_.size());
   for (qsizetype i = 0; i < calculations_.size(); ++i) removed.append({numbers_[i], calculations_[i]});
   calculations_.clear();
@@ -82,9 +84,9 @@ RemovedCalculations CalcManager::clearCalculations() {
   return removed;
 }
 
-qsizetype CalcManager::restoreCalculations(const RemovedCalculations& removed) {
+qsizetype CalcManager::restoreCalculations(const StoredCalculations& removed) {
   qsizetype first = calculations_.size();
-  for (const RemovedCalculation& each : removed) {
+  for (const StoredCalculation& each : removed) {
     const auto place = std::ranges::lower_bound(numbers_, each.number, std::greater());
     const qsizetype index = place - numbers_.begin();
     numbers_.insert(index, each.number);
@@ -97,6 +99,38 @@ qsizetype CalcManager::restoreCalculations(const RemovedCalculations& removed) {
     });
   });
   return first;
+}
+
+StoredCalculations CalcManager::appendCalculations(const QList<Calculation>& calculations) {
+  const auto identity = [](const Calculation& each) { return encodePreference(each.properties()); };
+  QHash<QByteArray, qsizetype> present;
+  for (const Calculation& each : calculations_) ++present[identity(each)];
+  StoredCalculations appended;
+  // Below all numbers that the store gives by itself, and so below those of what could be put back, too.
+  qlonglong number = std::min<qlonglong>(numbers_.isEmpty() ? 0 : numbers_.last(), 1);
+  for (const Calculation& each : calculations) {
+    qsizetype& known = present[identity(each)];
+    if (known > 0)
+      --known;
+    else
+      appended.append({--number, each});
+  }
+  if (!appended.isEmpty()) restoreCalculations(appended);
+  return appended;
+}
+
+void CalcManager::withdrawCalculations(const StoredCalculations& appended) {
+  QList<qlonglong> numbers;
+  for (auto each = appended.rbegin(); each != appended.rend(); ++each) {  // The last ones go the fastest.
+    const auto place = std::ranges::lower_bound(numbers_, each->number, std::greater());
+    const qsizetype index = place - numbers_.begin();
+    if (place == numbers_.end() || *place != each->number || calculations_[index] != each->calculation)
+      continue;
+    numbers_.removeAt(index);
+    calculations_.removeAt(index);
+    numbers.append(each->number);
+  }
+  save([&] { return userDefaults_.removeElements(preferences::calculations, numbers); });
 }
 
 void CalcManager::setCurrentCalculation(std::optional<Calculation> calculation) {

@@ -21,12 +21,12 @@ class Persistable {
   virtual void saveCalculations() = 0;
 };
 
-/// What was taken out of the history, so that it can be put back where it stood.
-struct RemovedCalculation {
-  qlonglong number;  ///< Of the record in the store.
+/// A record by its place in the store, so that what was taken out can be put back where it stood.
+struct StoredCalculation {
+  qlonglong number;  ///< Falls from each record to the next.
   Calculation calculation;
 };
-using RemovedCalculations = QList<RemovedCalculation>;
+using StoredCalculations = QList<StoredCalculation>;
 
 /// What the user has calculated: the history, newest first, the snapshot of the fields and the record picked
 /// for reopening. Each change is written at once; what cannot be written is kept until the process ends. Of
@@ -34,6 +34,9 @@ using RemovedCalculations = QList<RemovedCalculation>;
 class CalcManager final : public Persistable {
  public:
   static CalcManager& shared();
+
+  /// Posted by whoever has put something back into the history, or behind it.
+  static constexpr QLatin1StringView didRestoreCalculations{"didRestoreCalculations"};
 
   /// Loads what the store holds; a list of another shape than ours is set aside and replaced by an empty one.
   explicit CalcManager(PreferenceStore& userDefaults);
@@ -51,16 +54,23 @@ class CalcManager final : public Persistable {
   /// Puts the record in front of the others.
   void addCalculation(const Calculation& calculation);
 
-  RemovedCalculations removeCalculation(qsizetype index);
+  StoredCalculations removeCalculation(qsizetype index);
 
   /// Exchanges two records, and nothing between them. Saves after each half.
   void swapCalculations(qsizetype first, qsizetype second);
 
   /// Empties the history; snapshot and picked record stay.
-  RemovedCalculations clearCalculations();
+  StoredCalculations clearCalculations();
 
   /// Puts records back where they stood, newer ones before them; the index of the first of them.
-  qsizetype restoreCalculations(const RemovedCalculations& removed);
+  qsizetype restoreCalculations(const StoredCalculations& removed);
+
+  /// Puts records behind the others, and tells where: all of them but those that are in the history already,
+  /// each as often as it stands there.
+  StoredCalculations appendCalculations(const QList<Calculation>& calculations);
+
+  /// Undoes that, except for those whose place another record has taken meanwhile.
+  void withdrawCalculations(const StoredCalculations& appended);
 
   /// Snapshot of the fields, for the length of one run: it is not written.
   const std::optional<Calculation>& currentCalculation() const { return currentCalculation_; }

@@ -95,6 +95,7 @@ void CalculateViewController::recordCalculation(const std::vector<std::string>& 
   }
   calculation.setupParameter = {{modeKey, qlonglong{mode()}}, {"appKey", "QRX"}};
   calculation.latexString = qString(latex);
+  calculation.calculatedAt = QDateTime::currentDateTimeUtc();
   store_.addCalculation(calculation);
 }
 

@@ -10,6 +10,7 @@ const QString inputParametersKey = QStringLiteral("inputParameters");
 const QString latexStringKey = QStringLiteral("latexString");
 const QString solutionStepsKey = QStringLiteral("solutionSteps");
 const QString setupParameterKey = QStringLiteral("setupParameter");
+const QString calculatedAtKey = QStringLiteral("calculatedAt");
 
 bool isText(const QVariant& value) {
   return value.typeId() == QMetaType::QString;
@@ -52,16 +53,20 @@ Calculation::Calculation(const QVariantMap& properties)
   if (const QVariant latex = properties.value(latexStringKey); isText(latex)) latexString = latex.toString();
   if (const QVariant setup = properties.value(setupParameterKey); isMap(setup))
     setupParameter = setup.toMap();
+  if (const QVariant date = properties.value(calculatedAtKey); date.typeId() == QMetaType::QDateTime)
+    calculatedAt = date.toDateTime();
 }
 
 QVariantMap Calculation::properties() const {
   QVariantMap inputs;
   for (auto entry = inputParameters.begin(); entry != inputParameters.end(); ++entry)
     inputs.insert(entry.key(), *entry);
-  return {{inputParametersKey, inputs},
-          {latexStringKey, latexString},
-          {solutionStepsKey, QVariantList(solutionSteps.begin(), solutionSteps.end())},
-          {setupParameterKey, setupParameter}};
+  QVariantMap properties{{inputParametersKey, inputs},
+                         {latexStringKey, latexString},
+                         {solutionStepsKey, QVariantList(solutionSteps.begin(), solutionSteps.end())},
+                         {setupParameterKey, setupParameter}};
+  if (calculatedAt.isValid()) properties.insert(calculatedAtKey, calculatedAt);
+  return properties;
 }
 
 }  // namespace tavi

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QList>
 #include <QMap>
 #include <QString>
@@ -22,6 +23,7 @@ struct Calculation {
   QString latexString;               ///< The task, as the history shows it.
   QList<QVariantMap> solutionSteps;  ///< Empty in every record written here.
   QVariantMap setupParameter;  ///< "inputCalculationSelection": mode, "appKey": text; empty in a snapshot.
+  QDateTime calculatedAt;      ///< UTC, to the millisecond; invalid where it is not known.
 
   Calculation() = default;
   Calculation(QMap<QString, QString> inputs, QString latex, QList<QVariantMap> steps, QVariantMap setup);
@@ -29,6 +31,7 @@ struct Calculation {
   /// Takes each field that is present with exactly its type; the others keep their defaults.
   explicit Calculation(const QVariantMap& properties);
 
+  /// The moment only where it is known: records without one are those of earlier versions.
   QVariantMap properties() const;
 
   bool operator==(const Calculation&) const = default;

@@ -85,20 +85,59 @@ TEST_F(CalcManagerTest, ASwapSavesAfterEachHalf) {
 TEST_F(CalcManagerTest, WhatWasRemovedCanBePutBackWhereItStood) {
   CalcManager manager(store_);
   for (const char* name : {"D", "C", "B", "A"}) manager.addCalculation(named(name));
-  const RemovedCalculations newest = manager.removeCalculation(0);
-  const RemovedCalculations middle = manager.removeCalculation(1);
+  const StoredCalculations newest = manager.removeCalculation(0);
+  const StoredCalculations middle = manager.removeCalculation(1);
   manager.addCalculation(named("E"));
   EXPECT_EQ(manager.restoreCalculations(middle), 2);
   EXPECT_EQ(manager.restoreCalculations(newest), 1);
   EXPECT_EQ(order(manager), "EABCD");
   EXPECT_EQ(storedOrder(), "EABCD");
 
-  const RemovedCalculations all = manager.clearCalculations();
+  const StoredCalculations all = manager.clearCalculations();
   manager.addCalculation(named("F"));
   EXPECT_EQ(manager.restoreCalculations(all), 1);
   manager.swapCalculations(1, 2);
   EXPECT_EQ(order(manager), "FAEBCD");
   EXPECT_EQ(storedOrder(), "FAEBCD");
+}
+
+TEST_F(CalcManagerTest, TheMomentOfARecordStandsBesideItsFields) {
+  Calculation dated = named("A");
+  EXPECT_FALSE(dated.properties().contains("calculatedAt")) << "an earlier version's record stays as it is";
+  dated.calculatedAt = QDateTime::fromMSecsSinceEpoch(1764063147123, Qt::UTC);
+  CalcManager manager(store_);
+  for (const Calculation& each : {named("B"), dated}) manager.addCalculation(each);
+  EXPECT_EQ(CalcManager(store_).calculations(), QList({dated, named("B")}));
+  manager.swapCalculations(0, 1);
+  EXPECT_EQ(CalcManager(store_).calculations(), QList({named("B"), dated})) << "it goes with its record";
+
+  for (const char* bad : {"1764063147123", "\"today\"", "null", R"({"$date":"1"})", R"({"$date":1.5})"}) {
+    runSql(path_, QByteArray("UPDATE elements SET value = json_set(value, '$[0].calculatedAt', json('") +
+                      bad + "')) WHERE value LIKE '%\"A\"%'");
+    PreferenceStore again(path_);
+    EXPECT_EQ(CalcManager(again).calculations(), QList({named("B"), named("A")})) << bad;
+  }
+}
+
+TEST_F(CalcManagerTest, AppendsWhatIsNotThereYetAndWithdrawsIt) {
+  CalcManager manager(store_);
+  for (const char* name : {"B", "A"}) manager.addCalculation(named(name));
+  const StoredCalculations removed = manager.removeCalculation(1);
+  const QList<Calculation> others{named("C"), named("A"), named("C"), named("D")};
+  const StoredCalculations appended = manager.appendCalculations(others);
+  EXPECT_EQ(storedOrder(), "ACCD") << "A is there; C stands twice in what is appended";
+  EXPECT_TRUE(manager.appendCalculations(others).isEmpty());
+  EXPECT_EQ(manager.restoreCalculations(removed), 1);
+  EXPECT_EQ(storedOrder(), "ABCCD");
+
+  manager.addCalculation(named("E"));
+  manager.swapCalculations(0, 5);
+  EXPECT_EQ(storedOrder(), "DABCCE");
+  manager.withdrawCalculations(appended);
+  EXPECT_EQ(order(manager), "DABE") << "a place that another record has taken is left alone";
+  EXPECT_EQ(storedOrder(), "DABE");
+  EXPECT_EQ(manager.appendCalculations(others).size(), 2);
+  EXPECT_EQ(storedOrder(), "DABECC");
 }
 
 TEST_F(CalcManagerTest, OfTwoProcessesNeitherLosesWhatTheOtherKeeps) {

@@ -78,7 +78,7 @@ void HistoryTableViewController::moveRow(int from, int to) {
 void HistoryTableViewController::commitEditingStyle(EditingStyle style, int row) {
   if (style != EditingStyle::Delete) return;
   Analytics::logEvent(events::tappedHistoryDeleteSingleCalc);
-  const RemovedCalculations removed = store_.removeCalculation(row);
+  const StoredCalculations removed = store_.removeCalculation(row);
   table_.remove(row);
   offerUndo(localized("historyDeleted"), removed);
 }
@@ -122,12 +122,12 @@ void HistoryTableViewController::handleClearAllButton() {
 void HistoryTableViewController::clear() {
   Analytics::logEvent(events::tappedHistoryClear,
                       QVariantMap{{QStringLiteral("calc_count"), qlonglong{store_.calculations().size()}}});
-  const RemovedCalculations removed = store_.clearCalculations();
+  const StoredCalculations removed = store_.clearCalculations();
   table_.reload(numberOfRowsInSection(0));
   if (!removed.isEmpty()) offerUndo(localized("historyCleared"), removed);
 }
 
-void HistoryTableViewController::offerUndo(const QString& text, const RemovedCalculations& removed) {
+void HistoryTableViewController::offerUndo(const QString& text, const StoredCalculations& removed) {
   const auto undo = [page = QPointer(this), &store = store_, &notifications = notifications_, removed] {
     const auto row = static_cast<int>(store.restoreCalculations(removed));
     if (page && removed.size() == 1) page->showRestored(row);

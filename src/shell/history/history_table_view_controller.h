@@ -83,7 +83,7 @@ class HistoryTableViewController : public tavi::ViewController {
 
   std::shared_ptr<ToolbarButton> makeButton(const char* title, const char* icon, Handler handler);
   void clear();
-  void offerUndo(const QString& text, const RemovedCalculations& removed);
+  void offerUndo(const QString& text, const StoredCalculations& removed);
   void showRestored(int row);
 
   CalcManager& store_;
