@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Aufgabe ohne Formel</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Verlauf durchsuchen</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Suche leeren</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Gefunden: %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>Keine Aufgabe im Verlauf passt dazu.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Heute</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Gestern</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Früher</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Wie eingegeben kopieren</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>Mehr</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Verlauf exportieren</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Verlauf importieren</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Importierte Aufgaben: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>Alle diese Aufgaben stehen schon im Verlauf.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>Diese Datei kann nicht gelesen werden. Es wurde nichts geändert.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>Diese Datei ist zu groß für einen Verlauf. Es wurde nichts geändert.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>Diese Datei enthält keinen Verlauf dieser App oder ist beschädigt. Es wurde nichts geändert.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>Im Ordner %1 liegt keine Datei mit einem Verlauf. Lege sie dort ab und versuche es noch einmal.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Gerade kann nichts gespeichert werden. Dein Verlauf bleibt, bis du die App schließt.</translation>
@@ -532,8 +600,8 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Kopiert</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>Für das Bild ist nicht genug Platz. Schaffe Platz oder wähle einen anderen Ort; es wurde nichts gespeichert.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>Für die Datei ist nicht genug Platz. Schaffe Platz oder wähle einen anderen Ort; es wurde nichts gespeichert.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Calculation without a formula</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Search the history</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Clear the search</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Found: %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>No task in the history fits that.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Today</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Yesterday</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Earlier</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Copy as typed</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>More</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Export the history</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Import a history</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Tasks imported: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>All of these tasks are in the history already.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>This file cannot be read. Nothing was changed.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>This file is too large for a history. Nothing was changed.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>This file holds no history of this app, or it is damaged. Nothing was changed.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>There is no history file in the folder %1. Put one there and try again.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Nothing can be saved at the moment. Your history lasts until you close the app.</translation>
@@ -532,8 +600,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Copied</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>There is not enough room for the picture. Make room or choose another place; nothing was saved.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>There is not enough room for the file. Make room or choose another place; nothing was saved.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

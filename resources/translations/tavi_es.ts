@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Cálculo sin fórmula</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Buscar en el historial</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Borrar la búsqueda</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Encontrados: %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>Ningún cálculo del historial coincide.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Hoy</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Ayer</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Antes</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Copiar como se escribió</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>Más</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Exportar el historial</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Importar un historial</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Cálculos importados: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>Todos estos cálculos ya están en el historial.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>Este archivo no se puede leer. No se ha cambiado nada.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>Este archivo es demasiado grande para un historial. No se ha cambiado nada.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>Este archivo no contiene un historial de esta app o está dañado. No se ha cambiado nada.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>En la carpeta %1 no hay ningún archivo de historial. Pon uno ahí e inténtalo de nuevo.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Ahora no se puede guardar nada. Tu historial dura hasta que cierres la aplicación.</translation>
@@ -532,8 +600,8 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <translation>Copiado</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>No hay espacio suficiente para la imagen. Haz sitio o elige otro lugar; no se ha guardado nada.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>No hay espacio suficiente para el archivo. Haz sitio o elige otro lugar; no se ha guardado nada.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

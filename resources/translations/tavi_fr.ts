@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Calcul sans formule</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Chercher dans l’historique</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Effacer la recherche</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Trouvés : %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>Aucun calcul de l’historique ne correspond.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Aujourd’hui</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Hier</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Plus tôt</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Copier tel que saisi</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>Plus</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Exporter l’historique</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Importer un historique</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Calculs importés : %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>Tous ces calculs sont déjà dans l’historique.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>Ce fichier ne peut pas être lu. Rien n’a été changé.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>Ce fichier est trop grand pour un historique. Rien n’a été changé.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>Ce fichier ne contient pas d’historique de cette app, ou il est abîmé. Rien n’a été changé.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>Il n’y a pas de fichier d’historique dans le dossier %1. Mets-en un là et réessaie.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Rien ne peut être enregistré pour le moment. Ton historique reste jusqu’à ce que tu fermes l’appli.</translation>
@@ -532,8 +600,8 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <translation>Copié</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>Il n’y a pas assez de place pour l’image. Fais de la place ou choisis un autre endroit ; rien n’a été enregistré.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>Il n’y a pas assez de place pour le fichier. Fais de la place ou choisis un autre endroit ; rien n’a été enregistré.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>बिना सूत्र का प्रश्न</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>इतिहास में खोजें</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>खोज मिटाएँ</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>%1 मिले</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>इतिहास में ऐसा कोई प्रश्न नहीं है।</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>आज</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>कल</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>पहले</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>जैसा लिखा वैसा कॉपी करें</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>और</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>इतिहास निर्यात करें</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>इतिहास आयात करें</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>आयात किए गए प्रश्न: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>ये सभी प्रश्न इतिहास में पहले से हैं।</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>यह फ़ाइल पढ़ी नहीं जा सकती। कुछ भी बदला नहीं गया।</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>यह फ़ाइल इतिहास के लिए बहुत बड़ी है। कुछ भी बदला नहीं गया।</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>इस फ़ाइल में इस ऐप का इतिहास नहीं है, या यह ख़राब है। कुछ भी बदला नहीं गया।</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>फ़ोल्डर %1 में इतिहास की कोई फ़ाइल नहीं है। वहाँ फ़ाइल रखें और फिर कोशिश करें।</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>अभी कुछ सहेजा नहीं जा सकता। आपका इतिहास ऐप बंद होने तक रहेगा।</translation>
@@ -532,8 +600,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>कॉपी किया गया</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>चित्र के लिए पर्याप्त जगह नहीं है। जगह बनाएँ या कोई और स्थान चुनें; कुछ भी सहेजा नहीं गया।</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>फ़ाइल के लिए पर्याप्त जगह नहीं है। जगह बनाएँ या कोई और स्थान चुनें; कुछ भी सहेजा नहीं गया।</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

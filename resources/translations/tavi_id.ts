@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Perhitungan tanpa rumus</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Cari di riwayat</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Kosongkan pencarian</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Ditemukan: %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>Tidak ada perhitungan di riwayat yang cocok.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Hari ini</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Kemarin</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Sebelumnya</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Salin seperti diketik</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>Lainnya</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Ekspor riwayat</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Impor riwayat</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Perhitungan diimpor: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>Semua perhitungan ini sudah ada di riwayat.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>Berkas ini tidak bisa dibaca. Tidak ada yang diubah.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>Berkas ini terlalu besar untuk riwayat. Tidak ada yang diubah.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>Berkas ini tidak berisi riwayat aplikasi ini, atau rusak. Tidak ada yang diubah.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>Tidak ada berkas riwayat di folder %1. Taruh berkasnya di sana dan coba lagi.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Saat ini tidak ada yang dapat disimpan. Riwayatmu bertahan sampai aplikasi ditutup.</translation>
@@ -532,8 +600,8 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <translation>Disalin</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>Tempat untuk gambar tidak cukup. Kosongkan tempat atau pilih yang lain; belum ada yang disimpan.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>Tempat untuk berkas tidak cukup. Kosongkan tempat atau pilih yang lain; belum ada yang disimpan.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

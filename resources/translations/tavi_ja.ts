@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>式のない計算</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>履歴を検索</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>検索をクリア</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>%1件見つかりました</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>履歴に当てはまる計算はありません。</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>今日</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>昨日</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>以前</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>入力どおりにコピー</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>その他</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>履歴を書き出す</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>履歴を読み込む</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>%1件の計算を読み込みました</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>これらの計算はすべて履歴にあります。</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>このファイルを読めません。何も変更されていません。</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>このファイルは履歴としては大きすぎます。何も変更されていません。</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>このファイルはこのアプリの履歴ではないか、壊れています。何も変更されていません。</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>フォルダー %1 に履歴のファイルがありません。そこに置いて、もう一度お試しください。</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>今は保存できません。履歴はアプリを閉じるまで残ります。</translation>
@@ -532,8 +600,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>コピーしました</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>画像を保存する空きがありません。空きを作るか別の場所を選んでください。何も保存されていません。</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>ファイルを保存する空きがありません。空きを作るか別の場所を選んでください。何も保存されていません。</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

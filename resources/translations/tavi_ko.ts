@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>식이 없는 계산</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>기록 검색</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>검색 지우기</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>%1개 찾음</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>기록에 맞는 계산이 없습니다.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>오늘</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>어제</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>이전</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>입력한 대로 복사</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>더 보기</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>기록 내보내기</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>기록 가져오기</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>계산 %1개를 가져왔습니다</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>이 계산은 모두 이미 기록에 있습니다.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>이 파일을 읽을 수 없습니다. 바뀐 것은 없습니다.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>이 파일은 기록이라기에는 너무 큽니다. 바뀐 것은 없습니다.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>이 파일은 이 앱의 기록이 아니거나 손상되었습니다. 바뀐 것은 없습니다.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>%1 폴더에 기록 파일이 없습니다. 그곳에 파일을 넣고 다시 해 보세요.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>지금은 저장할 수 없습니다. 기록은 앱을 닫을 때까지 남아 있습니다.</translation>
@@ -532,8 +600,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>복사했습니다</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>그림을 저장할 공간이 부족합니다. 공간을 만들거나 다른 곳을 고르세요. 저장된 것은 없습니다.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>파일을 저장할 공간이 부족합니다. 공간을 만들거나 다른 곳을 고르세요. 저장된 것은 없습니다.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Cálculo sem fórmula</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Pesquisar no histórico</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Limpar a pesquisa</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Encontrados: %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>Nenhum cálculo do histórico corresponde.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Hoje</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Ontem</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Antes</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Copiar como digitado</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>Mais</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Exportar o histórico</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Importar um histórico</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Cálculos importados: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>Todos esses cálculos já estão no histórico.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>Não é possível ler este arquivo. Nada foi alterado.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>Este arquivo é grande demais para um histórico. Nada foi alterado.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>Este arquivo não contém um histórico deste app ou está danificado. Nada foi alterado.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>Não há arquivo de histórico na pasta %1. Coloque um lá e tente de novo.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Agora não é possível salvar nada. Seu histórico dura até você fechar o aplicativo.</translation>
@@ -532,8 +600,8 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <translation>Copiado</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>Não há espaço suficiente para a imagem. Libere espaço ou escolha outro lugar; nada foi salvo.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>Não há espaço suficiente para o arquivo. Libere espaço ou escolha outro lugar; nada foi salvo.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

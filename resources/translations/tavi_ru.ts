@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>Пример без формулы</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>Искать в истории</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>Очистить поиск</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>Найдено: %1</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>В истории нет такого примера.</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>Сегодня</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>Вчера</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>Ранее</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>Копировать как введено</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>Ещё</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>Экспорт истории</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>Импорт истории</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>Импортировано примеров: %1</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>Все эти примеры уже есть в истории.</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>Этот файл не удаётся прочитать. Ничего не изменено.</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>Этот файл слишком велик для истории. Ничего не изменено.</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>В этом файле нет истории этого приложения, или он повреждён. Ничего не изменено.</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>В папке %1 нет файла с историей. Положите его туда и попробуйте снова.</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>Сейчас ничего нельзя сохранить. История останется, пока вы не закроете приложение.</translation>
@@ -532,8 +600,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Скопировано</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>Для картинки не хватает места. Освободите место или выберите другое; ничего не сохранено.</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>Для файла не хватает места. Освободите место или выберите другое; ничего не сохранено.</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

@@ -155,6 +155,74 @@
         <source>Calculation without a formula</source>
         <translation>没有算式的题目</translation>
     </message>
+    <message id="historySearch">
+        <source>Search the history</source>
+        <translation>搜索历史记录</translation>
+    </message>
+    <message id="searchClear">
+        <source>Clear the search</source>
+        <translation>清除搜索</translation>
+    </message>
+    <message id="historyFound">
+        <source>Found: %1</source>
+        <translation>找到 %1 条</translation>
+    </message>
+    <message id="historyNothingFound">
+        <source>No task in the history fits that.</source>
+        <translation>历史记录中没有符合的题目。</translation>
+    </message>
+    <message id="dayToday">
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message id="dayYesterday">
+        <source>Yesterday</source>
+        <translation>昨天</translation>
+    </message>
+    <message id="dayEarlier">
+        <source>Earlier</source>
+        <translation>更早</translation>
+    </message>
+    <message id="copyAsTyped">
+        <source>Copy as typed</source>
+        <translation>按输入复制</translation>
+    </message>
+    <message id="historyMore">
+        <source>More</source>
+        <translation>更多</translation>
+    </message>
+    <message id="historyExport">
+        <source>Export the history</source>
+        <translation>导出历史记录</translation>
+    </message>
+    <message id="historyImport">
+        <source>Import a history</source>
+        <translation>导入历史记录</translation>
+    </message>
+    <message id="historyImported">
+        <source>Tasks imported: %1</source>
+        <translation>已导入 %1 道题目</translation>
+    </message>
+    <message id="historyNothingNew">
+        <source>All of these tasks are in the history already.</source>
+        <translation>这些题目都已在历史记录中。</translation>
+    </message>
+    <message id="historyUnreadable">
+        <source>This file cannot be read. Nothing was changed.</source>
+        <translation>无法读取这个文件。没有任何更改。</translation>
+    </message>
+    <message id="historyTooLarge">
+        <source>This file is too large for a history. Nothing was changed.</source>
+        <translation>这个文件太大，不像是历史记录。没有任何更改。</translation>
+    </message>
+    <message id="historyNoHistory">
+        <source>This file holds no history of this app, or it is damaged. Nothing was changed.</source>
+        <translation>这个文件不是本应用的历史记录，或已损坏。没有任何更改。</translation>
+    </message>
+    <message id="historyNoFile">
+        <source>There is no history file in the folder %1. Put one there and try again.</source>
+        <translation>文件夹 %1 中没有历史记录文件。请放入文件后再试。</translation>
+    </message>
     <message id="nothingIsKept">
         <source>Nothing can be saved at the moment. Your history lasts until you close the app.</source>
         <translation>现在无法保存。关闭应用之前，历史记录都在。</translation>
@@ -532,8 +600,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>已复制</translation>
     </message>
     <message id="sharingNoRoom">
-        <source>There is not enough room for the picture. Make room or choose another place; nothing was saved.</source>
-        <translation>空间不足，无法保存图片。请清理空间或换一个位置；没有保存任何内容。</translation>
+        <source>There is not enough room for the file. Make room or choose another place; nothing was saved.</source>
+        <translation>空间不足，无法保存文件。请清理空间或换一个位置；没有保存任何内容。</translation>
     </message>
     <message id="sharingNotWritable">
         <source>Nothing can be saved in this folder. Choose another one.</source>

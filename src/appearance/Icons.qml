@@ -24,5 +24,7 @@ QtObject {
     readonly property string settings: "\uf493"
     readonly property string fold: "\uf143"
     readonly property string unfold: "\uf140"
+    readonly property string search: "\uf349"
+    readonly property string more: "\uf1d9"
     readonly property string history: "\uf2da"
 }

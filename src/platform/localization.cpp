@@ -41,6 +41,15 @@ bool loadTranslations(QStringList languages) {
   return isFound;
 }
 
+// The last one installed lies over the others; those that did not load have none.
+QString spokenLanguage() {
+  const auto translators = QCoreApplication::instance()->findChildren<QTranslator*>();
+  QString language;
+  for (const QTranslator* translator : translators)
+    if (!translator->language().isEmpty()) language = translator->language();
+  return language.replace(u'_', u'-');
+}
+
 QStringList translatedLanguages() {
   QStringList languages = QDir(folder).entryList({namePrefix + u'*'}, QDir::Files, QDir::Name);
   for (QString& name : languages) name = name.mid(namePrefix.size()).section(u'.', 0, 0).replace(u'_', u'-');

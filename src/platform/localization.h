@@ -14,6 +14,9 @@ QString localized(const char* key);
 /// read; without languages those of the system are taken.
 bool loadTranslations(QStringList languages = {});
 
+/// The language that the texts are in, by its BCP 47 name; empty without any.
+QString spokenLanguage();
+
 /// The languages that there are, by their BCP 47 names.
 QStringList translatedLanguages();
 

@@ -20,4 +20,16 @@ WriteResult writeWhole(const QString& path, const QByteArray& bytes) {
   return isWhole ? WriteResult::written : WriteResult::noRoom;
 }
 
+QDir userFolder(QStandardPaths::StandardLocation location) {
+  const QDir own(QStandardPaths::writableLocation(location));
+  return own.exists() ? own : QDir::home();
+}
+
+QString unusedFile(const QDir& folder, const QString& name, QLatin1StringView ending) {
+  QString file = folder.filePath(name + ending);
+  for (int number = 2; QFileInfo::exists(file); ++number)
+    file = folder.filePath(QStringLiteral("%1 (%2)").arg(name).arg(number) + ending);
+  return file;
+}
+
 }  // namespace tavi

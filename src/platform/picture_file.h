@@ -1,7 +1,10 @@
 #pragma once
 
 #include <QByteArray>
+#include <QDir>
 #include <QImage>
+#include <QLatin1StringView>
+#include <QStandardPaths>
 #include <QString>
 
 namespace tavi {
@@ -17,5 +20,11 @@ QByteArray pngBytes(const QImage& image);
 
 /// Writes a file that is there whole or not at all; one of that name before it is kept until then.
 WriteResult writeWhole(const QString& path, const QByteArray& bytes);
+
+/// The user's folder for such files or, where there is none, the user's own.
+QDir userFolder(QStandardPaths::StandardLocation location);
+
+/// The path of a file of about that name that is not in the folder yet. The ending begins with its point.
+QString unusedFile(const QDir& folder, const QString& name, QLatin1StringView ending);
 
 }  // namespace tavi

@@ -74,14 +74,28 @@ void fillHistory() {
        {1, "\\sqrt[2]{144}"}});
   CalcManager& store = CalcManager::shared();
   store.clearCalculations();
-  for (const auto& [mode, latex] : tasks)
-    store.addCalculation({{}, QString::fromUtf8(latex), {}, {{CalculateViewController::modeKey, mode}}});
+  // The first ones are of earlier versions, which knew no days; the others of some days up to today.
+  constexpr auto daysAgo = std::to_array<int>({-1, -1, 40, 40, 1, 0, 0, 0});
+  const QDateTime now = QDateTime::currentDateTimeUtc();
+  for (std::size_t i = 0; i < tasks.size(); ++i) {
+    Calculation task{
+        {}, QString::fromUtf8(tasks[i].second), {}, {{CalculateViewController::modeKey, tasks[i].first}}};
+    if (daysAgo[i] >= 0) task.calculatedAt = now.addDays(-daysAgo[i]);
+    store.addCalculation(task);
+  }
 }
 
 void history(Stage& stage) {
+  // The last station may have left a menu open.
+  for (const char* entry : {"copyTyped", "importHistory"}) {
+    if (!stage.shows(QString::fromLatin1(entry))) continue;
+    QTest::keyClick(&stage.window(), Qt::Key_Escape);
+    waitUntil([&] { return !stage.shows(QString::fromLatin1(entry)); }, "the menu is closed");
+  }
   fillHistory();
   stage.openHistory();
-  waitUntil([&stage] { return stage.shows(QStringLiteral("historyRow7")); }, "the history is open");
+  waitUntil([&stage] { return stage.shows(QStringLiteral("historyRow2")); }, "the history is open");
+  stage.picture();  // its rows come before the toolbar has its places
 }
 
 void editHistory(Stage& stage) {
@@ -89,6 +103,27 @@ void editHistory(Stage& stage) {
   stage.tap(QStringLiteral("historyedit"));
   stage.picture();
   stage.tap(QStringLiteral("deleteControl"));
+}
+
+void searchHistory(Stage& stage) {
+  history(stage);
+  QTest::keyClick(&stage.window(), Qt::Key_F, Qt::ControlModifier);
+  QTest::keyClick(&stage.window(), Qt::Key_4);
+  waitUntil([&stage] { return stage.item(QStringLiteral("historyTable")).property("count") == 3; },
+            "some of the history is found");
+}
+
+void copyFromHistory(Stage& stage) {
+  history(stage);
+  const QPointF place = stage.item(QStringLiteral("historyRow1")).mapToScene({60, 30});
+  QTest::mouseClick(&stage.window(), Qt::RightButton, {}, place.toPoint());
+  waitUntil([&stage] { return stage.shows(QStringLiteral("copyTyped")); }, "the row's menu is open");
+}
+
+void takeHistoryAlong(Stage& stage) {
+  history(stage);
+  stage.tap(QStringLiteral("historyMore"));
+  waitUntil([&stage] { return stage.shows(QStringLiteral("importHistory")); }, "the menu is open");
 }
 
 void clearHistory(Stage& stage) {
@@ -208,6 +243,9 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"07-wide-line", wideLine},
                                                  {"08-open-drawer", openDrawer},
                                                  {"16-history", history},
+                                                 {"130-search-history", searchHistory},
+                                                 {"131-copy-history", copyFromHistory},
+                                                 {"132-history-menu", takeHistoryAlong},
                                                  {"17-edit-history", editHistory},
                                                  {"18-clear-history", clearHistory},
                                                  {"19-empty-history", emptyHistory}});
@@ -216,12 +254,15 @@ constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"11-dark-missing-value", missingValue},
                                                 {"12-dark-drawer", openDrawer},
                                                 {"20-dark-history", history},
+                                                {"133-dark-search-history", searchHistory},
+                                                {"134-dark-history-menu", takeHistoryAlong},
                                                 {"21-dark-edit-history", editHistory},
                                                 {"22-dark-empty-history", emptyHistory}});
 constexpr auto tabletSteps = std::to_array<Step>({{"13-tablet-input", typing},
                                                   {"14-tablet-solution", manySteps},
                                                   {"15-tablet-drawer", openDrawer},
                                                   {"23-tablet-history", history},
+                                                  {"135-tablet-search-history", searchHistory},
                                                   {"24-tablet-edit-history", editHistory}});
 constexpr auto shareSteps = std::to_array<Step>({{"28-share", shareManySteps}});
 constexpr auto darkShareSteps = std::to_array<Step>({{"29-dark-share", shareWideLine}});
@@ -297,6 +338,9 @@ constexpr auto narrowSteps = std::to_array<Step>({{"100-narrow-consent", firstCo
                                                   {"120-narrow-advertisement", advertisement},
                                                   {"121-narrow-rating", rating},
                                                   {"122-narrow-history", history},
+                                                  {"136-narrow-search-history", searchHistory},
+                                                  {"137-narrow-copy-history", copyFromHistory},
+                                                  {"138-narrow-history-menu", takeHistoryAlong},
                                                   {"123-narrow-edit-history", editHistory},
                                                   {"124-narrow-clear-history", clearHistory},
                                                   {"125-narrow-empty-history", emptyHistory},
@@ -307,7 +351,9 @@ constexpr auto lowSteps = std::to_array<Step>({{"47-low-settings", settings},
                                                {"86-low-videos", lockedVideos},
                                                {"87-low-video-consent", videoConsent},
                                                {"88-low-advertisement", advertisement},
-                                               {"89-low-rating", rating}});
+                                               {"89-low-rating", rating},
+                                               {"139-low-history", cleared<history>},
+                                               {"140-low-search-history", searchHistory}});
 constexpr auto chartSteps = std::to_array<Step>({{"90-line-charts", lineCharts},
                                                  {"91-step-charts", stepCharts},
                                                  {"92-moving-circle", movingCircle},

@@ -70,7 +70,7 @@ Item {
         anchors.right: parent.right
         width: Theme.touchTarget + 4
         height: parent.height
-        enabled: drag.controller.isEditing && drag.table.count > 0
+        enabled: drag.controller.isEditing && !drag.controller.isSearching && drag.table.count > 0
         preventStealing: true
         onPressed: mouse => mouse.accepted = drag.lift(mouse.y)
         onReleased: drag.drop(true)

@@ -1,7 +1,7 @@
 import QtQuick
 import Tavi
 
-// The history as one card of rows. A row is reopened by a tap and swiped aside for its delete button; in edit
+// The history as one card of rows, day by day, under a field that searches it. A row is reopened by a tap and swiped aside for its delete button; in edit
 // mode it is deleted by the control at its left and dragged by the handle at its right.
 Rectangle {
     id: page
@@ -11,6 +11,17 @@ Rectangle {
 
     View.kind: View.Plain
     color: Theme.page
+
+    HistoryBar {
+        id: bar
+
+        x: list.x
+        y: 8
+        width: list.width
+        controller: page.controller
+        canSearch: list.count > 0 || isInUse
+        onFinished: list.forceActiveFocus(Qt.OtherFocusReason)
+    }
 
     ListView {
         id: list
@@ -53,6 +64,14 @@ Rectangle {
             moved.say(to);
         }
 
+        function copy(row) {
+            page.controller.copyRow(row, HistoryTableViewController.Typed);
+        }
+
+        function openMenu(row) {
+            rowMenu.openFor(row, currentItem, Qt.point(currentItem.width / 2, currentItem.height / 2));
+        }
+
         function select(row) {
             if (!page.controller.isEditing)
                 page.controller.didSelectRow(row);
@@ -61,13 +80,28 @@ Rectangle {
         objectName: "historyTable"
         x: Math.max(8, (parent.width - width) / 2)
         width: Math.min(parent.width - 16, Theme.tabletWidth)
-        height: parent.height
+        anchors.top: bar.bottom
+        anchors.bottom: parent.bottom
         topMargin: 8
         bottomMargin: 8
         clip: true
         model: page.controller.table
         boundsBehavior: Flickable.StopAtBounds
         highlightMoveDuration: 0
+        section.property: page.controller.isEditing ? "" : "day" // Rows are moved over all days.
+        section.delegate: Label {
+            required property string section
+
+            objectName: "dayTitle"
+            x: 16
+            width: list.width - 32
+            topPadding: 12
+            bottomPadding: 4
+            text: section
+            font: Theme.heavy(14)
+            color: Theme.legible(Theme.secondaryGray, Theme.background)
+            Accessible.ignored: true // Each row tells its day.
+        }
         activeFocusOnTab: count > 0 || activeFocus
         Accessible.role: Accessible.List
         Accessible.name: qsTrId("History")
@@ -82,6 +116,7 @@ Rectangle {
             shift: drag.shiftOf(index)
             isShiftAnimated: drag.isActive
             isLifted: drag.isActive && index === drag.from
+            onMenuRequested: place => rowMenu.openFor(index, this, place)
         }
 
         Rectangle {
@@ -124,17 +159,36 @@ Rectangle {
                 [Qt.Key_Home]: -count,
                 [Qt.Key_End]: count
             };
+            const isMenuKey = event.key === Qt.Key_Menu || (event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier);
+            const action = event.matches(StandardKey.Copy) ? copy : isMenuKey ? openMenu : null;
             const way = ways[event.key];
-            if (way === undefined || count === 0)
+            if ((way === undefined && !action) || count === 0)
                 return;
             event.accepted = true;
-            if (isMoving)
+            if (action)
+                onCurrent(action);
+            else if (isMoving)
                 onCurrent(row => moveRow(row, way));
             else
                 goTo(currentIndex + way);
         }
         Keys.onLeftPressed: onCurrent(() => currentItem.scrollBy(-48))
         Keys.onRightPressed: onCurrent(() => currentItem.scrollBy(48))
+    }
+
+    // Mostly not needed, and not on the way to the first sight of the page.
+    Loader {
+        id: rowMenu
+
+        function openFor(row: int, item: Item, place: point) {
+            active = true;
+            (rowMenu.item as HistoryRowMenu).openFor(row, item, place);
+        }
+
+        active: false
+        sourceComponent: HistoryRowMenu {
+            controller: page.controller
+        }
     }
 
     // Where a row has gone that was moved by key, for those who do not see it.
@@ -156,8 +210,14 @@ Rectangle {
 
     Shortcut {
         sequences: [StandardKey.Cancel]
-        enabled: page.controller.isEditing
-        onActivated: page.controller.handleEditButton()
+        enabled: page.controller.isEditing || bar.isInUse
+        onActivated: bar.isInUse ? bar.leave() : page.controller.handleEditButton()
+    }
+
+    Shortcut {
+        sequences: [StandardKey.Find]
+        enabled: bar.canSearch
+        onActivated: bar.search()
     }
 
     Shortcut {
@@ -178,6 +238,9 @@ Rectangle {
         function onIsEditingChanged() {
             list.closeOpenRow();
         }
+        function onSearchChanged() {
+            list.positionViewAtBeginning();
+        }
         function onRowRestored(row) {
             list.forceLayout();
             list.goTo(row);
@@ -193,12 +256,21 @@ Rectangle {
         fontSize: page.isWide ? 24 : 20
     }
 
+    Label {
+        objectName: "nothingFound"
+        anchors.centerIn: list
+        width: Math.min(320, parent.width - 48)
+        visible: list.count === 0 && page.controller.isSearching && page.controller.isSearchThrough
+        text: qsTrId("historyNothingFound")
+        horizontalAlignment: Text.AlignHCenter
+    }
+
     Column {
         objectName: "emptyHistory"
         anchors.centerIn: parent
         width: Math.min(320, parent.width - 48)
         spacing: 16
-        visible: list.count === 0
+        visible: list.count === 0 && !page.controller.isSearching
 
         Icon {
             anchors.horizontalCenter: parent.horizontalCenter

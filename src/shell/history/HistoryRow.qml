@@ -16,6 +16,8 @@ HistoryTableViewCell {
 
     readonly property bool isEditing: controller.isEditing
 
+    signal menuRequested(point place)
+
     function fill() {
         controller.cellForRow(cell, index);
     }
@@ -51,6 +53,7 @@ HistoryTableViewCell {
     mathLabel: formula
     Accessible.role: Accessible.ListItem
     Accessible.name: row.text
+    Accessible.description: ListView.section
     Accessible.focusable: true
     Accessible.onPressAction: row.clicked()
     width: ListView.view.width
@@ -84,7 +87,7 @@ HistoryTableViewCell {
         y: parent.height - height
         width: parent.width - 32
         height: 1
-        visible: cell.index < cell.table.count - 1
+        visible: cell.index < cell.table.count - 1 && cell.ListView.nextSection === cell.ListView.section
         color: Theme.hairline
     }
 
@@ -157,6 +160,7 @@ HistoryTableViewCell {
             focusPolicy: Qt.NoFocus
             text: formula.spokenText || qsTrId("historyUntitled")
             Accessible.ignored: true // The cell says it, so that what belongs to the row lies in it.
+            onPressAndHold: cell.menuRequested(Qt.point(content.x + pressX - content.contentX, pressY))
             onClicked: {
                 if (cell.table.openRow)
                     cell.table.closeOpenRow();
@@ -221,12 +225,16 @@ HistoryTableViewCell {
         x: content.x + content.width
         anchors.verticalCenter: parent.verticalCenter
         width: content.x
-        visible: width > 0
+        visible: width > 0 && !cell.controller.isSearching
         opacity: content.x / content.editX
         text: Icons.menu
         color: Theme.secondaryGray
     }
 
+    TapHandler {
+        acceptedButtons: Qt.RightButton
+        onTapped: eventPoint => cell.menuRequested(eventPoint.position)
+    }
     FocusRing {
         anchors.margins: 3
         radius: 8

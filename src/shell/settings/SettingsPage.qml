@@ -108,6 +108,21 @@ Item {
             }
 
             SettingsGroup {
+                title: qsTrId("History")
+
+                SettingsRow {
+                    objectName: "historyExport"
+                    text: qsTrId("historyExport")
+                    onClicked: files.exportHistory()
+                }
+                SettingsRow {
+                    objectName: "historyImport"
+                    text: qsTrId("historyImport")
+                    onClicked: files.importHistory()
+                }
+            }
+
+            SettingsGroup {
                 title: qsTrId("measurement")
 
                 SettingsRow {
@@ -145,6 +160,11 @@ Item {
                 }
             }
         }
+    }
+    HistoryFiles {
+        id: files
+
+        transfer: page.controller.transfer
     }
     ScrollThumb {
         flickable: scroll

@@ -4,6 +4,7 @@
 
 #include "shell/app_services.h"
 #include "shell/frame/view_controller.h"
+#include "shell/history/history_transfer.h"
 
 namespace tavi {
 
@@ -21,6 +22,7 @@ class SettingsViewController : public tavi::ViewController {
   Q_PROPERTY(bool canMeasure READ canMeasure CONSTANT)
   Q_PROPERTY(bool isMeasuring READ isMeasuring NOTIFY changed)
   Q_PROPERTY(QString measurementText READ sentText CONSTANT)
+  Q_PROPERTY(tavi::HistoryTransfer* transfer READ transfer CONSTANT)
 
  public:
   /// In the order in which the page offers them.
@@ -44,6 +46,8 @@ class SettingsViewController : public tavi::ViewController {
   /// What is sent, for whoever wants to know before agreeing.
   QString sentText() const;
 
+  HistoryTransfer* transfer() { return &transfer_; }
+
   // What the page calls.
   Q_INVOKABLE void chooseAppearance(int choice);
   Q_INVOKABLE void chooseLanguage(const QString& code);
@@ -54,6 +58,7 @@ class SettingsViewController : public tavi::ViewController {
 
  private:
   AppServices services_;
+  HistoryTransfer transfer_{*this, services_.calcManager, services_.notifications};
 };
 
 /// Shows the interface as the stored choice says.

@@ -3,7 +3,6 @@
 #include <QClipboard>
 #include <QCoroFuture>
 #include <QDir>
-#include <QFileInfo>
 #include <QGuiApplication>
 #include <QMimeData>
 #include <QPointer>
@@ -12,13 +11,10 @@
 #include <memory>
 #include <utility>
 
-#include <private/qguiapplication_p.h>
-
-#include <qpa/qplatformtheme.h>
-
 #include "platform/localization.h"
 #include "platform/picture_file.h"
 #include "shell/frame/detached_task.h"
+#include "shell/frame/file_saving.h"
 #include "solution/share/working_copies.h"
 
 namespace tavi {
@@ -58,18 +54,6 @@ QString fileName(const QString& words) {
   return name.isEmpty() ? localized("sharingFileName") : localized("sharingFileName") + u' ' + name;
 }
 
-QString failureWords(WriteResult result) {
-  switch (result) {
-    case WriteResult::noRoom:
-      return localized("sharingNoRoom");
-    case WriteResult::notWritable:
-      return localized("sharingNotWritable");
-    case WriteResult::written:
-      break;
-  }
-  return {};
-}
-
 }  // namespace
 
 ShareSheetController::ShareSheetController(SharedWorking working, const Links& links)
@@ -88,18 +72,11 @@ void ShareSheetController::setFormat(Format format) {
 
 QUrl ShareSheetController::proposedFile() const {
   const FileKind kind = fileKind(format_);
-  const QDir own(QStandardPaths::writableLocation(kind.location));
-  const QDir folder = own.exists() ? own : QDir::home();
-  const QString name = fileName(working_.subject);
-  QString file = folder.filePath(name + kind.ending);
-  for (int number = 2; QFileInfo::exists(file); ++number)
-    file = folder.filePath(QStringLiteral("%1 (%2)").arg(name).arg(number) + kind.ending);
-  return QUrl::fromLocalFile(file);
+  return QUrl::fromLocalFile(unusedFile(userFolder(kind.location), fileName(working_.subject), kind.ending));
 }
 
 bool ShareSheetController::hasSaveDialog() {
-  const QPlatformTheme* theme = QGuiApplicationPrivate::platformTheme();
-  return theme && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
+  return hasFileDialog();
 }
 
 void ShareSheetController::save() {

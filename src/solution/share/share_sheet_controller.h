@@ -51,8 +51,7 @@ class ShareSheetController : public tavi::ViewController {
   /// subject.
   QUrl proposedFile() const;
 
-  /// Whether the desktop has a dialog of its own to choose a place with. Qt's own is no stand-in: it follows
-  /// neither the style nor the language of the application.
+  /// Whether the desktop has a dialog of its own to choose a place with.
   static bool hasSaveDialog();
 
   /// Writes the working to the proposed file and goes, telling where it is; or says why it cannot.

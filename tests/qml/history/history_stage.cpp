@@ -1,6 +1,7 @@
 #include "history_stage.h"
 
 #include <QAccessible>
+#include <QClipboard>
 #include <QGuiApplication>
 #include <QMetaEnum>
 #include <QQmlContext>
@@ -77,6 +78,10 @@ QStringList HistoryStage::stored() const {
 QString HistoryStage::picked() const {
   const auto& picked = store_.currentSelectedCalculation();
   return picked ? picked->latexString : QString();
+}
+
+QString HistoryStage::clipboard() {
+  return QGuiApplication::clipboard()->text();
 }
 
 // Tests tap faster than fingers, and need not wait long for a tap to be no double tap.

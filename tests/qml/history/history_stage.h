@@ -19,6 +19,7 @@ class HistoryStage : public QObject {
   Q_OBJECT
   Q_PROPERTY(QStringList stored READ stored)
   Q_PROPERTY(QString picked READ picked)
+  Q_PROPERTY(QString clipboard READ clipboard)
   Q_PROPERTY(bool isEditing READ isEditing)
   Q_PROPERTY(bool isHistoryOpen READ isHistoryOpen)
 
@@ -32,6 +33,7 @@ class HistoryStage : public QObject {
 
   QStringList stored() const;
   QString picked() const;
+  static QString clipboard();
   bool isEditing() const { return history_->isEditing(); }
   bool isHistoryOpen() const { return toolbar_ && drawer_->rootController() == toolbar_.get(); }
 

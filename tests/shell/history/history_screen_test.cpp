@@ -1,65 +1,17 @@
-#include <QTemporaryDir>
 #include <QTest>
 
 #include <gtest/gtest.h>
 
 #include "number/fatal_stop.h"
-#include "platform/analytics.h"
 #include "platform/localization.h"
-#include "shell/frame/alert_controller.h"
-#include "shell/frame/recording_controller.h"
 #include "shell/frame/view_manager.h"
+#include "shell/history/history_fixture.h"
 #include "shell/launch/launch_fixture.h"
 
 namespace tavi {
 namespace {
 
 using EditingStyle = HistoryTableViewController::EditingStyle;
-
-Calculation task(const QString& latex, int mode = 0) {
-  return {{{"aTextField", "3"}, {"xTextField", latex}},
-          latex,
-          {},
-          {{"inputCalculationSelection", mode}, {"appKey", "QRX"}}};
-}
-
-/// A history of A, B, C under a toolbar and a drawer, over a store of its own.
-class HistoryScreenTest : public testing::Test {
- protected:
-  HistoryScreenTest() {
-    for (const char* latex : {"C", "B", "A"}) store.addCalculation(task(latex));
-    history = std::make_shared<HistoryTableViewController>(
-        store, [this] { return std::make_shared<RecordingController>("fresh", events); });
-    toolbar = std::make_shared<AppToolbarController>(history);
-    drawer = std::make_shared<AppNavigationDrawerController>(
-        toolbar, std::make_shared<RecordingController>("menu", events));
-    drawer->beginAppearance();
-    drawer->endAppearance();
-    Analytics::clearRecentEvents();
-  }
-
-  static QStringList tasks(const CalcManager& manager) {
-    QStringList list;
-    for (const Calculation& calculation : manager.calculations()) list.append(calculation.latexString);
-    return list;
-  }
-
-  /// The order after a restart.
-  QStringList stored() {
-    PreferenceStore again(folder.filePath("preferences.sqlite"));
-    return tasks(CalcManager(again));
-  }
-
-  AlertController* alert() { return qobject_cast<AlertController*>(drawer->presentedController()); }
-
-  QTemporaryDir folder;
-  PreferenceStore preferences{folder.filePath("preferences.sqlite")};
-  CalcManager store{preferences};
-  QStringList events;
-  std::shared_ptr<HistoryTableViewController> history;
-  std::shared_ptr<AppToolbarController> toolbar;
-  std::shared_ptr<AppNavigationDrawerController> drawer;
-};
 
 TEST_F(HistoryScreenTest, TitlesTheToolbarAndPutsItsTwoButtonsThere) {
   EXPECT_EQ(toolbar->toolbar()->title(), localized("History"));

@@ -65,8 +65,8 @@ class SettingsTest : public LaunchTest {
 TEST_F(SettingsTest, AreReachedAndChangedByKey) {
   openSettings();
   ASSERT_TRUE(waitUntil([this] { return focused() == "closeSheetButton"; }));
-  for (const char* next : {"segment0", "segment1", "segment2", "languageRow", "measurementSwitch",
-                           "measurementSent", "closeSheetButton"}) {
+  for (const char* next : {"segment0", "segment1", "segment2", "languageRow", "historyExport",
+                           "historyImport", "measurementSwitch", "measurementSent", "closeSheetButton"}) {
     QTest::keyClick(delegate->window(), Qt::Key_Tab);
     EXPECT_EQ(focused(), next);
   }
