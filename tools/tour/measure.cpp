@@ -4,6 +4,7 @@
 #include <QElapsedTimer>
 #include <QFile>
 #include <QProcess>
+#include <QTest>
 #include <QTimer>
 #include <algorithm>
 #include <array>
@@ -37,6 +38,7 @@ constexpr const char* memory = "resident with solution open, MB";
 constexpr const char* history = "opening the history to its first frame, ms";
 constexpr const char* historyRows = "rows of the history that are typeset";
 constexpr const char* historyScroll = "scrolling it: longest between two frames, ms";
+constexpr const char* historySearch = "a key of a search in it, ms of the processor";
 constexpr const char* adding = "adding a record, ms";
 constexpr const char* sharing = "picture of 300 rows, ms";
 constexpr const char* sharingBlock = "300 rows: longest without events, ms";
@@ -44,10 +46,10 @@ constexpr const char* sharingMemory = "300 rows: peak memory beyond before, MB";
 constexpr const char* sharingWide = "picture of a line of 10,000 factors, ms";
 constexpr const char* sharingWideBlock = "10,000 factors: longest without events, ms";
 constexpr const char* sharingWideMemory = "10,000 factors: peak memory beyond before, MB";
-constexpr auto figureNames =
-    std::to_array<const char*>({firstFrame, solution, slowestSolution, longSolution, key, longKey, memory,
-                                history, historyRows, historyScroll, adding, sharing, sharingBlock,
-                                sharingMemory, sharingWide, sharingWideBlock, sharingWideMemory});
+constexpr auto figureNames = std::to_array<const char*>(
+    {firstFrame, solution, slowestSolution, longSolution, key, longKey, memory, history, historyRows,
+     historyScroll, historySearch, adding, sharing, sharingBlock, sharingMemory, sharingWide,
+     sharingWideBlock, sharingWideMemory});
 
 using Figures = std::map<QByteArray, std::vector<double>>;
 
@@ -198,6 +200,24 @@ void measureScrolling(Stage& stage) {
   tell(historyScroll, longest);
 }
 
+/// The most processor time that a key of a search takes, with the frame that shows what it finds.
+void measureSearch(Stage& stage) {
+  int frames = 0;
+  const auto connection = QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(),
+                                           [&frames] { ++frames; });
+  QTest::keyClick(&stage.window(), Qt::Key_F, Qt::ControlModifier);
+  std::clock_t longest = 0;
+  for (const char letter : {'3', '/', '2', ' ', 'p', 'o', 'w', 'e', 'r'}) {
+    const int before = frames;
+    const std::clock_t start = std::clock();
+    QTest::keyClick(&stage.window(), letter);
+    waitUntil([&] { return frames > before; }, "a frame with what is found");
+    longest = std::max(longest, std::clock() - start);
+  }
+  QObject::disconnect(connection);
+  tell(historySearch, 1000.0 * static_cast<double>(longest) / CLOCKS_PER_SEC);
+}
+
 /// A full history, written at once.
 void fillStore() {
   PreferenceStore& store = PreferenceStore::standard();
@@ -287,6 +307,7 @@ int probe(int argumentCount, char** arguments) {
 
   measureHistory(stage);
   measureScrolling(stage);
+  measureSearch(stage);
   return 0;
 }
 
