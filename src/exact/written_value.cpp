@@ -8,6 +8,7 @@
 #include <flint/ulong_extras.h>
 
 #include "exact/exact_task.h"
+#include "exact/power_text.h"
 #include "number/text.h"
 
 namespace tavi::exact {
@@ -15,31 +16,15 @@ namespace tavi::exact {
 namespace {
 
 constexpr double mostDigits = 1'000'000;  // of a numerator or denominator
-constexpr double mostTime = 48;           // ms to calculate and write both
 constexpr double mostRadicandDigits = 1'000;
 constexpr slong largestIndex = 1'000;
 constexpr ulong largestPrime = 1'000'000;
-
-// number · 10^zeros, above 0. A power of 10 costs nothing to write.
-struct Whole {
-  Integer number{1};
-  ulong zeros = 0;
-
-  bool isOne() const { return number == 1 && zeros == 0; }
-  std::string text() const { return textOf(number).append(zeros, '0'); }
-};
 
 // Of a number above 0.
 std::string latexOf(const Rational& number) {
   if (number.isWhole()) return textOf(number.numerator());
   return joined({"\\frac{", textOf(number.numerator()), "}{", textOf(number.denominator()), "}"});
 }
-
-// A divisor above 1 and how often a number holds it.
-struct Factor {
-  Integer base;
-  Integer exponent;
-};
 
 double decimalDigits(const Factor& factor) {
   return fmpz_get_d(factor.exponent) * fmpz_dlog(factor.base) / std::numbers::ln10;
@@ -98,37 +83,26 @@ std::vector<Factor> factorsOf(Integer number) {
 // numerator/denominator · radicand^(1/index), all above 0; `power` in place of the root where that would be
 // too large.
 struct Surd {
-  Whole numerator;
-  Whole denominator;
+  std::string numerator{"1"};
+  std::string denominator{"1"};
   Integer radicand{1};
   slong index = 1;
   std::string power{};
 };
 
-// The time that it takes to calculate and write a number of so many digits, as measured.
-double writingTime(double digits) {
-  return 73 * std::pow(digits / 1e6, 1.4);
-}
-
-// number^power for a whole power; absent when it would be too large. Adds up the time.
-std::optional<Whole> writtenPower(const fmpz* number, const Integer& power, double& time) {
+// number^power for a whole power; absent when it would be too large. A power of 10 costs nothing to write.
+std::optional<std::string> writtenPower(const fmpz* number, const Integer& power) {
   Factor factor{Integer::copyOf(number), power};
-  if (factor.base == 1) return Whole();
+  if (factor.base == 1) return "1";
   if (!(decimalDigits(factor) < mostDigits)) return std::nullopt;
-  Whole whole;
-  const ulong exponent = fmpz_get_ui(power);
-  whole.zeros = exponent * static_cast<ulong>(fmpz_remove(factor.base, factor.base, Integer(10)));
-  time += writingTime(decimalDigits(factor));
-  if (time > mostTime) return std::nullopt;
-  fmpz_pow_ui(whole.number, factor.base, exponent);
-  return whole;
+  const auto tens = static_cast<std::size_t>(fmpz_remove(factor.base, factor.base, Integer(10)));
+  return powerText({&factor, 1}).append(tens * fmpz_get_ui(power), '0');
 }
 
 // base^power for a whole power.
 std::optional<Surd> wholeSurd(const Rational& base, const Integer& power) {
-  double time = 0;
-  auto numerator = writtenPower(base.numerator(), power, time);
-  auto denominator = numerator ? writtenPower(base.denominator(), power, time) : std::nullopt;
+  auto numerator = writtenPower(base.numerator(), power);
+  auto denominator = numerator ? writtenPower(base.denominator(), power) : std::nullopt;
   if (!denominator) return std::nullopt;
   return Surd{.numerator = *std::move(numerator), .denominator = *std::move(denominator)};
 }
@@ -176,19 +150,20 @@ std::optional<Surd> rootedSurd(const Rational& base, const Rational& power) {
     radicandDigits += decimalDigits(factor);
   }
   if (index > largestIndex || radicandDigits >= mostRadicandDigits) return asPower(base, power);
-  if (!(writingTime(numeratorDigits) + writingTime(denominatorDigits) < mostTime)) return std::nullopt;
+  if (!(numeratorDigits < mostDigits && denominatorDigits < mostDigits)) return std::nullopt;
 
   Surd surd;
   surd.index = fmpz_get_si(index);
   Integer part;
-  for (std::size_t i = 0; i < outside.size(); ++i) {
-    const Integer& exponent = outside[i].exponent;
-    fmpz_pow_ui(part, outside[i].base, static_cast<ulong>(std::abs(fmpz_get_si(exponent))));
-    Integer& side = exponent > 0 ? surd.numerator.number : surd.denominator.number;
-    fmpz_mul(side, side, part);
-    fmpz_pow_ui(part, inside[i].base, fmpz_get_ui(inside[i].exponent));
+  for (const Factor& factor : inside) {
+    fmpz_pow_ui(part, factor.base, fmpz_get_ui(factor.exponent));
     fmpz_mul(surd.radicand, surd.radicand, part);
   }
+  const auto below =
+      std::ranges::stable_partition(outside, [](const Factor& factor) { return factor.exponent >= 0; });
+  for (Factor& factor : below) fmpz_neg(factor.exponent, factor.exponent);
+  surd.numerator = powerText({outside.begin(), below.begin()});
+  surd.denominator = powerText(below);
   return surd;
 }
 
@@ -254,8 +229,8 @@ std::optional<WrittenValue> written(const Value& value) {
   if (!surd) return std::nullopt;
   LatexFactors numerator;
   LatexFactors denominator;
-  if (!surd->numerator.isOne()) numerator.add(surd->numerator.text());
-  if (!surd->denominator.isOne()) denominator.add(surd->denominator.text());
+  if (surd->numerator != "1") numerator.add(surd->numerator);
+  if (surd->denominator != "1") denominator.add(surd->denominator);
   if (surd->index == 2) numerator.add(joined({"\\sqrt{", textOf(surd->radicand), "}"}));
   if (surd->index > 2)
     numerator.add(joined({"\\sqrt[", std::to_string(surd->index), "]{", textOf(surd->radicand), "}"}));
@@ -265,10 +240,10 @@ std::optional<WrittenValue> written(const Value& value) {
   const bool isSymbolic = std::ranges::any_of(value.product.exponents,
                                               [](const Rational& exponent) { return !exponent.isZero(); });
   const bool isSurd = surd->index > 1 || !surd->power.empty();
-  const Kind kind = isSymbolic                  ? Kind::symbolic
-                    : isSurd                    ? Kind::surd
-                    : surd->denominator.isOne() ? Kind::integer
-                                                : Kind::rational;
+  const Kind kind = isSymbolic                 ? Kind::symbolic
+                    : isSurd                   ? Kind::surd
+                    : surd->denominator == "1" ? Kind::integer
+                                               : Kind::rational;
   return WrittenValue{kind, joined({value.sign < 0 ? "-" : "", fractionOf(numerator, denominator)})};
 }
 

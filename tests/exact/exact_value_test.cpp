@@ -1,12 +1,15 @@
 // Reads exact_values.md and holds the exact values to it; and what no row of it tells.
 #include "exact/exact_value.h"
 
+#include <array>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <gtest/gtest.h>
 
+#include "exact/power_text.h"
 #include "solver/generated_task.h"
 
 namespace tavi::exact {
@@ -84,6 +87,25 @@ TEST(ExactValue, TellsTheEndsOfLargeWholeNumbers) {
   const ExactValue power = valueOf(Mode::power, "2000", "-7");
   EXPECT_EQ(power.wholeNumber->firstDigits, power.latex.substr(0, 20));
   EXPECT_EQ(power.wholeNumber->lastDigits, power.latex.substr(power.latex.size() - 20));
+}
+
+TEST(PowerText, IsTheSameInDecimalAsConverted) {
+  const std::string limbs = "1" + std::string(32, '0');  // ends in zeros at the edges of the limbs
+  for (const auto& [base, exponent] : std::vector<std::pair<std::string, slong>>{{"2", 100'001},
+                                                                                 {"9999999999999999", 4'001},
+                                                                                 {limbs, 3'000},
+                                                                                 {limbs + "1", 2'000},
+                                                                                 {"7", 131'071}}) {
+    std::array<Factor, 2> factors{Factor{0, exponent}, Factor{11, 513}};
+    fmpz_set_str(factors[0].base, base.c_str(), 10);
+    Integer product(1);
+    for (const Factor& factor : factors) {
+      Integer power;
+      fmpz_pow_ui(power, factor.base, fmpz_get_ui(factor.exponent));
+      fmpz_mul(product, product, power);
+    }
+    EXPECT_TRUE(powerText(factors) == textOf(product)) << base << " " << exponent;
+  }
 }
 
 TEST(ExactValue, WritesMoreDigitsOnDemand) {
