@@ -243,23 +243,29 @@ Value multiplied(Value a, const Value& b) {
   return a;
 }
 
-Value raised(Value value, const Rational& exponent) {
+Value raisedBySettledSigns(Value value, const Rational& exponent) {
   if (value.fault != Fault::none) return value;
   if (value.sign == 0) {
     if (exponent.sign() > 0) return value;
     return Value::of(exponent.isZero() ? Fault::zeroToTheZero : Fault::divisionByZero);
   }
   if (exponent.isZero()) return Value::of(Rational(1));
-  const bool isEvenRoot = isEven(exponent.denominator());
-  if (value.sign < 0 && isEvenRoot) {
+  if (value.sign < 0 && isEven(exponent.denominator())) {
     return Value::of(hasVariable(value) ? Fault::signOfVariables : Fault::evenRootOfNegative);
   }
   if (isEven(exponent.numerator())) value.sign = 1;
   raise(value.product, exponent);
   if (value.tower) raise(value.tower->base, exponent);
+  return value;
+}
+
+Value raised(Value value, const Rational& exponent) {
+  value = raisedBySettledSigns(std::move(value), exponent);
+  if (value.fault != Fault::none || value.sign == 0) return value;
   const Exponents& exponents = value.product.exponents;
   const auto isVariableUnderEvenRoot = [](const Rational& power) { return isEven(power.denominator()); };
-  if (isEvenRoot && std::count_if(exponents.begin() + 1, exponents.end(), isVariableUnderEvenRoot) > 1) {
+  if (isEven(exponent.denominator()) &&
+      std::count_if(exponents.begin() + 1, exponents.end(), isVariableUnderEvenRoot) > 1) {
     return Value::of(Fault::signOfVariables);
   }
   return value;

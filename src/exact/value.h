@@ -94,6 +94,8 @@ std::optional<Rational> rationalOf(const Value& value);
 Value multiplied(Value a, const Value& b);
 Value raised(const Value& base, const Value& exponent);
 Value raised(Value value, const Rational& exponent);
+/// The same where the variables are known to be positive, or their signs are in that of the value: √(x/y).
+Value raisedBySettledSigns(Value value, const Rational& exponent);
 
 /// Natural logarithm of the size of a value that has no fault and is not 0, calculated with `precision` bits;
 /// variables count as 1.

@@ -1,5 +1,7 @@
 #include <array>
 #include <cstdio>
+#include <fstream>
+#include <iterator>
 #include <string>
 
 #include <gtest/gtest.h>
@@ -131,6 +133,31 @@ TEST(Cli, TellsExactValues) {
 {"malformed":true}
 )x";
   EXPECT_EQ(cli("exact --json-lines", questions).output, answers);
+}
+
+TEST(Cli, ChecksAWorking) {
+  const Finished checked = cli("solve --check power 2 -3");
+  EXPECT_EQ(checked.exitCode, 1);
+  EXPECT_EQ(checked.output,
+            "true     Your Input                 -3^{2}\n"
+            "true     Step 1    Calculate power  -3^{\\;\\color{#ff3333}{2}}\n"
+            "false                               =\\left( -3 \\right) \\left( -3 \\right) \n"
+            "true                                =\\;\\color{#009900}{9}\n"
+            "false    Result                     -3^{2} = 9\n");
+  EXPECT_EQ(cli("solve --check power 2 3").exitCode, 0);
+  EXPECT_EQ(cli("solve --check power 1/ 2 2>/dev/null").exitCode, 2);
+  const std::string answer = R"x({"steps":[{"title":"Your Input","latexString":"7^{1}","check":"true"},)x"
+                             R"x({"title":"Result","latexString":"7^{1} = 7","check":"true"}],)x"
+                             R"x("latexString":"7^{1}"})x"
+                             "\n";
+  EXPECT_EQ(cli("solve --check --json power 1 7").output, answer);
+  EXPECT_EQ(cli("solve --json-lines --check", R"x({"first":"1","second":"7","mode":0})x").output, answer);
+}
+
+TEST(Cli, TellsTheRulesAsThePageDoes) {
+  std::ifstream page(TAVI_SOURCE_DIR "/docs/truth.md");
+  const std::string text{std::istreambuf_iterator<char>(page), {}};
+  EXPECT_EQ(cli("exact --rules").output, text);
 }
 
 TEST(Cli, FiltersLinesIntoWhatIsTypeset) {

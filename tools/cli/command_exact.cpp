@@ -1,3 +1,4 @@
+#include <algorithm>
 #include <array>
 #include <charconv>
 #include <iostream>
@@ -10,8 +11,11 @@
 
 #include "commands.h"
 #include "exact/exact_value.h"
+#include "exact/proof_reader.h"
 #include "json_lines.h"
 #include "json_task.h"
+#include "solution/display_latex.h"
+#include "solver/rehearsal.h"
 
 namespace tavi::cli {
 namespace {
@@ -26,6 +30,7 @@ constexpr std::array<std::string_view, 2> fieldIds{"aTextField", "xTextField"};
 constexpr std::string_view usage = R"(Usage: tavi-cli exact [--digits N] power EXPONENT BASE
        tavi-cli exact [--digits N] root INDEX RADICAND
        tavi-cli exact [--digits N] --json-lines
+       tavi-cli exact --rules
 
 Prints the value that the task has by the rules of mathematics, beside what its working
 comes to: in LaTeX, as a decimal of which every digit is proved, and what there is to say
@@ -36,6 +41,8 @@ of it. Operands are those of solve. Behind "--" nothing is an option.
                 "mode": 0 for power or 1 for root} of standard input by one line:
                 {"latex", "decimal", "kind", "reason"?, "note"?},
                 {"errorKey", "errorFieldIds"} or {"malformed": true}
+  --rules       prints the page docs/truth.md: by which rules of the working a line of it can
+                be false, with an example of each
 
 Exit code: 2 the input is rejected.
 )";
@@ -94,6 +101,33 @@ int answerTasks(int digits) {
   });
 }
 
+// The first line of an example's working that is false because of its rule alone.
+std::string falseLine(const exact::RuleKind& kind) {
+  const Rehearsal ending = rehearse({kind.mode, std::string(kind.first), std::string(kind.second)});
+  const SolutionSteps& steps = *std::get<CalculationOutcome>(ending).solutionSteps;
+  const auto lines = exact::proofRead(steps, "", true).lines;
+  const auto line = std::ranges::find(lines, kind.rule, &exact::CheckedLine::rules);
+  return line == lines.end()
+             ? ""
+             : displayLatex(*steps[static_cast<std::size_t>(line - lines.begin())].latexString);
+}
+
+void printRules() {
+  std::cout << "# Where a working is not true\n\n"
+               "A working follows its rules to the letter, and some of them are not those of mathematics. "
+               "Each line that\n"
+               "`tavi-cli solve --check` marks as false is true again when it is read by one of these rules, "
+               "or by several of\n"
+               "them. `tavi-cli exact --rules` makes this page; a test over generated tasks fails where none "
+               "of them does.\n\n"
+               "| Rule | Task | Line that is false because of it |\n|---|---|---|\n";
+  for (const exact::RuleKind& kind : exact::ruleKinds()) {
+    const std::string_view mode = kind.mode == Mode::power ? "power" : "root";
+    std::cout << "| " << kind.english << " | `" << mode << ' ' << kind.first << ' ' << kind.second << "` | `"
+              << falseLine(kind) << "` |\n";
+  }
+}
+
 std::optional<int> readDigits(std::string_view text) {
   int digits = 0;
   const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), digits);
@@ -117,6 +151,9 @@ int exactCommand(Arguments arguments) {
       areOptionsOver = true;
     } else if (argument == "--help") {
       std::cout << usage;
+      return success;
+    } else if (argument == "--rules" && arguments.size() == 1) {
+      printRules();
       return success;
     } else if (argument == "--json-lines") {
       isLines = true;

@@ -11,6 +11,7 @@ namespace tavi::cli {
 
 // Exit codes of all commands; wrong usage is EX_USAGE of sysexits.h.
 constexpr int success = 0;
+constexpr int untrue = 1;    ///< A line of a checked working is false.
 constexpr int rejected = 2;  ///< The input is wrong; its error key is told.
 constexpr int fatal = 3;     ///< The task would end the process.
 constexpr int tooLong = 4;   ///< The expansion of the power would be too long to write out.

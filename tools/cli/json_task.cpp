@@ -90,7 +90,9 @@ class TaskReader : public nlohmann::json_sax<json> {
   bool isObject_ = false;
 };
 
-void appendJson(std::string& out, const CalculationOutcome& outcome) {
+using Marks = std::span<const exact::CheckedLine>;
+
+void appendJson(std::string& out, const CalculationOutcome& outcome, Marks marks) {
   std::string_view separator;
   if (outcome.errorKey) {
     out += R"({"errorKey":)";
@@ -105,12 +107,17 @@ void appendJson(std::string& out, const CalculationOutcome& outcome) {
     return;
   }
   out += R"({"steps":[)";
-  for (const SolutionStep& step : *outcome.solutionSteps) {
+  for (std::size_t i = 0; i < outcome.solutionSteps->size(); ++i) {
+    const SolutionStep& step = (*outcome.solutionSteps)[i];
     out += separator;
     out += R"({"title":)";
     appendJsonText(out, *step.title);
     out += R"(,"latexString":)";
     appendJsonText(out, *step.latexString);
+    if (!marks.empty()) {
+      out += R"(,"check":)";
+      appendJsonText(out, nameOf(marks[i].mark));
+    }
     out += '}';
     separator = ",";
   }
@@ -118,10 +125,10 @@ void appendJson(std::string& out, const CalculationOutcome& outcome) {
   appendJsonText(out, *outcome.latexString);
   out += '}';
 }
-void appendJson(std::string& out, const FatalStop& /*stop*/) {
+void appendJson(std::string& out, const FatalStop& /*stop*/, Marks /*marks*/) {
   out += R"({"fatal":true})";
 }
-void appendJson(std::string& out, const ExpansionTooLong& expansion) {
+void appendJson(std::string& out, const ExpansionTooLong& expansion, Marks /*marks*/) {
   out += R"({"huge":)" + std::to_string(expansion.copies) + '}';
 }
 
@@ -133,8 +140,8 @@ std::optional<JsonTask> readJsonTask(std::string_view line) {
   return std::move(reader).task();
 }
 
-void appendJsonEnding(std::string& out, const Rehearsal& ending) {
-  std::visit([&out](const auto& result) { appendJson(out, result); }, ending);
+void appendJsonEnding(std::string& out, const Rehearsal& ending, std::span<const exact::CheckedLine> marks) {
+  std::visit([&out, marks](const auto& result) { appendJson(out, result, marks); }, ending);
 }
 
 }  // namespace tavi::cli

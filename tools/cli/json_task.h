@@ -2,9 +2,11 @@
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
 #include <string_view>
 
+#include "exact/proof_reader.h"
 #include "solver/rehearsal.h"
 
 namespace tavi::cli {
@@ -19,7 +21,9 @@ struct JsonTask {
 std::optional<JsonTask> readJsonTask(std::string_view line);
 
 /// Appends how a task ends: {"steps", "latexString"}, {"errorKey", "errorFieldIds"}, {"fatal": true} or
-/// {"huge": copies}. Bytes of a hostile operand that are no UTF-8 are replaced.
-void appendJsonEnding(std::string& out, const Rehearsal& ending);
+/// {"huge": copies}. Each step has its mark as "check" where marks are given. Bytes of a hostile operand that
+/// are no UTF-8 are replaced.
+void appendJsonEnding(std::string& out, const Rehearsal& ending,
+                      std::span<const exact::CheckedLine> marks = {});
 
 }  // namespace tavi::cli
