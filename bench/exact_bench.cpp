@@ -1,9 +1,11 @@
-// What the exact value beside a working costs.
+// What the exact value beside a working costs, and reading its lines.
 #include <string>
 
 #include <benchmark/benchmark.h>
 
 #include "exact/exact_value.h"
+#include "exact/proof_reader.h"
+#include "solver/rehearsal.h"
 
 namespace tavi {
 namespace {
@@ -38,9 +40,17 @@ void calculate(benchmark::State& state, const Example& task) {
   for (auto _ : state) benchmark::DoNotOptimize(exact::exactValue(task.mode, task.first, task.second));
 }
 
+void proofRead(benchmark::State& state, const Example& task, bool isExplained) {
+  const auto ending = rehearse({task.mode, task.first, task.second});
+  const SolutionSteps& steps = *std::get<CalculationOutcome>(ending).solutionSteps;
+  for (auto _ : state) benchmark::DoNotOptimize(exact::proofRead(steps, "", isExplained));
+}
+
 [[maybe_unused]] const bool areRegistered = [] {
   for (const Example& task : usual) {
     benchmark::RegisterBenchmark((std::string("exact/") + task.name).c_str(), calculate, task);
+    benchmark::RegisterBenchmark((std::string("check/") + task.name).c_str(), proofRead, task, false);
+    benchmark::RegisterBenchmark((std::string("explain/") + task.name).c_str(), proofRead, task, true);
   }
   for (const Example& task : large) {
     benchmark::RegisterBenchmark((std::string("exact/") + task.name).c_str(), calculate, task)

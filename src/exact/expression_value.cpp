@@ -24,7 +24,7 @@ Ball range(const Ball& from, const Ball& to) {
   return range;
 }
 
-Ball logarithmOf(double number) {
+Ball logarithmOfNumber(double number) {
   Ball ball;
   arb_set_d(ball, number);
   arb_log(ball, ball, ballPrecision);
@@ -42,9 +42,13 @@ Rational tiny() {
   return {Integer(1), Integer(10'000'000'000'000)};
 }
 
+bool isSizeKnown(const Result& result) {
+  return result.value.fault == Fault::none && result.value.sign != 0;
+}
+
 class Calculation {
  public:
-  Calculation(const Reading& reading, bool hasBalls) : reading_(reading), hasBalls_(hasBalls) {}
+  Calculation(const Reading& reading, bool isSpread) : reading_(reading), isSpread_(isSpread) {}
 
   Result result(const std::vector<Operation>& expression) {
     stack_.reserve(8);
@@ -106,88 +110,98 @@ class Calculation {
       return number(
           {.number = Rational(floor, Integer(1)), .significantDigits = operation.significantDigits});
     }
-    Result result{.value = Value::of(operation.number), .logarithm = {}};
+    Result result{.value = Value::of(operation.number)};
     if (has(rule::zero | rule::overflow) && operation.number == 0) {
       result.value = Value::of(tiny());
-      if (hasBalls_) {
-        result.logarithm =
-            range(whole(-farthest), has(rule::overflow) ? whole(farthest) : logarithmOf(zeroLimit));
+      if (isSpread_) {
+        result.spread =
+            range(whole(-farthest), has(rule::overflow) ? whole(farthest) : logarithmOfNumber(zeroLimit));
       }
       return result;
     }
-    if (!hasBalls_ || operation.number == 0) return result;
+    if (isSpread_ && operation.number != 0) result.spread = spreadOf(operation);
+    return result;
+  }
+
+  // Of a number that is not 0.
+  std::optional<Ball> spreadOf(const Operation& operation) const {
+    const bool isSettled = operation.half.isZero() ||
+                           std::ranges::find(reading_.settled, operation.number) != reading_.settled.end();
+    const bool isShortened =
+        (has(rule::denominator) && operation.isInDenominator && operation.significantDigits <= shortDigits) ||
+        (has(rule::expansion) && isSettled && operation.significantDigits > shortDigits);
+    if (isSettled && !isShortened && !has(rule::places)) return std::nullopt;
+
     Ball size;
     arb_set_fmpq(size, operation.number, ballPrecision);
     arb_abs(size, size);
     Ball radius;
-    const bool isSettled = operation.half.isZero() ||
-                           std::ranges::find(reading_.settled, operation.number) != reading_.settled.end();
     if (!isSettled) arb_set_fmpq(radius, operation.half, ballPrecision);
+    Ball other;
     if (has(rule::places)) {
-      Ball places;
-      arb_set_d(places, reading_.hasFewPlaces ? resultPlaces : printedPlaces);
-      arb_max(radius, radius, places, ballPrecision);
+      arb_set_d(other, reading_.hasFewPlaces ? resultPlaces : printedPlaces);
+      arb_max(radius, radius, other, ballPrecision);
     }
-    const bool isShortened =
-        (has(rule::denominator) && operation.isInDenominator && operation.significantDigits <= shortDigits) ||
-        (has(rule::expansion) && isSettled && operation.significantDigits > shortDigits);
     if (isShortened) {
-      Ball places;
-      arb_set_d(places, shortenedBy);
-      arb_mul(places, places, size, ballPrecision);
-      arb_max(radius, radius, places, ballPrecision);
+      arb_set_d(other, shortenedBy);
+      arb_mul(other, other, size, ballPrecision);
+      arb_max(radius, radius, other, ballPrecision);
     }
     const bool mayBeZero = arb_ge(radius, size) != 0;
-    if (mayBeZero)
+    if (mayBeZero) {
       arb_add(size, size, radius, ballPrecision);
-    else
+    } else {
       arb_add_error(size, radius);
-    arb_log(result.logarithm, size, ballPrecision);
-    if (mayBeZero) result.logarithm = range(whole(-farthest), result.logarithm);
-    return result;
+    }
+    arb_log(size, size, ballPrecision);
+    return mayBeZero ? range(whole(-farthest), size) : size;
   }
 
   Result symbol(const Operation& operation) const {
     const Rules dropped = operation.isInExponent           ? rule::symbolInExponent
                           : operation.symbol == Symbol::pi ? rule::pi
                                                            : rule::variable;
-    Result result{.value = Value::of(Rational(1)), .logarithm = {}};
+    Result result{.value = Value::of(Rational(1))};
     if (has(dropped)) {
       // It stands for a number that is not written, such as 1, and not exact.
       const bool isShortened = has(rule::denominator) && operation.isInDenominator;
       const double error = isShortened ? shortenedBy : has(rule::places) ? printedPlaces : 0;
-      mag_set_d(arb_radref(static_cast<arb_ptr>(result.logarithm)), error);
+      if (error > 0) mag_set_d(arb_radref(static_cast<arb_ptr>(result.spread.emplace())), error);
       return result;
     }
     const auto index = static_cast<std::size_t>(operation.symbol);
     result.value.product.exponents[index] = 1;
     if (reading_.areNegative[index]) result.value.sign = -1;
-    if (hasBalls_ && operation.symbol == Symbol::pi)
-      result.logarithm = logarithm(result.value, ballPrecision);
     return result;
   }
 
   Result infinity() const {
-    Result result{.value = Value::of(Rational(10'000'000'000'000)), .logarithm = {}};
+    Result result{.value = Value::of(Rational(10'000'000'000'000))};
     result.isInfinite = !has(rule::infinity | rule::overflow);
-    if (hasBalls_) {
-      result.logarithm =
-          range(has(rule::overflow) ? whole(-farthest) : logarithmOf(infinityLimit), whole(farthest));
+    if (isSpread_) {
+      result.spread =
+          range(has(rule::overflow) ? whole(-farthest) : logarithmOfNumber(infinityLimit), whole(farthest));
     }
     return result;
   }
 
-  void multiply(Result& product, const Result& factor) const {
+  static void multiply(Result& product, const Result& factor) {
+    if (!isSizeKnown(product) || !isSizeKnown(factor)) {
+      product.spread.reset();
+    } else if (product.spread || factor.spread) {
+      Ball sum = logarithmOf(product);
+      arb_add(sum, sum, logarithmOf(factor), ballPrecision);
+      product.spread = std::move(sum);
+    }
     product.value = multiplied(std::move(product.value), factor.value);
     product.isInfinite |= factor.isInfinite;
     product.isSizeAlone |= factor.isSizeAlone;
     product.isNegativeRaised |= factor.isNegativeRaised;
-    if (hasBalls_) arb_add(product.logarithm, product.logarithm, factor.logarithm, ballPrecision);
   }
 
   static Result inverse(Result divisor) {
     divisor.value = raised(std::move(divisor.value), Rational(-1));
-    arb_neg(divisor.logarithm, divisor.logarithm);
+    if (divisor.spread) arb_neg(*divisor.spread, *divisor.spread);
     return divisor;
   }
 
@@ -220,9 +234,8 @@ class Calculation {
   Result raise(Result base, const Result& exponent) const {
     const bool isOne = has(rule::zeroToTheZero) && base.value.fault == Fault::none && base.value.sign == 0 &&
                        exponent.value.fault == Fault::none && exponent.value.sign == 0;
-    if (isOne) return {.value = Value::of(Rational(1)), .logarithm = {}};
+    if (isOne) return {.value = Value::of(Rational(1))};
     Result result{.value = raisedValue(base.value, exponent.value),
-                  .logarithm = {},
                   .isInfinite = base.isInfinite || exponent.isInfinite,
                   .isSizeAlone = base.isSizeAlone || exponent.isSizeAlone,
                   .isNegativeRaised = base.isNegativeRaised || base.value.sign < 0};
@@ -232,32 +245,49 @@ class Calculation {
       result.value = raisedValue(base.value, exponent.value);
       result.isSizeAlone = true;
     }
-    if (hasBalls_ && exponent.value.sign != 0) {
-      Ball size;
-      arb_exp(size, exponent.logarithm, ballPrecision);
-      if (exponent.value.sign < 0) arb_neg(size, size);
-      if (has(rule::zero) && arb_le(exponent.logarithm, logarithmOf(zeroLimit)) != 0) {
-        Ball opposite;
-        arb_neg(opposite, size);
-        arb_union(size, size, opposite, ballPrecision);
-      }
-      arb_mul(result.logarithm, base.logarithm, size, ballPrecision);
+    if ((base.spread || exponent.spread) && isSizeKnown(base) && isSizeKnown(exponent)) {
+      Ball product = numberOf(exponent);
+      arb_mul(product, product, logarithmOf(base), ballPrecision);
+      result.spread = std::move(product);
     }
     return result;
   }
 
+  // The ball of an exponent itself.
+  Ball numberOf(const Result& exponent) const {
+    Ball number;
+    const auto rational = exponent.spread ? std::nullopt : rationalOf(exponent.value);
+    if (rational) {
+      arb_set_fmpq(number, *rational, ballPrecision);
+      return number;
+    }
+    const Ball logarithm = logarithmOf(exponent);
+    arb_exp(number, logarithm, ballPrecision);
+    if (exponent.value.sign < 0) arb_neg(number, number);
+    if (has(rule::zero) && arb_le(logarithm, logarithmOfNumber(zeroLimit)) != 0) {
+      Ball opposite;
+      arb_neg(opposite, number);
+      arb_union(number, number, opposite, ballPrecision);
+    }
+    return number;
+  }
+
   const Reading& reading_;
-  bool hasBalls_;
+  bool isSpread_;
   std::vector<Result> stack_;
 };
 
 }  // namespace
 
+Ball logarithmOf(const Result& result) {
+  return result.spread ? *result.spread : logarithm(result.value, ballPrecision);
+}
+
 Result exactResult(const std::vector<Operation>& expression, const Reading& reading) {
   return Calculation(reading, false).result(expression);
 }
 
-Result ballResult(const std::vector<Operation>& expression, const Reading& reading) {
+Result spreadResult(const std::vector<Operation>& expression, const Reading& reading) {
   return Calculation(reading, true).result(expression);
 }
 

@@ -22,20 +22,25 @@ struct Reading {
 
 /// What an expression comes to.
 struct Result {
-  Value value;                    ///< With every number as printed; a fault where there is none.
-  Ball logarithm;                 ///< Of the size, of all that the printed numbers may stand for.
+  Value value;  ///< With every number as printed; a fault where there is none.
+  /// Of all that the printed numbers may stand for, the logarithms of the sizes, variables counted as 1.
+  /// Absent where they stand for themselves alone.
+  std::optional<Ball> spread{};
   bool isInfinite = false;        ///< It holds ∞, and the value has the sign of the whole alone.
   bool isSizeAlone = false;       ///< A negative number was raised as a positive one: (-2)^x.
   bool isNegativeRaised = false;  ///< A sign may depend on the last digit of an exponent.
 };
 
-/// The value alone, without balls.
+/// The value alone, as if every printed number stood for itself.
 Result exactResult(const std::vector<Operation>& expression, const Reading& reading);
 
-/// Value and ball, variables counted as 1 in the ball.
-Result ballResult(const std::vector<Operation>& expression, const Reading& reading);
+/// With all that the printed numbers may stand for.
+Result spreadResult(const std::vector<Operation>& expression, const Reading& reading);
+
+/// The logarithm of the size of a result that is a number and not 0, with all its spread.
+Ball logarithmOf(const Result& result);
 
 /// Bits that the balls are calculated with.
-inline constexpr slong ballPrecision = 192;
+inline constexpr slong ballPrecision = 128;
 
 }  // namespace tavi::exact

@@ -146,28 +146,53 @@ class ExpressionReader {
     return readFactors(isNegative);
   }
 
-  // Factors side by side. An exponent belongs to the one before it alone.
+  // Factors side by side, equal ones that follow each other as one power. An exponent belongs to the one
+  // before it alone.
   bool readFactors(bool isNegative) {
     bool isSignOpen = isNegative;
-    for (std::size_t count = 0;; ++count) {
-      if (atEnd() || !isFactorNext()) return count > 0 && closeSign(isSignOpen);
+    bool hasProduct = false;  // of the factors before the copies
+    slong copies = 0;         // of the last factor, which begins at `last`
+    std::size_t last = operations_.size();
+    // What makes the copies one with the product before them, to be put at `place`.
+    const auto closeCopies = [&](std::size_t place) {
+      std::vector<Operation> closing;
+      if (copies > 1) {
+        closing.push_back({.number = copies, .isInExponent = true});
+        closing.push_back({.kind = Operator::power});
+      }
+      if (copies > 0 && hasProduct) closing.push_back({.kind = Operator::multiply});
+      const auto at = operations_.begin() + static_cast<std::ptrdiff_t>(place);
+      operations_.insert(at, closing.begin(), closing.end());
+      hasProduct = hasProduct || copies > 0;
+      copies = 0;
+      return place + closing.size();
+    };
+    while (!atEnd() && isFactorNext()) {
+      const std::size_t start = operations_.size();
       if (!readFactor()) return false;
-      const Atom& last = *tokens_[at_ - 1];
-      const auto* scripts = std::get_if<Scripts>(&last.content);
-      if (scripts == nullptr) {
-        if (count > 0) add(Operator::multiply);
+      const auto* scripts = std::get_if<Scripts>(&tokens_[at_ - 1]->content);
+      if (scripts == nullptr && copies > 0 && isCopy(last, start)) {
+        operations_.resize(start);
+        ++copies;
         continue;
       }
+      last = closeCopies(start);
+      copies = scripts == nullptr ? 1 : 0;
+      if (scripts == nullptr) continue;
       if (scripts->subscript || !scripts->superscript) return false;
       if (!readList(*scripts->superscript, {.isInExponent = true}, operations_)) return false;
       Operation& power = add(Operator::power);
       power.isSigned = std::exchange(isSignOpen, false);
-      power.hasFactor = count > 0;
+      power.hasFactor = std::exchange(hasProduct, true);
     }
+    closeCopies(operations_.size());
+    if (isSignOpen) add(Operator::negate);
+    return hasProduct;
   }
-  bool closeSign(bool isNegative) {
-    if (isNegative) add(Operator::negate);
-    return true;
+  // Whether what was read from `start` on is what stands from `last` up to there.
+  bool isCopy(std::size_t last, std::size_t start) const {
+    const std::span all(operations_);
+    return std::ranges::equal(all.subspan(last, start - last), all.subspan(start));
   }
 
   bool isFactorNext() const {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <bit>
+#include <optional>
 #include <span>
 #include <utility>
 
@@ -55,12 +56,18 @@ bool areVariablesEqual(const Value& a, const Value& b) {
          ((!hasVariable(a) && !hasVariable(b)) || a.tower == b.tower);
 }
 
+// A side of a relation with its exact result, once that was asked for.
+struct Side {
+  Expression expression;
+  std::optional<Result> result{};
+};
+
 class ProofReader {
  public:
   ProofReader(std::string_view task, bool isExplained) : isExplained_(isExplained) {
     const Line line = readLine(task);
-    if (line.sides.size() == 1) exactTask_ = line.sides.front();
-    settle(exactTask_);
+    if (line.sides.size() == 1) exactTask_.expression = line.sides.front();
+    settle(exactTask_.expression);
   }
 
   Proof proof(const SolutionSteps& steps) {
@@ -79,9 +86,19 @@ class ProofReader {
       }
       const bool isInChain = line.isContinued || line.relations.empty();
       const bool isResult = !isInChain && line.sides.front() == task_;
-      proof.lines.push_back(isInChain ? inChain(std::move(line)) : byItself(line, isResult));
-      if (isResult && !hasResult_) proof.result = compare(exactTask_, line.sides[1], line.relations.front());
-      hasResult_ = hasResult_ || isResult;
+      std::vector<Side> sides;
+      sides.reserve(line.sides.size() + 1);
+      for (Expression& side : line.sides) sides.push_back({std::move(side)});
+      if (isInChain) {
+        if (!line.isContinued) line.relations.push_back(Relation::equal);
+        proof.lines.push_back(inChain(std::move(sides), line.relations));
+        continue;
+      }
+      proof.lines.push_back(byItself(sides, line.relations, isResult));
+      if (isResult && !proof.resultLine) {
+        proof.result = compare(exactTask_, sides[1], line.relations.front());
+        proof.resultLine = proof.lines.size() - 1;
+      }
     }
     return proof;
   }
@@ -99,49 +116,54 @@ class ProofReader {
     isTaskOpen_ = false;
     if (!line.sides.empty()) task_ = std::move(line.sides.back());
     settle(task_);
-    chain_ = task_;
+    chain_.expression = task_;
   }
 
-  CheckedLine inChain(Line line) {
-    if (line.sides.empty()) return {};
-    line.sides.insert(line.sides.begin(), std::move(chain_));
-    if (!line.isContinued) line.relations.push_back(Relation::equal);
-    const CheckedLine checked = byItself(line, false);
-    chainBefore_ = std::move(line.sides.front());
-    chain_ = std::move(line.sides.back());
+  CheckedLine inChain(std::vector<Side> sides, std::span<const Relation> relations) {
+    if (sides.empty()) return {};
+    sides.insert(sides.begin(), std::move(chain_));
+    const CheckedLine checked = byItself(sides, relations, false);
+    chainBefore_ = std::move(sides.front().expression);
+    chain_ = std::move(sides.back());
     return checked;
   }
 
-  CheckedLine byItself(const Line& line, bool isResult) {
+  CheckedLine byItself(std::span<Side> sides, std::span<const Relation> relations, bool isResult) {
     CheckedLine checked{.mark = Mark::isTrue};
-    for (std::size_t i = 1; i < line.sides.size(); ++i) {
+    for (std::size_t i = 1; i < sides.size(); ++i) {
       isDecimalOfResult_ = isResult && i > 1;
-      const CheckedLine relation = compare(line.sides[i - 1], line.sides[i], line.relations[i - 1]);
+      const CheckedLine relation = compare(sides[i - 1], sides[i], relations[i - 1]);
       checked.mark = std::max(checked.mark, relation.mark);
       checked.rules |= relation.rules;
-      hasSeenInfinity_ = hasSeenInfinity_ || (line.sides[i] && holdsInfinity(*line.sides[i]));
+      const Expression& side = sides[i].expression;
+      hasSeenInfinity_ = hasSeenInfinity_ || (side && holdsInfinity(*side));
     }
     isDecimalOfResult_ = false;
     return checked;
   }
 
-  CheckedLine compare(const Expression& left, const Expression& right, Relation relation) const {
-    if (!left || !right) return {.mark = Mark::isOpen};
-    const Mark mark = markOf(*left, *right, relation);
-    const Rules rules = mark == Mark::isFalse && isExplained_ ? rulesOf(*left, *right, relation) : Rules{0};
-    return {.mark = mark, .rules = rules};
+  CheckedLine compare(Side& left, Side& right, Relation relation) const {
+    if (!left.expression || !right.expression) return {.mark = Mark::isOpen};
+    const Mark mark = markOf(left, right, relation);
+    const bool isToExplain = mark == Mark::isFalse && isExplained_;
+    return {.mark = mark,
+            .rules = isToExplain ? rulesOf(*left.expression, *right.expression, relation) : Rules{0}};
   }
 
-  Mark markOf(const Operations& left, const Operations& right, Relation relation) const {
-    const unsigned variables = variablesOf(left) | variablesOf(right);
-    if (variables != 0) return markOfIdentity(left, right, variables);
-    const Reading reading{.settled = settled_};
-    const Result a = exactResult(left, reading);
-    const Result b = exactResult(right, reading);
-    if (!isNumber(a) || !isNumber(b)) return markWithoutNumber(a, b);
-    if (a.value == b.value) return Mark::isTrue;
-    const bool mayBeRounded = hasBallsIn(left) || hasBallsIn(right) || relation == Relation::approximate;
-    return mayBeRounded && agree(left, right, relation, 0) ? Mark::isRounded : Mark::isFalse;
+  Mark markOf(Side& left, Side& right, Relation relation) const {
+    const Operations& a = *left.expression;
+    const Operations& b = *right.expression;
+    const unsigned variables = variablesOf(a) | variablesOf(b);
+    if (variables != 0) return markOfIdentity(a, b, variables);
+    for (Side* side : {&left, &right}) {
+      if (!side->result) side->result = exactResult(*side->expression, {});
+    }
+    if (!isNumber(*left.result) || !isNumber(*right.result)) {
+      return markWithoutNumber(*left.result, *right.result);
+    }
+    if (left.result->value == right.result->value) return Mark::isTrue;
+    const bool mayBeRounded = hasBallsIn(a) || hasBallsIn(b) || relation == Relation::approximate;
+    return mayBeRounded && agree(a, b, relation, 0) ? Mark::isRounded : Mark::isFalse;
   }
 
   static Mark markWithoutNumber(const Result& a, const Result& b) {
@@ -158,7 +180,7 @@ class ProofReader {
     bool isAnywhereEqual = false;
     bool isNowhereDefined = true;
     for (unsigned negative = variables;; negative = (negative - 1) & variables) {
-      Reading reading{.settled = settled_};
+      Reading reading;
       for (std::size_t i = 0; i < symbolCount; ++i) reading.areNegative[i] = (negative >> i & 1U) != 0;
       const Result a = exactResult(left, reading);
       const Result b = exactResult(right, reading);
@@ -176,9 +198,9 @@ class ProofReader {
   // Whether both sides can be the same number when they are read by some rules of the working.
   bool agree(const Operations& left, const Operations& right, Relation relation, Rules rules) const {
     Reading reading{.rules = rules, .settled = settled_};
-    const Result a = ballResult(left, reading);
+    const Result a = spreadResult(left, reading);
     reading.hasFewPlaces = isDecimalOfResult_ || relation == Relation::approximate;
-    const Result b = ballResult(right, reading);
+    const Result b = spreadResult(right, reading);
     if (!isNumber(a) || !isNumber(b)) return false;
     if (a.value.sign == 0 || b.value.sign == 0) {
       const Result& other = a.value.sign == 0 ? b : a;
@@ -187,7 +209,7 @@ class ProofReader {
       Ball limit;
       arb_set_d(limit, 5e-6);
       arb_log(limit, limit, ballPrecision);
-      return arb_gt(a.logarithm, limit) == 0;
+      return arb_gt(logarithmOf(a), limit) == 0;
     }
     const bool isSignLost = (rules & (rule::secondSolution | rule::zero | rule::overflow)) != 0;
     constexpr Rules changeExponents =
@@ -195,7 +217,7 @@ class ProofReader {
     const bool isParityLost = (rules & changeExponents) != 0 && (a.isNegativeRaised || b.isNegativeRaised);
     const bool isSignEqual = a.value.sign == b.value.sign && a.isSizeAlone == b.isSizeAlone;
     if (!isSignEqual && !isSignLost && !isParityLost) return false;
-    return areVariablesEqual(a.value, b.value) && arb_overlaps(a.logarithm, b.logarithm) != 0;
+    return areVariablesEqual(a.value, b.value) && arb_overlaps(logarithmOf(a), logarithmOf(b)) != 0;
   }
 
   // Rules of which the sides show a trace.
@@ -238,20 +260,19 @@ class ProofReader {
     const bool isBehindCopies = chainBefore_ && hasBrokenExponent(*chainBefore_) && !(left == *chainBefore_);
     if (!isBehindCopies) return 0;
     if (agree(*chainBefore_, right, relation, 0)) return rule::copies;
-    const Rules others = chainBefore_ ? rulesOf(*chainBefore_, right, relation) : Rules{0};
+    const Rules others = rulesOf(*chainBefore_, right, relation);
     return others == 0 ? Rules{0} : static_cast<Rules>(others | rule::copies);
   }
 
   bool isExplained_;
   std::vector<Rational> settled_;
   bool isTaskOpen_ = true;  // No line was read yet.
-  bool hasResult_ = false;
   bool hasSeenInfinity_ = false;
   bool isDecimalOfResult_ = false;
-  Expression exactTask_;
+  Side exactTask_;
   Expression task_;
   Expression chainBefore_;
-  Expression chain_;
+  Side chain_;
 };
 
 }  // namespace

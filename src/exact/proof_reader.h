@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -26,6 +28,7 @@ struct CheckedLine {
 struct Proof {
   std::vector<CheckedLine> lines;
   CheckedLine result;  ///< Of its first result, held to the task itself; open where there is none.
+  std::optional<std::size_t> resultLine{};  ///< Where that result stands.
 };
 
 /// Reads each line of a working. The first is true. One that begins with a relation, or has none, is held to

@@ -7,6 +7,7 @@
 
 #include <gtest/gtest.h>
 
+#include "exact/account.h"
 #include "exact/exact_value.h"
 #include "solver/generated_task.h"
 
@@ -204,6 +205,22 @@ TEST(ProofReader, FindsAWrongDigitAndNoRuleForIt) {
   }
   EXPECT_GT(changed, taskCount / 100);
   EXPECT_GT(unexplained, changed * 9 / 10);
+}
+
+TEST(Account, TellsValueMarksAndRules) {
+  const auto accountOfTask = [](Mode mode, const char* first, const char* second) {
+    return *accountOf(mode, first, second, stepsOf({mode, first, second}));
+  };
+  const Account infinite = accountOfTask(Mode::power, "13", "9");
+  EXPECT_EQ(infinite.value.latex, "2541865828329");
+  EXPECT_EQ(sentenceKeys(infinite.rules()), std::vector<std::string_view>{"ruleInfinity"});
+  // A line that is true as it stands, but is not the value of the task.
+  const Account variable = accountOfTask(Mode::power, "2", "x/3");
+  EXPECT_EQ(variable.proof.lines[4].mark, Mark::isRounded);
+  EXPECT_TRUE(variable.isMarked(4) && !variable.isMarked(3));
+  EXPECT_EQ(sentenceKeys(variable.rules()), std::vector<std::string_view>{"ruleVariable"});
+  EXPECT_EQ(accountOfTask(Mode::power, "-2", "3/2").rules(), 0);
+  EXPECT_FALSE(accountOf(Mode::power, "1/", "2", {}));
 }
 
 TEST(ProofReader, HasAnExampleOfEveryRule) {
