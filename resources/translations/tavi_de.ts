@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, und Name und Version der App; nichts, was dich oder dein Gerät benennt. Dies sind die Ereignisse und was mit jedem geht:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Exakt</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Exakter Wert</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>Mehr Stellen</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Weniger Stellen</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Als Text kopieren</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>nicht exakt wahr</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>Eine ganze Zahl mit %1 Stellen. Sie beginnt mit %2 und endet mit %3.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>Betrag von %1 Ende Betrag</translation>
@@ -970,6 +998,94 @@ Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, u
     <message id="chartArea">
         <source>area chart</source>
         <translation>Flächendiagramm</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>Null hoch null hat keinen Wert.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>Durch null kann man nicht teilen, und eine negative Potenz von null wäre eine solche Division.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>Eine Wurzel mit dem Wurzelexponenten null gibt es nicht.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>Eine gerade Wurzel aus einer negativen Zahl ist keine reelle Zahl.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>Eine negative Zahl hat keine reelle Potenz mit irrationalem Exponenten.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>Ob eine Potenz einer negativen Zahl reell ist, hängt vom Exponenten ab.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>Die Zahl hat mehr Stellen, als man ausschreiben kann.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>Das Wurzelzeichen meint die Zahl, die nicht negativ ist. Die Gleichung %1 hat zwei Lösungen: %2 und %3.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>Die Gleichung %1 hat nur die Lösung null.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>Der Rechenweg setzt null hoch null gleich 1.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>Der Rechenweg zählt Zahlen über 10¹² als unendlich.</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>Der Rechenweg schreibt Zahlen unter 10⁻¹⁰ als 0.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π wird als Faktor mitgeführt und nicht potenziert.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>Eine Variable wird als Faktor mitgeführt und nicht potenziert.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>π oder eine Variable im Exponenten oder Wurzelexponenten wird weggelassen.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>Der Rechenweg schreibt eine Potenz ohne die Klammern, die ihre Basis braucht.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>Eine Wurzel ist nicht negativ; das zweite Ergebnis ist die andere Lösung der Gleichung.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>Der Rechenweg behält sechs gültige Ziffern einer Dezimalzahl, die er in einen Bruch umwandelt.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>Eine Potenz, deren Exponent keine ganze Zahl ist, wird ausgeschrieben, als wäre er eine.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>Der Rechenweg schreibt Nenner mit sechs gültigen Ziffern.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>Ein Schritt übersteigt, was der Rechenweg berechnen kann; er rechnet mit unendlich weiter.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>Der Rechenweg rundet, was er schreibt, und rechnet mit allen Stellen weiter.</translation>
     </message>
 </context>
 </TS>

@@ -771,5 +771,33 @@ With each event go its time, a random number that changes every day, and the nam
 
 With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Exact</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Exact value</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>More digits</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Fewer digits</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Copy as text</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>not exactly true</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>A whole number of %1 digits. It begins with %2 and ends with %3.</translation>
+    </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 Con cada evento van su hora, un número al azar que cambia cada día, y el nombre y la versión de la aplicación; nada que te nombre a ti ni a tu dispositivo. Estos son los eventos y lo que va con cada uno:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Exacto</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Valor exacto</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>Más cifras</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Menos cifras</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Copiar como texto</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>no es exactamente cierto</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>Un número entero de %1 cifras. Empieza por %2 y termina en %3.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>valor absoluto de %1 fin del valor absoluto</translation>
@@ -970,6 +998,94 @@ Con cada evento van su hora, un número al azar que cambia cada día, y el nombr
     <message id="chartArea">
         <source>area chart</source>
         <translation>gráfico de áreas</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>Cero elevado a cero no tiene valor.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>No se puede dividir entre cero, y una potencia negativa de cero lo haría.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>No existe ninguna raíz de índice cero.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>Una raíz de índice par de un número negativo no es un número real.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>Un número negativo no tiene potencia real de exponente irracional.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>Que una potencia de un número negativo sea real depende del exponente.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>El número tiene más cifras de las que se pueden escribir.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>El signo de raíz indica el número que no es negativo. La ecuación %1 tiene dos soluciones: %2 y %3.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>La ecuación %1 tiene como única solución cero.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>El procedimiento toma cero elevado a cero como 1.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>El procedimiento considera infinitos los números mayores que 10¹².</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>El procedimiento escribe como 0 los números menores que 10⁻¹⁰.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π se arrastra como factor y no se eleva.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>Una variable se arrastra como factor y no se eleva.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>π o una variable en el exponente o en el índice se omite.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>El procedimiento escribe una potencia sin los paréntesis que necesita su base.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>Una raíz no es negativa; el segundo resultado es la otra solución de la ecuación.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>El procedimiento conserva seis cifras significativas del decimal que convierte en fracción.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>Una potencia cuyo exponente no es un número entero se desarrolla como si lo fuera.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>El procedimiento escribe los denominadores con seis cifras significativas.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>Un paso supera lo que el procedimiento puede calcular, y este sigue con infinito.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>El procedimiento redondea lo que escribe y sigue con todas las cifras.</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 Avec chaque événement partent son heure, un nombre au hasard qui change chaque jour, ainsi que le nom et la version de l’appli ; rien qui te nomme, toi ou ton appareil. Voici les événements et ce qui part avec chacun :</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Exact</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Valeur exacte</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>Plus de chiffres</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Moins de chiffres</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Copier comme texte</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>pas exactement vrai</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>Un nombre entier de %1 chiffres. Il commence par %2 et se termine par %3.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>valeur absolue de %1 fin de valeur absolue</translation>
@@ -970,6 +998,94 @@ Avec chaque événement partent son heure, un nombre au hasard qui change chaque
     <message id="chartArea">
         <source>area chart</source>
         <translation>graphique en aires</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>Zéro puissance zéro n’a pas de valeur.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>On ne peut pas diviser par zéro, et une puissance négative de zéro reviendrait à le faire.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>Il n’existe pas de racine d’indice zéro.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>Une racine d’indice pair d’un nombre négatif n’est pas un nombre réel.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>Un nombre négatif n’a pas de puissance réelle d’exposant irrationnel.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>C’est l’exposant qui décide si une puissance d’un nombre négatif est réelle.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>Le nombre a plus de chiffres qu’on ne peut en écrire.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>Le signe racine désigne le nombre qui n’est pas négatif. L’équation %1 a deux solutions : %2 et %3.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>L’équation %1 a zéro pour seule solution.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>Le calcul prend zéro puissance zéro égal à 1.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>Le calcul considère comme infinis les nombres supérieurs à 10¹².</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>Le calcul écrit 0 pour les nombres inférieurs à 10⁻¹⁰.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π est conservé comme facteur et n’est pas élevé à la puissance.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>Une variable est conservée comme facteur et n’est pas élevée à la puissance.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>π ou une variable dans l’exposant ou dans l’indice est omis.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>Le calcul écrit une puissance sans les parenthèses dont sa base a besoin.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>Une racine n’est pas négative ; le second résultat est l’autre solution de l’équation.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>Le calcul garde six chiffres significatifs d’un nombre décimal qu’il transforme en fraction.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>Une puissance dont l’exposant n’est pas un entier est développée comme s’il en était un.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>Le calcul écrit les dénominateurs avec six chiffres significatifs.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>Une étape dépasse ce que le calcul peut effectuer, et il continue avec l’infini.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>Le calcul arrondit ce qu’il écrit et continue avec tous les chiffres.</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 हर घटना के साथ उसका समय, हर दिन बदलने वाली एक यादृच्छिक संख्या, और ऐप का नाम और संस्करण जाता है; ऐसा कुछ नहीं जो आपकी या आपके उपकरण की पहचान बताए। ये हैं घटनाएँ और हर एक के साथ जाने वाली जानकारी:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>सटीक</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>सटीक मान</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>अधिक अंक</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>कम अंक</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>पाठ के रूप में कॉपी करें</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>पूरी तरह सत्य नहीं</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>%1 अंकों की एक पूर्ण संख्या। यह %2 से शुरू और %3 पर समाप्त होती है।</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>निरपेक्ष मान %1 निरपेक्ष मान समाप्त</translation>
@@ -970,6 +998,94 @@ With each event go its time, a random number that changes every day, and the nam
     <message id="chartArea">
         <source>area chart</source>
         <translation>क्षेत्र आलेख</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>शून्य की घात शून्य का कोई मान नहीं होता।</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>शून्य से भाग नहीं दिया जा सकता, और शून्य की ऋणात्मक घात ऐसा ही करती।</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>घातांक शून्य वाला कोई मूल नहीं होता।</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>ऋणात्मक संख्या का सम मूल वास्तविक संख्या नहीं होता।</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>ऋणात्मक संख्या की अपरिमेय घातांक वाली कोई वास्तविक घात नहीं होती।</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>ऋणात्मक संख्या की घात वास्तविक है या नहीं, यह घातांक पर निर्भर करता है।</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>संख्या में इतने अंक हैं कि उन्हें लिखा नहीं जा सकता।</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>मूल चिह्न का अर्थ वह संख्या है जो ऋणात्मक नहीं है। समीकरण %1 के दो हल हैं: %2 और %3।</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>समीकरण %1 का एकमात्र हल शून्य है।</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>हल में शून्य की घात शून्य को 1 माना जाता है।</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>हल में 10¹² से बड़ी संख्याएँ अनंत मानी जाती हैं।</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>हल में 10⁻¹⁰ से छोटी संख्याएँ 0 लिखी जाती हैं।</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π को गुणनखंड के रूप में साथ रखा जाता है, उसकी घात नहीं ली जाती।</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>चर को गुणनखंड के रूप में साथ रखा जाता है, उसकी घात नहीं ली जाती।</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>घातांक या मूल के घातांक में π या चर छोड़ दिया जाता है।</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>हल में घात को उसके आधार के आवश्यक कोष्ठकों के बिना लिखा जाता है।</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>मूल ऋणात्मक नहीं होता; दूसरा परिणाम समीकरण का दूसरा हल है।</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>जिस दशमलव को हल भिन्न में बदलता है, उसके छह सार्थक अंक ही रखे जाते हैं।</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>जिस घात का घातांक पूर्ण संख्या नहीं है, उसे ऐसे फैलाया जाता है मानो वह पूर्ण हो।</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>हल में हर छह सार्थक अंकों के साथ लिखे जाते हैं।</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>एक चरण हल की गणना-सीमा से बाहर है, और आगे अनंत से गणना होती है।</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>हल में जो लिखा जाता है वह पूर्णांकित होता है, और आगे सभी अंकों से गणना होती है।</translation>
     </message>
 </context>
 </TS>

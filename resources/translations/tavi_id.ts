@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 Bersama setiap peristiwa dikirim waktunya, sebuah bilangan acak yang berganti setiap hari, serta nama dan versi aplikasi; tidak ada yang menyebut kamu atau perangkatmu. Inilah peristiwanya dan yang dikirim bersama masing-masing:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Eksak</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Nilai eksak</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>Lebih banyak digit</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Lebih sedikit digit</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Salin sebagai teks</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>tidak tepat benar</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>Bilangan bulat dengan %1 digit. Dimulai dengan %2 dan diakhiri dengan %3.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>nilai mutlak dari %1 akhir nilai mutlak</translation>
@@ -970,6 +998,94 @@ Bersama setiap peristiwa dikirim waktunya, sebuah bilangan acak yang berganti se
     <message id="chartArea">
         <source>area chart</source>
         <translation>diagram area</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>Nol pangkat nol tidak memiliki nilai.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>Pembagian dengan nol tidak mungkin, dan pangkat negatif dari nol akan melakukannya.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>Tidak ada akar dengan indeks nol.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>Akar genap dari bilangan negatif bukan bilangan real.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>Bilangan negatif tidak memiliki pangkat real dengan eksponen irasional.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>Apakah pangkat dari bilangan negatif itu real bergantung pada eksponennya.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>Bilangan ini memiliki lebih banyak digit daripada yang dapat dituliskan.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>Tanda akar berarti bilangan yang tidak negatif. Persamaan %1 memiliki dua penyelesaian: %2 dan %3.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>Persamaan %1 hanya memiliki penyelesaian nol.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>Pengerjaan ini menganggap nol pangkat nol sama dengan 1.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>Pengerjaan ini menganggap bilangan di atas 10¹² tak hingga.</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>Pengerjaan ini menulis bilangan di bawah 10⁻¹⁰ sebagai 0.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π dibawa sebagai faktor dan tidak dipangkatkan.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>Variabel dibawa sebagai faktor dan tidak dipangkatkan.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>π atau variabel dalam eksponen atau indeks diabaikan.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>Pengerjaan ini menulis pangkat tanpa tanda kurung yang diperlukan basisnya.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>Akar tidak negatif; hasil kedua adalah penyelesaian lain dari persamaan.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>Pengerjaan ini mempertahankan enam angka penting dari desimal yang diubah menjadi pecahan.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>Pangkat yang eksponennya bukan bilangan bulat dijabarkan seolah-olah bulat.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>Pengerjaan ini menulis penyebut dengan enam angka penting.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>Satu langkah melampaui yang dapat dihitung, dan pengerjaan berlanjut dengan tak hingga.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>Pengerjaan ini membulatkan yang ditulis dan berlanjut dengan semua digit.</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 各イベントとともに、その時刻、毎日変わるランダムな数、アプリの名前とバージョンが送られます。あなたや端末を特定するものは送られません。イベントと、それぞれとともに送られるものは次のとおりです：</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>厳密値</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>厳密な値</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>桁を増やす</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>桁を減らす</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>テキストとしてコピー</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>厳密には正しくない</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>%1桁の整数。%2で始まり%3で終わります。</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>絶対値 %1 絶対値終わり</translation>
@@ -970,6 +998,94 @@ With each event go its time, a random number that changes every day, and the nam
     <message id="chartArea">
         <source>area chart</source>
         <translation>面グラフ</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>0の0乗には値がありません。</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>0で割ることはできません。0の負の累乗は0で割ることになります。</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>指数が0の累乗根はありません。</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>負の数の偶数乗根は実数ではありません。</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>負の数の無理数乗は実数ではありません。</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>負の数の累乗が実数かどうかは指数によります。</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>桁数が多すぎて書き表せません。</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>根号は負でない方の数を表します。方程式%1には2つの解%2と%3があります。</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>方程式%1の解は0だけです。</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>この解き方では0の0乗を1とします。</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>この解き方では10¹²より大きい数を無限大とみなします。</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>この解き方では10⁻¹⁰より小さい数を0と書きます。</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>πは因数としてそのまま残り、累乗されません。</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>変数は因数としてそのまま残り、累乗されません。</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>指数にあるπや変数は省かれます。</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>この解き方では底に必要なかっこを付けずに累乗を書きます。</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>累乗根は負になりません。2つ目の結果は方程式のもう1つの解です。</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>この解き方では分数に直す小数の有効数字を6桁だけ残します。</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>指数が整数でない累乗を、整数であるかのように書き並べます。</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>この解き方では分母を有効数字6桁で書きます。</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>計算できる範囲を超えた途中式があり、その先は無限大で計算します。</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>この解き方では書く値を四捨五入し、計算は全桁で続けます。</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 각 이벤트와 함께 그 시각, 날마다 바뀌는 임의의 수, 앱의 이름과 버전이 갑니다. 사용자나 기기를 알 수 있는 것은 가지 않습니다. 이벤트와 각각 함께 가는 것은 다음과 같습니다:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>정확한 값</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>정확한 값</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>자릿수 늘리기</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>자릿수 줄이기</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>텍스트로 복사</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>정확히 참이 아님</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>%1자리 정수입니다. %2(으)로 시작하여 %3(으)로 끝납니다.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>절댓값 %1 절댓값 끝</translation>
@@ -970,6 +998,94 @@ With each event go its time, a random number that changes every day, and the nam
     <message id="chartArea">
         <source>area chart</source>
         <translation>영역 그래프</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>0의 0제곱은 값이 없습니다.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>0으로 나눌 수 없으며, 0의 음수 제곱은 0으로 나누는 것이 됩니다.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>지수가 0인 거듭제곱근은 없습니다.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>음수의 짝수 제곱근은 실수가 아닙니다.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>음수의 무리수 제곱은 실수가 아닙니다.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>음수의 거듭제곱이 실수인지는 지수에 따라 다릅니다.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>자릿수가 너무 많아 모두 쓸 수 없습니다.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>근호는 음수가 아닌 수를 뜻합니다. 방정식 %1의 해는 %2와 %3 두 개입니다.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>방정식 %1의 해는 0뿐입니다.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>이 풀이는 0의 0제곱을 1로 봅니다.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>이 풀이는 10¹²보다 큰 수를 무한대로 봅니다.</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>이 풀이는 10⁻¹⁰보다 작은 수를 0으로 씁니다.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π는 인수로 그대로 두고 거듭제곱하지 않습니다.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>변수는 인수로 그대로 두고 거듭제곱하지 않습니다.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>지수에 있는 π나 변수는 생략됩니다.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>이 풀이는 밑에 필요한 괄호 없이 거듭제곱을 씁니다.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>거듭제곱근은 음수가 아니며, 두 번째 결과는 방정식의 다른 해입니다.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>이 풀이는 분수로 바꾸는 소수의 유효숫자를 여섯 자리만 남깁니다.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>지수가 정수가 아닌 거듭제곱을 정수인 것처럼 풀어 씁니다.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>이 풀이는 분모를 유효숫자 여섯 자리로 씁니다.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>한 단계가 계산할 수 있는 범위를 넘어, 그 뒤로는 무한대로 계산합니다.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>이 풀이는 쓰는 값을 반올림하고 모든 자릿수로 계산을 이어 갑니다.</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 Com cada evento vão sua hora, um número aleatório que muda todo dia, e o nome e a versão do aplicativo; nada que identifique você ou seu aparelho. Estes são os eventos e o que vai com cada um:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Exato</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Valor exato</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>Mais algarismos</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Menos algarismos</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Copiar como texto</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>não é exatamente verdade</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>Um número inteiro de %1 algarismos. Começa por %2 e termina em %3.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>módulo de %1 fim do módulo</translation>
@@ -970,6 +998,94 @@ Com cada evento vão sua hora, um número aleatório que muda todo dia, e o nome
     <message id="chartArea">
         <source>area chart</source>
         <translation>gráfico de área</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>Zero elevado a zero não tem valor.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>Não se pode dividir por zero, e uma potência negativa de zero faria isso.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>Não existe raiz de índice zero.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>Uma raiz de índice par de um número negativo não é um número real.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>Um número negativo não tem potência real de expoente irracional.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>Se uma potência de um número negativo é real depende do expoente.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>O número tem mais algarismos do que se pode escrever.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>O sinal de raiz indica o número que não é negativo. A equação %1 tem duas soluções: %2 e %3.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>A equação %1 tem zero como única solução.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>A resolução toma zero elevado a zero como 1.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>A resolução considera infinitos os números acima de 10¹².</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>A resolução escreve como 0 os números abaixo de 10⁻¹⁰.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π é mantido como fator e não é elevado.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>Uma variável é mantida como fator e não é elevada.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>π ou uma variável no expoente ou no índice é omitido.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>A resolução escreve uma potência sem os parênteses de que a base precisa.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>Uma raiz não é negativa; o segundo resultado é a outra solução da equação.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>A resolução conserva seis algarismos significativos do decimal que transforma em fração.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>Uma potência cujo expoente não é um número inteiro é desenvolvida como se fosse.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>A resolução escreve os denominadores com seis algarismos significativos.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>Um passo ultrapassa o que a resolução pode calcular, e ela continua com infinito.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>A resolução arredonda o que escreve e continua com todos os algarismos.</translation>
     </message>
 </context>
 </TS>

@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 С каждым событием передаются его время, случайное число, которое меняется каждый день, а также название и версия приложения; ничего, что указывало бы на вас или ваше устройство. Вот эти события и то, что передаётся с каждым из них:</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>Точно</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>Точное значение</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>Больше цифр</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>Меньше цифр</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>Копировать как текст</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>не вполне верно</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>Целое число из %1 цифр. Начинается с %2 и заканчивается на %3.</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>модуль %1 конец модуля</translation>
@@ -970,6 +998,94 @@ With each event go its time, a random number that changes every day, and the nam
     <message id="chartArea">
         <source>area chart</source>
         <translation>диаграмма с областями</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>Ноль в нулевой степени не имеет значения.</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>На ноль делить нельзя, а отрицательная степень нуля означала бы именно это.</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>Корня с показателем ноль не существует.</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>Корень чётной степени из отрицательного числа не является действительным числом.</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>У отрицательного числа нет действительной степени с иррациональным показателем.</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>Действительна ли степень отрицательного числа, зависит от показателя.</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>В числе больше цифр, чем можно выписать.</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>Знак корня означает неотрицательное число. Уравнение %1 имеет два решения: %2 и %3.</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>Уравнение %1 имеет единственное решение — ноль.</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>В решении ноль в нулевой степени считается равным 1.</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>В решении числа больше 10¹² считаются бесконечными.</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>В решении числа меньше 10⁻¹⁰ записываются как 0.</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π остаётся множителем и не возводится в степень.</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>Переменная остаётся множителем и не возводится в степень.</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>π или переменная в показателе степени или корня опускается.</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>В решении степень записана без скобок, которые нужны её основанию.</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>Корень неотрицателен; второй результат — другое решение уравнения.</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>В решении у десятичной дроби, обращаемой в обыкновенную, сохраняются шесть значащих цифр.</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>Степень с нецелым показателем расписывается так, будто он целый.</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>В решении знаменатели записываются с шестью значащими цифрами.</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>Один шаг выходит за пределы вычислений, и дальше решение идёт с бесконечностью.</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>В решении записанное округляется, а вычисления продолжаются со всеми цифрами.</translation>
     </message>
 </context>
 </TS>

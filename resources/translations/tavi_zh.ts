@@ -771,6 +771,34 @@ With each event go its time, a random number that changes every day, and the nam
 
 每个事件会附带发生的时间、一个每天更换的随机数，以及应用的名称和版本；不含任何能识别你或你的设备的内容。以下是这些事件以及各自附带的内容：</translation>
     </message>
+    <message id="exactButton">
+        <source>Exact</source>
+        <translation>精确值</translation>
+    </message>
+    <message id="exactTitle">
+        <source>Exact value</source>
+        <translation>精确值</translation>
+    </message>
+    <message id="exactMoreDigits">
+        <source>More digits</source>
+        <translation>增加位数</translation>
+    </message>
+    <message id="exactFewerDigits">
+        <source>Fewer digits</source>
+        <translation>减少位数</translation>
+    </message>
+    <message id="copyAsText">
+        <source>Copy as text</source>
+        <translation>复制为文本</translation>
+    </message>
+    <message id="exactLineFalse">
+        <source>not exactly true</source>
+        <translation>并不完全成立</translation>
+    </message>
+    <message id="exactWholeNumber">
+        <source>A whole number of %1 digits. It begins with %2 and ends with %3.</source>
+        <translation>一个 %1 位的整数，以 %2 开头，以 %3 结尾。</translation>
+    </message>
     <message id="mathAbsoluteValue">
         <source>absolute value of %1 end of absolute value</source>
         <translation>绝对值 %1 绝对值结束</translation>
@@ -970,6 +998,94 @@ With each event go its time, a random number that changes every day, and the nam
     <message id="chartArea">
         <source>area chart</source>
         <translation>面积图</translation>
+    </message>
+    <message id="exactZeroToTheZero">
+        <source>Zero to the power of zero has no value.</source>
+        <translation>零的零次幂没有值。</translation>
+    </message>
+    <message id="exactDivisionByZero">
+        <source>Zero cannot be divided by, and a negative power of zero would do so.</source>
+        <translation>不能除以零，而零的负数次幂就相当于除以零。</translation>
+    </message>
+    <message id="exactRootWithIndexZero">
+        <source>There is no root with the index zero.</source>
+        <translation>不存在零次方根。</translation>
+    </message>
+    <message id="exactEvenRootOfNegative">
+        <source>An even root of a negative number is no real number.</source>
+        <translation>负数的偶次方根不是实数。</translation>
+    </message>
+    <message id="exactIrrationalPowerOfNegative">
+        <source>A negative number has no real power with an irrational exponent.</source>
+        <translation>负数没有指数为无理数的实数幂。</translation>
+    </message>
+    <message id="exactNegativeToVariable">
+        <source>Whether a power of a negative number is real depends on the exponent.</source>
+        <translation>负数的幂是否为实数取决于指数。</translation>
+    </message>
+    <message id="exactTooLarge">
+        <source>The number has more digits than can be written out.</source>
+        <translation>这个数的位数太多，无法写出。</translation>
+    </message>
+    <message id="exactEvenRoot">
+        <source>The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and %3.</source>
+        <translation>根号表示非负的那个数。方程 %1 有两个解：%2 和 %3。</translation>
+    </message>
+    <message id="exactEvenRootOfZero">
+        <source>The equation %1 is solved by zero alone.</source>
+        <translation>方程 %1 只有零这一个解。</translation>
+    </message>
+    <message id="ruleZeroToTheZero">
+        <source>The working takes zero to the power of zero as 1.</source>
+        <translation>解题过程把零的零次幂当作 1。</translation>
+    </message>
+    <message id="ruleInfinity">
+        <source>The working counts numbers over 10¹² as infinite.</source>
+        <translation>解题过程把大于 10¹² 的数视为无穷大。</translation>
+    </message>
+    <message id="ruleZero">
+        <source>The working writes numbers below 10⁻¹⁰ as 0.</source>
+        <translation>解题过程把小于 10⁻¹⁰ 的数写作 0。</translation>
+    </message>
+    <message id="rulePi">
+        <source>π is carried along as a factor and not raised.</source>
+        <translation>π 作为因数保留，不参与乘方。</translation>
+    </message>
+    <message id="ruleVariable">
+        <source>A variable is carried along as a factor and not raised.</source>
+        <translation>变量作为因数保留，不参与乘方。</translation>
+    </message>
+    <message id="ruleSymbolInExponent">
+        <source>π or a variable in the exponent or in the index is left out.</source>
+        <translation>指数或根指数中的 π 或变量被略去。</translation>
+    </message>
+    <message id="ruleBrackets">
+        <source>The working writes a power without the brackets that its base needs.</source>
+        <translation>解题过程写幂时省略了底数所需的括号。</translation>
+    </message>
+    <message id="ruleSecondSolution">
+        <source>A root is not negative; the second result is the other solution of the equation.</source>
+        <translation>方根不为负；第二个结果是方程的另一个解。</translation>
+    </message>
+    <message id="ruleExpansion">
+        <source>The working keeps six significant digits of a decimal that it turns into a fraction.</source>
+        <translation>解题过程把小数化成分数时只保留六位有效数字。</translation>
+    </message>
+    <message id="ruleCopies">
+        <source>A power whose exponent is no whole number is written out as if it were one.</source>
+        <translation>指数不是整数的幂被当作整数次幂展开。</translation>
+    </message>
+    <message id="ruleDenominator">
+        <source>The working writes denominators with six significant digits.</source>
+        <translation>解题过程把分母写成六位有效数字。</translation>
+    </message>
+    <message id="ruleOverflow">
+        <source>A step is beyond what the working can calculate, and it goes on with infinity.</source>
+        <translation>有一步超出了解题过程的计算范围，之后以无穷大继续。</translation>
+    </message>
+    <message id="rulePlaces">
+        <source>The working rounds what it writes and goes on with all digits.</source>
+        <translation>解题过程对写出的数取近似，而计算时使用全部数位。</translation>
     </message>
 </context>
 </TS>

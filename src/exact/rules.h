@@ -32,8 +32,7 @@ inline constexpr Rules places = 1U << 12U;
 /// A kind of rule, with a task of whose working a line is false because of it.
 struct RuleKind {
   Rules rule;
-  std::string_view key;      ///< Of its sentence.
-  std::string_view english;  ///< The sentence.
+  std::string_view key;  ///< Of its sentence.
   Mode mode;
   std::string_view first, second;
 };

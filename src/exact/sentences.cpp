@@ -25,6 +25,20 @@ constexpr auto table = std::to_array<Words>({
      "The root sign means the number that is not negative. The equation %1 is solved by two numbers: %2 and "
      "%3."},
     {"exactEvenRootOfZero", "The equation %1 is solved by zero alone."},
+    {"ruleZeroToTheZero", "The working takes zero to the power of zero as 1."},
+    {"ruleInfinity", "The working counts numbers over 10¹² as infinite."},
+    {"ruleZero", "The working writes numbers below 10⁻¹⁰ as 0."},
+    {"rulePi", "π is carried along as a factor and not raised."},
+    {"ruleVariable", "A variable is carried along as a factor and not raised."},
+    {"ruleSymbolInExponent", "π or a variable in the exponent or in the index is left out."},
+    {"ruleBrackets", "The working writes a power without the brackets that its base needs."},
+    {"ruleSecondSolution",
+     "A root is not negative; the second result is the other solution of the equation."},
+    {"ruleExpansion", "The working keeps six significant digits of a decimal that it turns into a fraction."},
+    {"ruleCopies", "A power whose exponent is no whole number is written out as if it were one."},
+    {"ruleDenominator", "The working writes denominators with six significant digits."},
+    {"ruleOverflow", "A step is beyond what the working can calculate, and it goes on with infinity."},
+    {"rulePlaces", "The working rounds what it writes and goes on with all digits."},
 });
 
 }  // namespace

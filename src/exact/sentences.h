@@ -6,7 +6,8 @@
 
 namespace tavi::exact {
 
-/// Words about a value: a key to look them up by, and the LaTeX that takes the places %1, %2, … in them.
+/// Words about a value or a working: a key to look them up by, and the LaTeX that takes the places %1, %2, …
+/// in them.
 struct Sentence {
   std::string_view key;
   std::vector<std::string> formulas{};

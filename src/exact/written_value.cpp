@@ -159,11 +159,11 @@ std::optional<Surd> rootedSurd(const Rational& base, const Rational& power) {
     fmpz_pow_ui(part, factor.base, fmpz_get_ui(factor.exponent));
     fmpz_mul(surd.radicand, surd.radicand, part);
   }
-  const auto below =
-      std::ranges::stable_partition(outside, [](const Factor& factor) { return factor.exponent >= 0; });
-  for (Factor& factor : below) fmpz_neg(factor.exponent, factor.exponent);
-  surd.numerator = powerText({outside.begin(), below.begin()});
-  surd.denominator = powerText(below);
+  const auto below = std::stable_partition(outside.begin(), outside.end(),
+                                           [](const Factor& factor) { return factor.exponent >= 0; });
+  for (auto factor = below; factor != outside.end(); ++factor) fmpz_neg(factor->exponent, factor->exponent);
+  surd.numerator = powerText({outside.begin(), below});
+  surd.denominator = powerText({below, outside.end()});
   return surd;
 }
 

@@ -123,8 +123,8 @@ void printRules() {
                "| Rule | Task | Line that is false because of it |\n|---|---|---|\n";
   for (const exact::RuleKind& kind : exact::ruleKinds()) {
     const std::string_view mode = kind.mode == Mode::power ? "power" : "root";
-    std::cout << "| " << kind.english << " | `" << mode << ' ' << kind.first << ' ' << kind.second << "` | `"
-              << falseLine(kind) << "` |\n";
+    std::cout << "| " << exact::englishWords(kind.key) << " | `" << mode << ' ' << kind.first << ' '
+              << kind.second << "` | `" << falseLine(kind) << "` |\n";
   }
 }
 

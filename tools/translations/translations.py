@@ -4,7 +4,7 @@
 Usage: translations.py [--check]
 
 Writes resources/translations/tavi_LANGUAGE.ts of every language anew: every key in the order of the English file, and
-behind those what formulas and charts are said in, each with its English text as source. What is missing, and what
+behind those what formulas and charts are said in and what is said about values, each with its English text as source. What is missing, and what
 translates an English text that has changed since, becomes unfinished; what is in English no more goes.
 
 With --check it writes nothing and says what is wrong with the files and with the translated parts of the package. It
@@ -28,7 +28,7 @@ SAME_EVERYWHERE = {"Tavi Solver", "OK", "Pi", "mathPi", "videoReady"}
 SAME = {
     "de": {"Exponent", "asSystem", "mathPlus", "mathMinus", "chartQuadrant"},
     "es": {"Base", "error", "mathFactorial"},
-    "fr": {"Base", "chartQuadrant", "introduction", "mathPlus", "menuButton", "sharingFileName"},
+    "fr": {"exactButton", "Base", "chartQuadrant", "introduction", "mathPlus", "menuButton", "sharingFileName"},
     "id": {"mathMinus", "menuButton"},
     "pt": {"Base", "menuButton"},
 }
@@ -57,9 +57,13 @@ def read(language):
 
 def phrases():
     """English by key, as the sources hold what formulas and charts are said in."""
-    phrase = re.compile(r'\{"((?:math|chart)[A-Z]\w*)",\s*"([^"]*)"\}')
-    sources = [path for folder in ("typeset", "charts") for path in sorted((ROOT / "src" / folder).rglob("*.[ch]*"))]
-    return dict(match.groups() for path in sources for match in phrase.finditer(path.read_text()))
+    phrase = re.compile(r'\{"((?:math|chart|exact|rule)[A-Z]\w*)",\s*((?:"[^"]*"\s*)+)\}')
+    folders = ("typeset", "charts", "exact")
+    sources = [path for folder in folders for path in sorted((ROOT / "src" / folder).rglob("*.[ch]*"))]
+    found = [match.groups() for path in sources for match in phrase.finditer(path.read_text())]
+    phrases = {key: "".join(re.findall(r'"([^"]*)"', words)) for key, words in found}
+    # What is nothing but a place needs no words.
+    return {key: words for key, words in phrases.items() if words != "%1"}
 
 
 def write(language, texts):
