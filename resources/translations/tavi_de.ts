@@ -823,6 +823,10 @@ Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, u
         <source>fraction %1 over %2 end of fraction</source>
         <translation>Bruch %1 durch %2 Ende Bruch</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>Periode %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>Quadratwurzel aus %1</translation>

@@ -823,6 +823,10 @@ Con cada evento van su hora, un número al azar que cambia cada día, y el nombr
         <source>fraction %1 over %2 end of fraction</source>
         <translation>fracción %1 sobre %2 fin de la fracción</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>período %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>raíz cuadrada de %1</translation>

@@ -823,6 +823,10 @@ Avec chaque événement partent son heure, un nombre au hasard qui change chaque
         <source>fraction %1 over %2 end of fraction</source>
         <translation>fraction %1 sur %2 fin de fraction</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>période %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>racine carrée de %1</translation>

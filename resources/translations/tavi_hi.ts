@@ -823,6 +823,10 @@ With each event go its time, a random number that changes every day, and the nam
         <source>fraction %1 over %2 end of fraction</source>
         <translation>भिन्न %1 बटा %2 भिन्न समाप्त</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>%1 आवर्ती</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>%1 का वर्गमूल</translation>

@@ -823,6 +823,10 @@ Bersama setiap peristiwa dikirim waktunya, sebuah bilangan acak yang berganti se
         <source>fraction %1 over %2 end of fraction</source>
         <translation>pecahan %1 per %2 akhir pecahan</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>%1 berulang</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>akar kuadrat dari %1</translation>

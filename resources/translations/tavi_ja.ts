@@ -823,6 +823,10 @@ With each event go its time, a random number that changes every day, and the nam
         <source>fraction %1 over %2 end of fraction</source>
         <translation>分数 分母 %2 分子 %1 分数終わり</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>循環節%1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>ルート %1</translation>

@@ -823,6 +823,10 @@ With each event go its time, a random number that changes every day, and the nam
         <source>fraction %1 over %2 end of fraction</source>
         <translation>분수 분모 %2 분자 %1 분수 끝</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>순환마디 %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>루트 %1</translation>

@@ -823,6 +823,10 @@ Com cada evento vão sua hora, um número aleatório que muda todo dia, e o nome
         <source>fraction %1 over %2 end of fraction</source>
         <translation>fração %1 sobre %2 fim da fração</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>período %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>raiz quadrada de %1</translation>

@@ -823,6 +823,10 @@ With each event go its time, a random number that changes every day, and the nam
         <source>fraction %1 over %2 end of fraction</source>
         <translation>дробь %1 делить на %2 конец дроби</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>в периоде %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>квадратный корень из %1</translation>

@@ -823,6 +823,10 @@ With each event go its time, a random number that changes every day, and the nam
         <source>fraction %1 over %2 end of fraction</source>
         <translation>分数 分子 %1 分母 %2 分数结束</translation>
     </message>
+    <message id="mathPeriod">
+        <source>%1 repeating</source>
+        <translation>循环节 %1</translation>
+    </message>
     <message id="mathSquareRoot">
         <source>square root of %1</source>
         <translation>根号 %1</translation>

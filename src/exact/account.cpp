@@ -4,17 +4,6 @@
 
 namespace tavi::exact {
 
-bool Account::isMarked(std::size_t line) const {
-  return proof.lines[line].mark == Mark::isFalse ||
-         (proof.resultLine == line && proof.result.mark == Mark::isFalse);
-}
-
-Rules Account::rules() const {
-  Rules rules = proof.result.rules;
-  for (const CheckedLine& line : proof.lines) rules |= line.rules;
-  return rules;
-}
-
 std::optional<Account> accountOf(Mode mode, std::string_view first, std::string_view second,
                                  const SolutionSteps& steps, int digits) {
   auto answer = exactValue(mode, first, second, digits);

@@ -14,9 +14,16 @@ struct Account {
   Proof proof;
 
   /// Whether a line is false, or is a result that is not the value of the task.
-  bool isMarked(std::size_t line) const;
+  bool isMarked(std::size_t line) const {
+    return proof.lines[line].mark == Mark::isFalse ||
+           (proof.resultLine == line && proof.result.mark == Mark::isFalse);
+  }
   /// All rules by which lines and the result come to be false.
-  Rules rules() const;
+  Rules rules() const {
+    Rules rules = proof.result.rules;
+    for (const CheckedLine& line : proof.lines) rules |= line.rules;
+    return rules;
+  }
 };
 
 /// Of a task as typed and the steps of its working; absent where the texts are refused. See `exactValue` and

@@ -286,12 +286,4 @@ Proof proofRead(const SolutionSteps& steps, std::string_view task, bool isExplai
   return ProofReader(task, isExplained).proof(steps);
 }
 
-std::vector<std::string_view> sentenceKeys(Rules rules) {
-  std::vector<std::string_view> keys;
-  for (const RuleKind& kind : ruleKinds()) {
-    if ((rules & kind.rule) != 0) keys.push_back(kind.key);
-  }
-  return keys;
-}
-
 }  // namespace tavi::exact

@@ -37,7 +37,4 @@ struct Proof {
 /// is false and `isExplained`, up to some milliseconds more.
 Proof proofRead(const SolutionSteps& steps, std::string_view task, bool isExplained = false);
 
-/// The keys of the sentences about some rules.
-std::vector<std::string_view> sentenceKeys(Rules rules);
-
 }  // namespace tavi::exact

@@ -28,4 +28,12 @@ std::span<const RuleKind> ruleKinds() {
   return kinds;
 }
 
+std::vector<std::string_view> sentenceKeys(Rules rules) {
+  std::vector<std::string_view> keys;
+  for (const RuleKind& kind : ruleKinds()) {
+    if ((rules & kind.rule) != 0) keys.push_back(kind.key);
+  }
+  return keys;
+}
+
 }  // namespace tavi::exact

@@ -1,9 +1,9 @@
 #pragma once
 
-#include <array>
 #include <cstdint>
 #include <span>
 #include <string_view>
+#include <vector>
 
 #include "input/mode.h"
 
@@ -39,5 +39,8 @@ struct RuleKind {
 
 /// All of them, a bit each.
 std::span<const RuleKind> ruleKinds();
+
+/// The keys of the sentences about some of them.
+std::vector<std::string_view> sentenceKeys(Rules rules);
 
 }  // namespace tavi::exact

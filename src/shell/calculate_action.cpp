@@ -50,7 +50,8 @@ bool CalculateViewController::performCalculation() {
 
   recordCalculation(texts, required(outcome.latexString, "a solution without its task"));
   SolutionViewController::showSolution(ancestor<AppPageTabBarController>(), outputHelper_.solutionSteps,
-                                       ChartRows{}, QStringLiteral("qrx_info"), std::nullopt, 100.0);
+                                       ChartRows{}, QStringLiteral("qrx_info"), std::nullopt, 100.0,
+                                       exact::AccountQuestion{*task.mode, firstText, secondText, {}});
   const QVariantList records = stepRecords(outputHelper_.solutionSteps);
   Analytics::logEvent(events::taviCalculate, QVariantMap{{"solutionSteps", records},
                                                          {"solutionStepsCount", qlonglong{records.size()}}});

@@ -42,6 +42,9 @@ Rectangle {
                     onMenuRequested: place => rowMenu.openFor(index, this, place)
                     viewWidth: page.width
                     measures: page.controller.measures
+                    isMarked: page.controller.marks[index] ?? false
+                    hasExactValue: page.controller.hasExactValue && content.isResult
+                    onExactRequested: page.controller.tappedExactButton()
                 }
             }
             DelegateChoice {

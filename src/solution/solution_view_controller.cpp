@@ -3,6 +3,8 @@
 #include <QClipboard>
 #include <QCoroTimer>
 #include <QGuiApplication>
+#include <QQuickWindow>
+#include <QtConcurrentRun>
 #include <algorithm>
 
 #include "appearance/color_manager.h"
@@ -17,6 +19,8 @@
 #include "shell/frame/screenshot.h"
 #include "shell/frame/toolbar_controller.h"
 #include "shell/frame/view_manager.h"
+#include "solution/exact/account_library.h"
+#include "solution/exact/exact_sheet_controller.h"
 #include "solution/share/share_sheet_controller.h"
 #include "solution/share/step_records.h"
 #include "solution/share/table_capture.h"
@@ -39,7 +43,7 @@ void SolutionViewController::showSolution(AppPageTabBarController* tabs,
                                           const std::optional<ChartRows>& chartSteps,
                                           const std::optional<QString>& manualImageName,
                                           const std::optional<RowHeights>& configuredRowHeight,
-                                          double rowHeight) {
+                                          double rowHeight, std::optional<exact::AccountQuestion> question) {
   if (!tabs) return;
   auto* page = qobject_cast<SolutionViewController*>(elementAt(tabs->viewControllers(), 1).get());
   if (!page || !solutionSteps) return;
@@ -48,10 +52,13 @@ void SolutionViewController::showSolution(AppPageTabBarController* tabs,
   page->data_.configuredRowHeight = configuredRowHeight;
   page->data_.rowHeight = rowHeight;
   page->manualImageName_ = manualImageName;
+  if (question) question->steps = *solutionSteps;
+  page->setQuestion(std::move(question));
   page->table_.reset(page->data_.rows());
   page->scrollToTop();
   tabs->select(1);
   emit page->solutionShown();
+  page->takeAccountLater();
 }
 
 void SolutionViewController::handleClearAllButton() {
@@ -60,9 +67,50 @@ void SolutionViewController::handleClearAllButton() {
   data_.chartSteps.clear();
   updateTabItem();
   manualImageName_.reset();
+  setQuestion({});
   hasFooter_ = false;
   table_.update(data_.rows());
   emit layoutChanged();
+}
+
+void SolutionViewController::setQuestion(std::optional<exact::AccountQuestion> question) {
+  question_ = std::move(question);
+  account_.reset();
+  ++questionNumber_;
+  emit marksChanged();
+}
+
+void SolutionViewController::takeAccountLater() {
+  if (!question_ || !view() || !view()->window()) return;
+  const auto begin = [this, number = questionNumber_] {
+    if (number != questionNumber_) return;
+    QtConcurrent::run([question = *question_] {
+      return accountOf(question);
+    }).then(this, [this, number](const std::optional<exact::Account>& account) {
+      if (number != questionNumber_) return;
+      account_ = account;
+      emit marksChanged();
+    });
+  };
+  connect(view()->window(), &QQuickWindow::frameSwapped, this, begin,
+          static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+QVariantList SolutionViewController::marks() const {
+  QVariantList marks;
+  for (std::size_t line = 0; account_ && line < account_->proof.lines.size(); ++line)
+    marks.append(account_->isMarked(line));
+  return marks;
+}
+
+void SolutionViewController::tappedExactButton() {
+  if (!question_) return;
+  if (!account_) account_ = accountOf(*question_);
+  if (!account_) return;
+  emit marksChanged();
+  auto sheet = std::make_shared<ExactSheetController>(*question_, *account_);
+  if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/exact/ExactSheet.qml"));
+  present(std::move(sheet));
 }
 
 void SolutionViewController::tappedShareButton() {

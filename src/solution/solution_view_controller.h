@@ -8,6 +8,7 @@
 #include <optional>
 #include <vector>
 
+#include "exact/account_module.h"
 #include "platform/notification_center.h"
 #include "remote/remote_config_manager.h"
 #include "remote/videos/video_row_controller.h"
@@ -31,6 +32,8 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   Q_PROPERTY(QAbstractItemModel* table READ table CONSTANT)
   Q_PROPERTY(tavi::RowMeasures measures READ measures CONSTANT)
   Q_PROPERTY(tavi::VideoRowController* videos READ videos CONSTANT)
+  Q_PROPERTY(bool hasExactValue READ hasExactValue NOTIFY marksChanged)
+  Q_PROPERTY(QVariantList marks READ marks NOTIFY marksChanged)
   Q_PROPERTY(bool isShareButtonHidden READ isShareButtonHidden NOTIFY layoutChanged)
   Q_PROPERTY(bool isManualButtonHidden READ isManualButtonHidden NOTIFY layoutChanged)
   Q_PROPERTY(bool hasFooter READ hasFooter NOTIFY layoutChanged)
@@ -53,11 +56,12 @@ class SolutionViewController : public tavi::AdHandlingViewController {
 
   /// Fills the solution page of the tabs (page 1) and opens it; nothing without tabs or steps. Fewer than two
   /// pages is a fatal stop, and so are steps without a list of charts. A step has the height configured for
-  /// its row or else `rowHeight`.
+  /// its row or else `rowHeight`. With a question, whose steps are left out, the page tells the exact value.
   static void showSolution(AppPageTabBarController* tabs, const std::optional<SolutionSteps>& solutionSteps,
                            const std::optional<ChartRows>& chartSteps,
                            const std::optional<QString>& manualImageName,
-                           const std::optional<RowHeights>& configuredRowHeight, double rowHeight);
+                           const std::optional<RowHeights>& configuredRowHeight, double rowHeight,
+                           std::optional<exact::AccountQuestion> question = {});
 
   /// Forgets the solution: the table is empty and the tab cannot be opened.
   void handleClearAllButton();
@@ -69,6 +73,9 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   SolutionTable* table() { return &table_; }
   static RowMeasures measures() { return rowMeasures; }
   VideoRowController* videos() { return &videos_; }
+  bool hasExactValue() const { return question_.has_value(); }
+  /// Of each step whether it is not true; empty until that is known.
+  QVariantList marks() const;
   bool isShareButtonHidden() const { return isShareButtonHidden_; }
   bool isManualButtonHidden() const { return isManualButtonHidden_; }
   bool hasFooter() const { return hasFooter_; }  ///< A quarter of the table's height, empty.
@@ -78,11 +85,14 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   /// Pictures the whole table while a message says so, and then offers the picture.
   Q_INVOKABLE void tappedShareButton();
   Q_INVOKABLE void manualButtonPressed();
+  /// Offers the exact value of the task.
+  Q_INVOKABLE void tappedExactButton();
   /// Puts the row on the clipboard; without such a row that of the result.
   Q_INVOKABLE void copyRow(int row, tavi::RowCopy::Form form);
 
  signals:
   void layoutChanged();
+  void marksChanged();
   void scrollToTopRequested();
   /// A new solution is on the screen.
   void solutionShown();
@@ -102,6 +112,9 @@ class SolutionViewController : public tavi::AdHandlingViewController {
 
   void updateTabItem();
   void scrollToTop();
+  void setQuestion(std::optional<exact::AccountQuestion> question);
+  /// Takes the account in another thread, once the working was seen.
+  void takeAccountLater();
   QCoro::Task<> share();
   /// The rows as they stand: the lock of the videos is not among what they hold.
   std::vector<SolutionRow> picturedRows() const;
@@ -115,6 +128,9 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   SolutionTableData data_;
   QPointer<QQuickItem> tableView_;
   std::optional<QString> manualImageName_;
+  std::optional<exact::AccountQuestion> question_;
+  std::optional<exact::Account> account_;
+  quint64 questionNumber_ = 0;
 
   SolutionTable table_;
   VideoRowController videos_;

@@ -123,6 +123,16 @@ struct Radical {
   [[nodiscard]] std::string mathml() const;
 };
 
+/// A bar over its content: the period of a decimal.
+struct Overline {
+  List content;
+
+  static void read(Reader& reader, const CommandInLine& command, List& into);
+  Extent set(Compositor& compositor, Style style) const;
+  [[nodiscard]] std::string say(const Speaker& speaker) const;
+  [[nodiscard]] std::string mathml() const;
+};
+
 /// `\left … \right`; the delimiter 0 is the invisible one, written as a point.
 struct Fence {
   char32_t opening = 0;
@@ -150,7 +160,7 @@ struct Scripts {
 };
 
 struct Atom {
-  std::variant<Symbol, Space, Text, Group, Fraction, Radical, Fence, Scripts> content;
+  std::variant<Symbol, Space, Text, Group, Fraction, Radical, Overline, Fence, Scripts> content;
 };
 
 /// The atom that carries the scripts, or the atom itself.

@@ -5,6 +5,8 @@
 #include <QSignalSpy>
 #include <functional>
 
+#include "solution/exact/account_library.h"
+#include "solution/exact/exact_sheet_controller.h"
 #include "solution/solution_stage.h"
 
 namespace tavi {
@@ -24,6 +26,59 @@ TEST_F(SolutionPageTest, ARowGrowsWhereItsFormulaWouldBeCut) {
   const QRectF placed = label->mapRectToItem(row, QRectF(0, 0, label->width(), label->height()));
   EXPECT_GE(placed.top(), 12);
   EXPECT_LE(placed.bottom(), row->height());
+}
+
+TEST_F(SolutionPageTest, TheResultOffersTheExactValueAndFalseLinesAreMarked) {
+  const SolutionSteps steps{formulaStep("Your Input", "9^{13}"), formulaStep("", "=\\infty"),
+                            formulaStep("Result", "9^{13} = \\infty")};
+  show(steps);
+  for (QQuickItem* cell : cells()) EXPECT_FALSE(cell->findChild<QQuickItem*>("exactButton"));
+  SolutionViewController::showSolution(tabs.get(), steps, ChartRows{}, QStringLiteral("qrx_info"),
+                                       std::nullopt, 100, exact::AccountQuestion{Mode::power, "13", "9", {}});
+  // Known some time after the working was seen.
+  ASSERT_TRUE(QTest::qWaitFor([this] {
+    window.grabWindow();
+    return solution->marks().size() == 3;
+  }));
+  EXPECT_EQ(solution->marks(), (QVariantList{false, true, true}));
+  window.grabWindow();
+  std::vector<bool> marked;
+  for (QQuickItem* cell : cells()) marked.push_back(cell->findChild<QQuickItem*>("mark")->isVisible());
+  EXPECT_EQ(marked, (std::vector<bool>{false, true, true}));
+
+  auto* button = cells().back()->findChild<QQuickItem*>("exactButton");
+  ASSERT_TRUE(button);
+  EXPECT_GE(std::min(button->width(), button->height()), 48);
+  button->forceActiveFocus();
+  QTest::keyClick(&window, Qt::Key_Return);
+  auto* sheet = qobject_cast<ExactSheetController*>(root->presentedController());
+  ASSERT_TRUE(sheet);
+  EXPECT_EQ(sheet->value(), QStringLiteral("9^{13} = 2541865828329"));
+  EXPECT_EQ(sheet->decimal(), QString());
+  ASSERT_EQ(sheet->sentences().size(), 1);
+  sheet->copyText();
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("2541865828329"));
+  solution->handleClearAllButton();
+  EXPECT_TRUE(solution->marks().isEmpty() && !solution->hasExactValue());
+}
+
+TEST(ExactSheet, ShowsAsManyDigitsAsWanted) {
+  const exact::AccountQuestion question{Mode::root, "", "2", {}};
+  ExactSheetController sheet(question, *accountOf(question));
+  EXPECT_EQ(sheet.decimal(), QStringLiteral("\\approx 1.41421356237310\\ldots"));
+  EXPECT_FALSE(sheet.hasFewerDigits());
+  for (int i = 0; i < 6; ++i) sheet.showMoreDigits();
+  EXPECT_GT(sheet.decimal().size(), 1000);
+  EXPECT_FALSE(sheet.hasMoreDigits());
+  for (int i = 0; i < 6; ++i) sheet.showFewerDigits();
+  EXPECT_EQ(sheet.decimal(), QStringLiteral("\\approx 1.41421356237310\\ldots"));
+  // The note has its three formulas among its words.
+  int formulas = 0;
+  const QVariantList pieces = sheet.sentences().constFirst().toMap()["pieces"].toList();
+  for (const QVariant& piece : pieces) formulas += piece.toMap().contains("formula") ? 1 : 0;
+  EXPECT_EQ(formulas, 3);
+  sheet.copyLatex();
+  EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\\sqrt{2}"));
 }
 
 TEST_F(SolutionPageTest, AWideFormulaScrollsSidewaysByKeyToItsEnd) {

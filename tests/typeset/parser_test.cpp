@@ -30,6 +30,7 @@ struct Outline {
     const std::string index = radical.index.empty() ? "" : "[" + outline(radical.index) + "]";
     return "root" + index + "{" + outline(radical.radicand) + "}";
   }
+  std::string operator()(const Overline& bar) const { return "bar{" + outline(bar.content) + "}"; }
   std::string operator()(const Fence& fence) const {
     const auto delimiter = [](char32_t character) {
       return character == 0 ? std::string(".") : encodeUtf8({&character, 1});

@@ -27,6 +27,19 @@ void power(Stage& stage) {
   expectRows(stage, 3);
 }
 
+// The exact value beside a working that ends in infinity, and of a root with its note.
+void exactValue(Stage& stage) {
+  stage.solve(Mode::power, u"13", u"9");
+  stage.tap(QStringLiteral("exactButton"));
+  stage.item(QStringLiteral("exactValue"));
+}
+
+void exactRoot(Stage& stage) {
+  stage.solve(Mode::root, u"2", u"2");
+  stage.tap(QStringLiteral("exactButton"));
+  stage.item(QStringLiteral("moreDigits"));
+}
+
 void root(Stage& stage) {
   stage.solve(Mode::root, u"3", u"27/8");
   expectRows(stage, 3);
@@ -235,6 +248,8 @@ constexpr QSize low{800, 360};
 constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"02-power", power},
                                                  {"03-root", root},
+                                                 {"49-exact-value", exactValue},
+                                                 {"50-exact-root", exactRoot},
                                                  {"04-many-steps", manySteps},
                                                  {"05-missing-value", missingValue},
                                                  {"48-keyboard", keyboard},

@@ -7,8 +7,12 @@ TableRow {
     id: cell
 
     required property var measures
+    property bool isMarked: false // What it says is not true.
+    property bool hasExactValue: false
     readonly property bool hasTitle: content.title !== ""
     readonly property real headHeight: hasTitle ? measures.padding + title.height + measures.gap : measures.gap
+
+    signal exactRequested
 
     height: Math.max(rowHeight.at(viewWidth), headHeight + Math.max(formula.implicitHeight, messageLabel.implicitHeight) + measures.padding)
     function pressed(key: int) {
@@ -18,7 +22,7 @@ TableRow {
     }
 
     Accessible.role: Accessible.StaticText
-    Accessible.name: [content.title, content.message || formula.spokenText].filter(text => text).join(", ")
+    Accessible.name: [content.title, content.message || formula.spokenText, isMarked ? qsTrId("exactLineFalse") : ""].filter(text => text).join(", ")
 
     // The card of the whole table is rounded where it begins and ends.
     Rectangle {
@@ -48,12 +52,23 @@ TableRow {
         color: Theme.pink
     }
 
+    Rectangle {
+        objectName: "mark"
+        visible: cell.isMarked
+        x: cell.measures.barWidth + 2
+        y: scrollView.y + (scrollView.height - height) / 2
+        width: 6
+        height: 6
+        radius: 3
+        color: Theme.accentText
+    }
+
     Text {
         id: title
 
         x: cell.measures.edge
         y: formula.visible || messageLabel.visible ? cell.measures.padding : (parent.height - height) / 2
-        width: parent.width - 2 * x
+        width: parent.width - 2 * x - exactButton.width
         visible: cell.hasTitle
         text: cell.content.title
         textFormat: Text.PlainText
@@ -111,6 +126,20 @@ TableRow {
             textColor: Theme.label
             backgroundColor: Theme.background
             Accessible.ignored: true
+        }
+    }
+
+    Loader {
+        id: exactButton
+
+        anchors.right: parent.right
+        z: 1
+        active: cell.hasExactValue
+        sourceComponent: IconButton {
+            objectName: "exactButton"
+            text: qsTrId("exactButton")
+            tintColor: cell.isMarked ? Theme.accentText : Theme.label
+            onClicked: cell.exactRequested()
         }
     }
 

@@ -1,0 +1,200 @@
+import QtQuick
+import Tavi
+
+// The exact value beside a working: value, decimal, why the working comes to something else, and copies.
+Column {
+    id: page
+
+    required property ExactSheetController controller
+
+    topPadding: 16
+    bottomPadding: 8
+    spacing: 8
+
+    Heading {
+        width: parent.width
+        leftPadding: 24
+        rightPadding: 24
+        text: page.controller.title
+    }
+
+    FormulaLine {
+        objectName: "exactValue"
+        latex: page.controller.value
+    }
+    FormulaLine {
+        objectName: "exactDecimal"
+        visible: latex
+        latex: page.controller.decimal
+    }
+    Row {
+        x: 16
+        visible: page.controller.hasMoreDigits || page.controller.hasFewerDigits
+
+        IconButton {
+            objectName: "fewerDigits"
+            enabled: page.controller.hasFewerDigits
+            opacity: enabled ? 1 : 0.4
+            text: qsTrId("exactFewerDigits")
+            tintColor: Theme.accentText
+            groundColor: Theme.groupedBackground
+            onClicked: page.controller.showFewerDigits()
+        }
+        IconButton {
+            objectName: "moreDigits"
+            enabled: page.controller.hasMoreDigits
+            opacity: enabled ? 1 : 0.4
+            text: qsTrId("exactMoreDigits")
+            tintColor: Theme.accentText
+            groundColor: Theme.groupedBackground
+            onClicked: page.controller.showMoreDigits()
+        }
+    }
+
+    Repeater {
+        model: page.controller.sentences
+
+        Flow {
+            id: sentence
+
+            required property var modelData
+
+            objectName: "sentence"
+            x: 24
+            width: page.width - 48
+            Accessible.role: Accessible.StaticText
+            Accessible.name: modelData.spoken
+
+            Repeater {
+                model: sentence.modelData.pieces
+
+                Item {
+                    id: piece
+
+                    required property var modelData
+
+                    width: word.text ? word.implicitWidth : Math.min(formula.implicitWidth, sentence.width)
+                    height: Math.max(24, word.text ? word.implicitHeight : formula.implicitHeight)
+                    clip: formula.implicitWidth > sentence.width
+
+                    Text {
+                        id: word
+
+                        anchors.verticalCenter: parent.verticalCenter
+                        text: piece.modelData.word ?? ""
+                        textFormat: Text.PlainText
+                        font: Theme.book(16)
+                        color: Theme.label
+                        Accessible.ignored: true
+                    }
+                    MathLabel {
+                        id: formula
+
+                        anchors.verticalCenter: parent.verticalCenter
+                        width: implicitWidth
+                        height: implicitHeight
+                        latex: piece.modelData.formula ?? ""
+                        fontSize: 18
+                        textColor: Theme.label
+                        backgroundColor: Theme.groupedBackground
+                        Accessible.ignored: true
+                    }
+                }
+            }
+        }
+    }
+
+    SheetButton {
+        objectName: "copyExactLatex"
+        focus: true
+        text: qsTrId("copyAsLatex")
+        iconText: Icons.copy
+        onClicked: page.controller.copyLatex()
+    }
+    SheetButton {
+        objectName: "copyExactText"
+        text: qsTrId("copyAsText")
+        iconText: Icons.copy
+        onClicked: page.controller.copyText()
+    }
+    SheetButton {
+        objectName: "closeExactSheet"
+        text: qsTrId("Cancel")
+        iconText: Icons.close
+        onClicked: page.controller.cancel()
+    }
+
+    // A formula that scrolls sideways where it is too wide.
+    component FormulaLine: Flickable {
+        id: line
+
+        property alias latex: formulaLabel.latex
+
+        width: page.width
+        height: formulaLabel.implicitHeight + 8
+        contentWidth: formulaLabel.implicitWidth + 48
+        contentHeight: height
+        flickableDirection: Flickable.HorizontalFlick
+        boundsBehavior: Flickable.StopAtBounds
+        interactive: contentWidth > width
+        clip: interactive
+        activeFocusOnTab: interactive
+        Accessible.role: Accessible.StaticText
+        Accessible.name: formulaLabel.spokenText
+        Keys.onLeftPressed: contentX = Math.max(0, contentX - 48)
+        Keys.onRightPressed: contentX = Math.max(0, Math.min(contentWidth - width, contentX + 48))
+
+        MathLabel {
+            id: formulaLabel
+
+            x: 24
+            anchors.verticalCenter: parent.verticalCenter
+            width: implicitWidth
+            height: implicitHeight
+            fontSize: 22
+            textColor: Theme.label
+            backgroundColor: Theme.groupedBackground
+            Accessible.ignored: true
+        }
+        FocusRing {
+            control: line
+            ground: Theme.groupedBackground
+        }
+    }
+
+    component SheetButton: Pressable {
+        id: row
+
+        property string iconText
+
+        width: page.width
+        height: 56
+        Keys.onDownPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
+        Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
+
+        background: Rectangle {
+            color: Theme.label
+            opacity: row.down ? 0.12 : row.isHovered ? 0.05 : 0
+        }
+        contentItem: Row {
+            leftPadding: 24
+            spacing: 24
+
+            Icon {
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.iconText
+            }
+            Text {
+                anchors.verticalCenter: parent.verticalCenter
+                text: row.text
+                font: Theme.book(16)
+                color: Theme.label
+            }
+        }
+
+        FocusRing {
+            control: row
+            ground: Theme.groupedBackground
+        }
+    }
+}
