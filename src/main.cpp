@@ -3,6 +3,7 @@
 
 #include "number/fatal_stop.h"
 #include "shell/launch/application.h"
+#include "shell/launch/command_line.h"
 
 namespace {
 
@@ -22,6 +23,12 @@ namespace {
 
 int main(int argumentCount, char** arguments) {
   std::set_terminate(endWithReason);
+  if (argumentCount > 1)
+    if (const auto answer = tavi::answerToOption(arguments[1])) {
+      std::fwrite(answer->data(), 1, answer->size(), stdout);
+      return 0;
+    }
   tavi::Application application(argumentCount, arguments);
-  return application.launch() ? tavi::Application::exec() : 0;
+  const std::optional<int> ending = application.launch(tavi::Application::arguments().mid(1));
+  return ending ? *ending : tavi::Application::exec();
 }

@@ -35,6 +35,9 @@ class ErrorManager {
   /// count of numbers shows nothing.
   void showErrorMessage(const QString& key) const;
 
+  /// The words of such a key; absent for one with the wrong count of numbers.
+  static std::optional<QString> wordsOf(const QString& key);
+
   /// Takes the words away again that still stand over the screen: the user goes on.
   void withdrawMessage() const { presenter_.hideToast(); }
 
@@ -42,9 +45,6 @@ class ErrorManager {
   int requiredAmountOfFields = 0;  ///< How many fields the task needs; 0 leaves all fields alone.
 
  private:
-  /// The words of a key, none for one with the wrong count of numbers.
-  static std::optional<QString> wordsOf(const QString& key);
-
   MessagePresenter presenter_;
 };
 

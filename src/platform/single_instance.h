@@ -1,8 +1,10 @@
 #pragma once
 
 #include <QLocalServer>
+#include <QLocalSocket>
 #include <QLockFile>
 #include <QString>
+#include <QStringList>
 #include <chrono>
 #include <functional>
 
@@ -19,17 +21,19 @@ class SingleInstance : public QObject {
                           std::chrono::milliseconds patience = std::chrono::seconds(2));
 
   /// True for the first process and where nothing can be found out. False when another one was there and has
-  /// answered that it shows its window. To be called once, before anything in the folder is opened.
-  bool isFirst();
+  /// answered that it shows its window, and taken the arguments along. To be called once, before anything in
+  /// the folder is opened.
+  bool isFirst(const QStringList& arguments = {});
 
  signals:
-  /// In the first process: another one was started.
-  void shown();
+  /// In the first process: another one was started, with these arguments.
+  void shown(const QStringList& arguments);
 
  private:
   void listen();
-  bool isShownByFirst();
+  bool isShownByFirst(const QStringList& arguments);
   void answer();
+  void read(QLocalSocket& socket);
 
   std::chrono::milliseconds patience_;
   QString socketPath_;

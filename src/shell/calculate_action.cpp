@@ -4,7 +4,6 @@
 
 #include "appearance/interface_colors.h"
 #include "number/fatal_stop.h"
-#include "output/tavi_error.h"
 #include "platform/analytics.h"
 #include "remote/analytics_events.h"
 #include "shell/calculate_view_controller.h"
@@ -37,17 +36,10 @@ bool CalculateViewController::performCalculation() {
   const Task task{modeOf(mode()), firstText, secondText, firstId, secondId};
   outputHelper_.reset();
   const Rehearsal rehearsal = rehearse(task, outputHelper_, basicOperationHelper_);
-  if (std::holds_alternative<ExpansionTooLong>(rehearsal)) {
-    return rejectCalculation(TaviError::calculationTooLong, {firstId});
-  }
-  if (std::holds_alternative<FatalStop>(rehearsal)) {
-    return rejectCalculation(TaviError::calculationOutOfRange, {firstId, secondId});
-  }
-  const auto& outcome = std::get<CalculationOutcome>(rehearsal);
-  if (outcome.errorKey) {
-    return rejectCalculation(*outcome.errorKey, required(outcome.errorFieldIds, "an error without fields"));
-  }
+  if (const std::optional<Rejection> rejection = rejectionOf(task, rehearsal))
+    return rejectCalculation(rejection->key, rejection->fieldIds);
 
+  const auto& outcome = std::get<CalculationOutcome>(rehearsal);
   recordCalculation(texts, required(outcome.latexString, "a solution without its task"));
   SolutionViewController::showSolution(ancestor<AppPageTabBarController>(), outputHelper_.solutionSteps,
                                        ChartRows{}, QStringLiteral("qrx_info"), std::nullopt, 100.0,

@@ -2,6 +2,8 @@
 
 #include <utility>
 
+#include "output/tavi_error.h"
+
 namespace tavi {
 
 namespace {
@@ -47,6 +49,17 @@ Rehearsal rehearse(const Task& task, std::int64_t limit) {
     outcome->solutionSteps = std::move(output.solutionSteps);
   }
   return ending;
+}
+
+std::optional<Rejection> rejectionOf(const Task& task, const Rehearsal& ending) {
+  const std::string first(task.firstId);
+  if (std::holds_alternative<ExpansionTooLong>(ending))
+    return Rejection{std::string(TaviError::calculationTooLong), {first}};
+  if (std::holds_alternative<FatalStop>(ending))
+    return Rejection{std::string(TaviError::calculationOutOfRange), {first, std::string(task.secondId)}};
+  const auto& outcome = std::get<CalculationOutcome>(ending);
+  if (!outcome.errorKey) return std::nullopt;
+  return Rejection{*outcome.errorKey, required(outcome.errorFieldIds, "an error without fields")};
 }
 
 }  // namespace tavi

@@ -5,6 +5,7 @@
 #include <string>
 #include <string_view>
 #include <variant>
+#include <vector>
 
 #include "number/fatal_stop.h"
 #include "solver/exponent_solver.h"
@@ -34,5 +35,14 @@ Rehearsal rehearse(const Task& task, TaviStringOutput& output, TaviMathOperation
 
 /// The same in a collector of its own.
 Rehearsal rehearse(const Task& task, std::int64_t limit = copyLimit);
+
+/// What a user is told of a task without a solution: the error key, and the fields at fault.
+struct Rejection {
+  std::string key;
+  std::vector<std::string> fieldIds;
+};
+
+/// Absent where the task has a solution.
+std::optional<Rejection> rejectionOf(const Task& task, const Rehearsal& ending);
 
 }  // namespace tavi

@@ -15,10 +15,10 @@ namespace {
 class SingleInstanceTest : public testing::Test {
  protected:
   /// Another start, while this process goes on.
-  bool isOtherFirst() {
+  bool isOtherFirst(const QStringList& arguments = {}) {
     std::optional<bool> isFirst;
     const std::unique_ptr<QThread> thread(QThread::create(
-        [&] { isFirst = SingleInstance(folder_.path(), std::chrono::minutes(1)).isFirst(); }));
+        [&] { isFirst = SingleInstance(folder_.path(), std::chrono::minutes(1)).isFirst(arguments); }));
     thread->start();
     EXPECT_TRUE(waitUntil([&] { return thread->isFinished(); }));
     return isFirst.value_or(false);
@@ -30,17 +30,21 @@ class SingleInstanceTest : public testing::Test {
 TEST_F(SingleInstanceTest, ALaterStartShowsTheFirstOneAndEnds) {
   {
     SingleInstance first(folder_.path());
-    int shown = 0;
-    QObject::connect(&first, &SingleInstance::shown, [&shown] { ++shown; });
+    QList<QStringList> shown;
+    QObject::connect(&first, &SingleInstance::shown,
+                     [&shown](const QStringList& arguments) { shown.append(arguments); });
+    const QList<QStringList> asked{{}, {"root", "", "8 π\n"}, {QString(500'000, u'9')}};
     EXPECT_TRUE(first.isFirst());
-    EXPECT_FALSE(isOtherFirst());
-    EXPECT_FALSE(isOtherFirst());
-    EXPECT_EQ(shown, 2);
-    QLocalSocket stranger;
-    stranger.connectToServer(folder_.filePath("instance.socket"));
-    stranger.write(QByteArray(10'000, 'x'));
-    EXPECT_TRUE(waitUntil([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
-    EXPECT_EQ(shown, 2);
+    for (const QStringList& arguments : asked) EXPECT_FALSE(isOtherFirst(arguments));
+    EXPECT_EQ(shown, asked);
+    for (const QByteArray& words :
+         {QByteArray(10'000'000, 'x'), QByteArray("show\n"), QByteArray("show  {}\n")}) {
+      QLocalSocket stranger;
+      stranger.connectToServer(folder_.filePath("instance.socket"));
+      stranger.write(words);
+      EXPECT_TRUE(waitUntil([&] { return stranger.state() == QLocalSocket::UnconnectedState; }));
+    }
+    EXPECT_EQ(shown, asked);
   }
   EXPECT_TRUE(isOtherFirst()) << "the first one is gone";
 }

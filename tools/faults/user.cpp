@@ -202,7 +202,7 @@ struct Options {
 
 /// Acts until it has acted often enough. Memory is compared once everything has been opened a few times.
 int play(Application& application, const Options& options) {
-  if (!application.launch()) {
+  if (application.launch()) {
     say("runs already");
     return 0;
   }

@@ -46,7 +46,7 @@ QPoint middle(const QQuickItem& item) {
 }  // namespace
 
 Stage::Stage(Application& application) : application_(application), finger_(QTest::createTouchDevice()) {
-  if (!application_.launch()) throw Failure("it runs already");
+  if (application_.launch()) throw Failure("it runs already");
   bool hasFrame = false;
   const auto counting =
       QObject::connect(&window(), &QQuickWindow::frameSwapped, &window(), [&hasFrame] { hasFrame = true; });

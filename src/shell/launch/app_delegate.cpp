@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "input/error_manager.h"
+#include "number/fatal_stop.h"
 #include "output/catalogues.h"
 #include "platform/localization.h"
 #include "platform/preferences.h"
@@ -59,6 +60,22 @@ void AppDelegate::didFinishLaunching() {
   connect(qGuiApp, &QGuiApplication::applicationStateChanged, this, [this](Qt::ApplicationState state) {
     if (state == Qt::ApplicationActive) didBecomeActive();
   });
+}
+
+void AppDelegate::openTask(const Calculation& task) {
+  PreferenceStore& store = services_.userDefaults;
+  if (store.value(preferences::isOnboardingFinished) && store.value(preferences::isDsgvoAccepted))
+    drawer_->dismissPresented();
+  if (!task.inputParameters.isEmpty()) services_.calcManager.setCurrentSelectedCalculation(task);
+  const std::shared_ptr<AppToolbarController> root = AppDelegate(engine_, services_).appToolbarController();
+  drawer_->transition(root, [this] { drawer_->closeLeftView(); });
+  auto* tabs = qobject_cast<AppPageTabBarController*>(root->rootController());
+  auto* page = tabs ? qobject_cast<CalculateViewController*>(tabs->selectedController()) : nullptr;
+  if (!page) fatalStop("fresh pages without the one for input");
+  if (!task.inputParameters.isEmpty())
+    page->performCalculation();
+  else
+    page->segmentedControlValueChanged(task.setupParameter[CalculateViewController::modeKey].toInt());
 }
 
 void AppDelegate::didBecomeActive() {

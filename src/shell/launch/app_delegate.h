@@ -31,6 +31,10 @@ class AppDelegate : public QObject {
   /// The launch: remote records, first-start step, screen tree, window. To be called once.
   void didFinishLaunching();
 
+  /// Opens a picked record on fresh pages, its working where it has texts; whatever lies over the pages goes,
+  /// but not what is asked at a first start. After the launch.
+  void openTask(const Calculation& task);
+
   /// Asks for new remote values if the last ones are older than six hours, then tells the others.
   void didBecomeActive();
 

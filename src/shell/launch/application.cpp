@@ -6,6 +6,7 @@
 #include <QQuickWindow>
 #include <algorithm>
 #include <array>
+#include <cstdio>
 
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -16,6 +17,7 @@
 #include "platform/motion.h"
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
+#include "shell/launch/command_line.h"
 #include "shell/settings/settings_view_controller.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
@@ -86,13 +88,20 @@ Application::~Application() {
   Analytics::setSink({});
 }
 
-bool Application::launch() {
-  if (!instance_.isFirst()) return false;
+std::optional<int> Application::launch(const QStringList& arguments) {
+  const auto asked = readCommandLine(arguments);
+  if (const auto* refusal = std::get_if<StartRefusal>(&asked)) {
+    std::fputs(qPrintable(QStringLiteral("tavi: ") + refusal->words), stderr);
+    return refusal->exitCode;
+  }
+  const auto& task = std::get<std::optional<Calculation>>(asked);
+  if (!instance_.isFirst(task ? argumentsOf(*task) : QStringList())) return 0;
   startMeasuring();
   delegate_.emplace(engine_, AppServices{.measurement = measurement_.get()});
   delegate_->didFinishLaunching();
-  connect(&instance_, &SingleInstance::shown, this, &Application::showWindow);
-  return true;
+  if (task) delegate_->openTask(*task);
+  connect(&instance_, &SingleInstance::shown, this, &Application::show);
+  return std::nullopt;
 }
 
 void Application::startMeasuring() {
@@ -105,11 +114,15 @@ void Application::startMeasuring() {
   connect(this, &QCoreApplication::aboutToQuit, measurement_.get(), &MeasurementClient::finish);
 }
 
-void Application::showWindow() {
+void Application::show(const QStringList& arguments) {
   QQuickWindow* window = delegate_->window();
   window->setWindowStates(window->windowStates() & ~Qt::WindowMinimized);
   window->raise();
   window->requestActivate();
+  // They were read before; whoever asks otherwise is none of us.
+  const auto asked = readCommandLine(arguments);
+  const auto* task = std::get_if<std::optional<Calculation>>(&asked);
+  if (task && *task) delegate_->openTask(**task);
 }
 
 }  // namespace tavi

@@ -18,9 +18,11 @@ class Application : public QGuiApplication {
   Application(int& argumentCount, char** arguments);
   ~Application() override;
 
-  /// Opens the window. False when the application of this user runs already: then that one's window comes to
-  /// the front, and this process is to end.
-  [[nodiscard]] bool launch();
+  /// Opens the window, with the task that the arguments behind the program's name ask for. Absent when the
+  /// event loop is to run; otherwise the process is to end with this code: where the arguments are wrong,
+  /// which standard error tells, or where the application of this user runs already. Then that one's window
+  /// comes to the front, and the task goes to it.
+  [[nodiscard]] std::optional<int> launch(const QStringList& arguments = {});
 
   /// What runs the screens; there once the window was opened.
   AppDelegate& delegate() { return *delegate_; }
@@ -28,7 +30,7 @@ class Application : public QGuiApplication {
 
  private:
   void startMeasuring();
-  void showWindow();
+  void show(const QStringList& arguments);
 
   SingleInstance instance_;
   std::unique_ptr<MeasurementClient> measurement_;  // none where no collector is named

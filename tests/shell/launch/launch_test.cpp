@@ -5,6 +5,7 @@
 #include "platform/test_support.h"
 #include "remote/introduction/onboard_view_controller.h"
 #include "shell/frame/view_manager.h"
+#include "shell/launch/command_line.h"
 #include "shell/launch/launch_fixture.h"
 
 namespace tavi {
@@ -117,6 +118,44 @@ TEST_F(LaunchTest, BuildsEachControllerOnce) {
   EXPECT_EQ(delegate->calculateViewController(), delegate->calculateViewController());
   EXPECT_EQ(delegate->pageTabBarController()->viewControllers()[0], delegate->calculateViewController());
   EXPECT_EQ(delegate->drawer()->rootController(), delegate->appToolbarController().get());
+}
+
+TEST_F(LaunchTest, OpensAnAskedTaskOnFreshPagesWhateverIsOpen) {
+  preferences.setValue("isOnboardingFinished", true);
+  preferences.setValue("isDsgvoAccepted", true);
+  launch();
+  const auto open = [this](const QStringList& arguments) {
+    delegate->openTask(*std::get<std::optional<Calculation>>(readCommandLine(arguments)));
+    QCoreApplication::processEvents();
+  };
+  const auto tabs = [this] {
+    auto* toolbarController = qobject_cast<AppToolbarController*>(delegate->drawer()->rootController());
+    return qobject_cast<AppPageTabBarController*>(toolbarController->rootController());
+  };
+  const auto fields = [&] {
+    const auto* page = qobject_cast<CalculateViewController*>(tabs()->viewControllers()[0].get());
+    return page->aTextField.front()->text() + u' ' + page->xTextField.front()->text();
+  };
+  delegate->drawer()->setLeftViewOpened(true);
+  delegate->leftViewController()->showSettings();
+  open({"root", "", "−8/27"});
+  EXPECT_EQ(tabs()->selectedIndex(), 1);
+  EXPECT_TRUE(tabs()->viewControllers()[1]->tabItem()->isEnabled());
+  EXPECT_EQ(fields(), " -8/27");
+  EXPECT_FALSE(delegate->drawer()->isLeftViewOpened());
+  EXPECT_TRUE(waitUntil([this] { return !delegate->drawer()->presentedController(); }));
+  EXPECT_EQ(calcManager.calculations().size(), 2) << "it is in the history";
+
+  delegate->leftViewController()->didSelectRow(LeftViewController::mainSection, 1);
+  open({"power"});
+  EXPECT_EQ(tabs()->selectedIndex(), 0);
+  EXPECT_TRUE(openCalculatePage().modeAView->isVisible());
+  EXPECT_EQ(fields(), " -8/27") << "what was typed stays";
+
+  open({"power", "-2", "3/2"});
+  delegate->solutionViewController()->tappedShareButton();
+  open({"root"});
+  EXPECT_TRUE(openCalculatePage().modeBView->isVisible());
 }
 
 TEST_F(LaunchTest, TheMenusCalculateRowHandsWhatWasTypedToAFreshPage) {
