@@ -107,6 +107,11 @@ def package_faults(language):
     for field in re.findall(r"^(GenericName|Comment|Keywords|Name)=", desktop.split("[Desktop Action")[0], re.MULTILINE):
         if field != "Name" and f"\n{field}[{language}]=" not in desktop:
             yield f"the desktop file has no {field}[{language}]"
+    words = read(language)
+    for action in re.findall(r"^\[Desktop Action (\w+)\]", desktop, re.MULTILINE):
+        section = desktop.split(f"[Desktop Action {action}]")[1].split("\n[")[0]
+        if f"\nName[{language}]={words[action].translation}\n" not in section:
+            yield f"the desktop file's action {action} has another name than its key"
     lang = "{http://www.w3.org/XML/1998/namespace}lang"
     metainfo = xml.parse(next(PACKAGING.glob("*.metainfo.xml")))
     for tag in ("summary", "p", "li", "developer_name", "caption"):
