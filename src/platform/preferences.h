@@ -20,6 +20,10 @@ inline const Preference<QDateTime> firstAppStartAt{QLatin1StringView("firstAppSt
 inline const Preference<QString> appearance{QLatin1StringView("appearance")};
 inline const Preference<QString> language{QLatin1StringView("language")};
 
+// The place of the window, and the size of formulas in per cent of the usual one; 0 until it is chosen.
+inline const Preference<QVariantMap> windowPlace{QLatin1StringView("windowPlace")};
+inline constexpr Preference<qlonglong> formulaScale{QLatin1StringView("formulaScale"), 0};
+
 // Introduction and consent.
 inline constexpr Preference<bool> isOnboardingFinished{QLatin1StringView("isOnboardingFinished"), false};
 inline constexpr Preference<bool> isDsgvoAccepted{QLatin1StringView("isDsgvoAccepted"), false};

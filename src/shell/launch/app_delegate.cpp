@@ -91,8 +91,9 @@ void AppDelegate::openWindow() {
   window_ = loadPage<QQuickWindow>(
       engine_, QStringLiteral("shell/frame/AppWindow.qml"),
       {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}});
+  windowMemory_.emplace(*window_, services_.userDefaults);
   drawer_->beginAppearance();
-  window_->show();
+  windowMemory_->show();
   drawer_->endAppearance();
 }
 

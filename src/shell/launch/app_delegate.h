@@ -4,6 +4,7 @@
 #include <QQuickWindow>
 #include <functional>
 #include <memory>
+#include <optional>
 
 #include "shell/app_services.h"
 #include "shell/calculate_view_controller.h"
@@ -11,6 +12,7 @@
 #include "shell/frame/page_tab_bar_controller.h"
 #include "shell/frame/toolbar_controller.h"
 #include "shell/history/history_table_view_controller.h"
+#include "shell/launch/window_place.h"
 #include "shell/menu/left_view_controller.h"
 #include "solution/solution_view_controller.h"
 
@@ -65,6 +67,7 @@ class AppDelegate : public QObject {
   std::shared_ptr<AppToolbarController> appToolbarController_;
   std::shared_ptr<AppNavigationDrawerController> drawer_;
   std::unique_ptr<QQuickWindow> window_;
+  std::optional<WindowMemory> windowMemory_;
 };
 
 }  // namespace tavi
