@@ -735,6 +735,22 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>Dark</source>
         <translation>Dunkel</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Formeln</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Größe</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Formeln kleiner</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Formeln größer</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Sprache</translation>

@@ -735,6 +735,22 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Dark</source>
         <translation>Dark</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Formulas</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Size</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Smaller formulas</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Larger formulas</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Language</translation>

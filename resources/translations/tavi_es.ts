@@ -735,6 +735,22 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <source>Dark</source>
         <translation>Oscuro</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Fórmulas</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Tamaño</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Fórmulas más pequeñas</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Fórmulas más grandes</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Idioma</translation>

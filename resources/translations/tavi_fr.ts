@@ -735,6 +735,22 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <source>Dark</source>
         <translation>Sombre</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Formules</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Taille</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Formules plus petites</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Formules plus grandes</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Langue</translation>

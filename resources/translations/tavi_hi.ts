@@ -735,6 +735,22 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Dark</source>
         <translation>गहरा</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>सूत्र</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>आकार</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>सूत्र छोटे करें</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>सूत्र बड़े करें</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>भाषा</translation>

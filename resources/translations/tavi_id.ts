@@ -735,6 +735,22 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <source>Dark</source>
         <translation>Gelap</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Rumus</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Ukuran</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Perkecil rumus</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Perbesar rumus</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Bahasa</translation>

@@ -735,6 +735,22 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Dark</source>
         <translation>ダーク</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>数式</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>大きさ</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>数式を小さく</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>数式を大きく</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>言語</translation>

@@ -735,6 +735,22 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Dark</source>
         <translation>어둡게</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>수식</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>크기</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>수식 작게</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>수식 크게</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>언어</translation>

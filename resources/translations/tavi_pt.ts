@@ -735,6 +735,22 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <source>Dark</source>
         <translation>Escuro</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Fórmulas</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Tamanho</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Fórmulas menores</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Fórmulas maiores</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Idioma</translation>

@@ -735,6 +735,22 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Dark</source>
         <translation>Тёмное</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>Формулы</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>Размер</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>Уменьшить формулы</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>Увеличить формулы</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Язык</translation>

@@ -735,6 +735,22 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Dark</source>
         <translation>深色</translation>
     </message>
+    <message id="formulas">
+        <source>Formulas</source>
+        <translation>算式</translation>
+    </message>
+    <message id="formulaSize">
+        <source>Size</source>
+        <translation>大小</translation>
+    </message>
+    <message id="formulaSmaller">
+        <source>Smaller formulas</source>
+        <translation>缩小算式</translation>
+    </message>
+    <message id="formulaLarger">
+        <source>Larger formulas</source>
+        <translation>放大算式</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>语言</translation>

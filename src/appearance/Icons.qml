@@ -26,5 +26,7 @@ QtObject {
     readonly property string unfold: "\uf140"
     readonly property string search: "\uf349"
     readonly property string more: "\uf1d9"
+    readonly property string minus: "\uf374"
+    readonly property string plus: "\uf415"
     readonly property string history: "\uf2da"
 }

@@ -2,6 +2,7 @@
 
 #include "appearance/appearance.h"
 #include "appearance/contrast.h"
+#include "appearance/formula_scale.h"
 #include "appearance/interface_colors.h"
 #include "appearance/interface_fonts.h"
 #include "platform/motion.h"
@@ -10,6 +11,7 @@ namespace tavi {
 
 Theme::Theme(QObject* parent) : QObject(parent) {
   connect(&Appearance::shared(), &Appearance::changed, this, &Theme::appearanceChanged);
+  connect(&FormulaScale::shared(), &FormulaScale::changed, this, &Theme::formulaPercentChanged);
   connect(&Motion::shared(), &Motion::changed, this, &Theme::motionChanged);
 }
 
@@ -19,6 +21,10 @@ bool Theme::isDark() {
 
 bool Theme::isMotionReduced() {
   return Motion::shared().isReduced();
+}
+
+int Theme::formulaPercent() {
+  return FormulaScale::shared().percent();
 }
 
 QColor Theme::label() {

@@ -16,6 +16,7 @@ class Theme : public QObject {
   QML_SINGLETON
   Q_PROPERTY(bool isDark READ isDark NOTIFY appearanceChanged)
   Q_PROPERTY(bool isMotionReduced READ isMotionReduced NOTIFY motionChanged)
+  Q_PROPERTY(int formulaPercent READ formulaPercent NOTIFY formulaPercentChanged)
   Q_PROPERTY(QColor label READ label NOTIFY appearanceChanged)
   Q_PROPERTY(QColor secondaryGray READ secondaryGray NOTIFY appearanceChanged)
   Q_PROPERTY(QColor background READ background NOTIFY appearanceChanged)
@@ -42,6 +43,7 @@ class Theme : public QObject {
 
   static bool isDark();
   static bool isMotionReduced();  ///< What would move stands at once.
+  static int formulaPercent();    ///< The size of a working's formulas, 100 for the usual one.
   static QColor label();
   static QColor secondaryGray();
   static QColor background();
@@ -78,6 +80,7 @@ class Theme : public QObject {
  signals:
   void appearanceChanged();
   void motionChanged();
+  void formulaPercentChanged();
 };
 
 }  // namespace tavi

@@ -1,11 +1,8 @@
 #include "platform/motion.h"
 
-#include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
-#include <QDBusPendingReply>
-#include <QDBusVariant>
 #include <utility>
+
+#include "platform/desktop_settings.h"
 
 namespace tavi {
 
@@ -19,20 +16,7 @@ void Motion::setReduced(bool isReduced) {
 }
 
 void Motion::followSystem() {
-  const QDBusConnection bus = QDBusConnection::sessionBus();
-  if (!bus.isConnected()) return;
-  QDBusMessage question = QDBusMessage::createMethodCall(
-      QStringLiteral("org.freedesktop.portal.Desktop"), QStringLiteral("/org/freedesktop/portal/desktop"),
-      QStringLiteral("org.freedesktop.portal.Settings"), QStringLiteral("Read"));
-  question << QStringLiteral("org.gnome.desktop.interface") << QStringLiteral("enable-animations");
-  auto* watcher = new QDBusPendingCallWatcher(bus.asyncCall(question), this);
-  connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
-    const QDBusPendingReply<QDBusVariant> answer = *watcher;
-    watcher->deleteLater();
-    if (answer.isError()) return;
-    // The portal wraps the value once more.
-    QVariant value = answer.value().variant();
-    if (value.canConvert<QDBusVariant>()) value = value.value<QDBusVariant>().variant();
+  askDesktop(*this, QStringLiteral("enable-animations"), [this](const QVariant& value) {
     if (value.typeId() == QMetaType::Bool) setReduced(!value.toBool());
   });
 }

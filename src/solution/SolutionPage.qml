@@ -9,8 +9,12 @@ Rectangle {
     required property SolutionViewController controller
     readonly property bool hasRoomBeside: width - Theme.tabletWidth >= 2 * 96
 
+    // Of all rows, changed by the table.
+    property int formulaPercent: 100
+
     View.kind: View.Plain
     color: Theme.page
+    Component.onCompleted: formulaPercent = Theme.formulaPercent
 
     ListView {
         id: table
@@ -45,6 +49,7 @@ Rectangle {
                     isMarked: page.controller.marks[index] ?? false
                     hasExactValue: page.controller.hasExactValue && content.isResult
                     onExactRequested: page.controller.tappedExactButton()
+                    formulaPercent: page.formulaPercent
                 }
             }
             DelegateChoice {
@@ -63,6 +68,24 @@ Rectangle {
                     measures: page.controller.measures
                     videos: page.controller.videos
                 }
+            }
+        }
+
+        readonly property int wantedPercent: Theme.formulaPercent
+
+        // What stands at the top stays there.
+        onWantedPercentChanged: {
+            const top = Math.max(originY, contentY);
+            const index = indexAt(width / 2, top);
+            const row = itemAtIndex(index);
+            const share = row ? (top - row.y) / row.height : 0;
+            const isAtTop = contentY <= originY - topMargin;
+            page.formulaPercent = wantedPercent;
+            forceLayout();
+            if (row && !isAtTop) {
+                positionViewAtIndex(index, ListView.Beginning);
+                contentY = row.y;
+                scrollBy(share * row.height);
             }
         }
 
@@ -132,6 +155,54 @@ Rectangle {
                 table.forceActiveFocus(Qt.TabFocusReason);
             }
         }
+    }
+
+    // Over the rows, so that they do not scroll meanwhile.
+    Item {
+        id: scaling
+
+        function by(steps: int) {
+            page.controller.scaleFormulas(Theme.formulaPercent + 10 * steps);
+        }
+
+        anchors.fill: table
+
+        WheelHandler {
+            acceptedModifiers: Qt.ControlModifier
+            target: null
+            // A notch is 15 degrees, of which a touch pad tells a few at a time.
+            onRotationChanged: {
+                const notches = Math.trunc(rotation / 15);
+                if (notches === 0)
+                    return;
+                rotation -= 15 * notches;
+                scaling.by(notches);
+            }
+        }
+        PinchHandler {
+            property int startPercent
+
+            objectName: "formulaPinch"
+            target: null
+            grabPermissions: PointerHandler.CanTakeOverFromAnything
+            onActiveChanged: startPercent = Theme.formulaPercent
+            onActiveScaleChanged: {
+                if (active)
+                    page.controller.scaleFormulas(5 * Math.round(startPercent * activeScale / 5));
+            }
+        }
+    }
+    Shortcut {
+        sequences: [StandardKey.ZoomIn, "Ctrl+="]
+        onActivated: scaling.by(1)
+    }
+    Shortcut {
+        sequences: [StandardKey.ZoomOut]
+        onActivated: scaling.by(-1)
+    }
+    Shortcut {
+        sequence: "Ctrl+0"
+        onActivated: page.controller.scaleFormulas(0)
     }
 
     // Until a row is chosen, the keyboard is at the whole table.

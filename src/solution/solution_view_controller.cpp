@@ -8,6 +8,7 @@
 #include <algorithm>
 
 #include "appearance/color_manager.h"
+#include "appearance/formula_scale.h"
 #include "number/fatal_stop.h"
 #include "platform/analytics.h"
 #include "platform/localization.h"
@@ -34,6 +35,7 @@ SolutionViewController::SolutionViewController(const RemoteConfigManager& remote
                                                const Links& links)
     : remoteConfig_(remoteConfig),
       notifications_(notifications),
+      preferences_(preferences),
       videos_(*this, preferences, settings, links) {
   updateTabItem();
 }
@@ -174,6 +176,10 @@ void SolutionViewController::presentShareSheet(const ShareItems& items) {
       SharedWorking{items.images.front(), picturedRows(), view() ? view()->width() : 0, subject()});
   if (engine()) sheet->setPage(*engine(), QStringLiteral("solution/share/ShareSheet.qml"));
   present(std::move(sheet));
+}
+
+void SolutionViewController::scaleFormulas(int percent) {
+  FormulaScale::shared().choose(preferences_, percent);
 }
 
 void SolutionViewController::copyRow(int row, RowCopy::Form form) {

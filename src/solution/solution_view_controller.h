@@ -87,6 +87,8 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   Q_INVOKABLE void manualButtonPressed();
   /// Offers the exact value of the task.
   Q_INVOKABLE void tappedExactButton();
+  /// Shows formulas at that size in per cent, now and from the next start on; 0 as the desktop says.
+  Q_INVOKABLE void scaleFormulas(int percent);
   /// Puts the row on the clipboard; without such a row that of the result.
   Q_INVOKABLE void copyRow(int row, tavi::RowCopy::Form form);
 
@@ -125,6 +127,7 @@ class SolutionViewController : public tavi::AdHandlingViewController {
 
   const RemoteConfigManager& remoteConfig_;
   NotificationCenter& notifications_;
+  PreferenceStore& preferences_;
   SolutionTableData data_;
   QPointer<QQuickItem> tableView_;
   std::optional<QString> manualImageName_;

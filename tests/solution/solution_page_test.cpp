@@ -7,6 +7,8 @@
 
 #include "solution/exact/account_library.h"
 #include "solution/exact/exact_sheet_controller.h"
+#include "appearance/formula_scale.h"
+#include "platform/preferences.h"
 #include "solution/solution_stage.h"
 
 namespace tavi {
@@ -92,6 +94,65 @@ TEST_F(SolutionPageTest, AWideFormulaScrollsSidewaysByKeyToItsEnd) {
   ASSERT_GT(hidden, 1000);
   for (double way = 0; way < hidden + 48; way += 48) QTest::keyClick(&window, Qt::Key_Right);
   EXPECT_EQ(scroll->property("contentX").toDouble(), hidden);
+}
+
+TEST_F(SolutionPageTest, FormulasAreScaledByKeyWheelAndSettingsAndTheTopRowStays) {
+  show(SolutionSteps(200, formulaStep("Step", "=\\frac{1}{2}")));
+  const auto size = [this] {
+    return cells().front()->findChild<QQuickItem*>("formula")->property("fontSize").toDouble();
+  };
+  const auto topRow = [this] {
+    window.grabWindow();
+    int index = -1;
+    QMetaObject::invokeMethod(&table(), "indexAt", Q_RETURN_ARG(int, index), Q_ARG(qreal, 100.0),
+                              Q_ARG(qreal, table().property("contentY").toDouble()));
+    return index;
+  };
+  const double usual = size();
+  table().setProperty("contentY", 5050.0);
+  const int top = topRow();
+  EXPECT_GT(top, 10);
+  QTest::keyClick(&window, Qt::Key_Plus, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(size(), 1.1 * usual);
+  for (int i = 0; i < 20; ++i) QTest::keyClick(&window, Qt::Key_Equal, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(size(), 2.5 * usual);
+  EXPECT_EQ(topRow(), top);
+  const QPointF place = table().mapToScene({100, 100});
+  for (int i = 0; i < 20; ++i) {
+    QWheelEvent turn(place, window.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, Qt::ControlModifier,
+                     Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window, &turn);
+  }
+  EXPECT_DOUBLE_EQ(size(), 0.7 * usual);
+  EXPECT_EQ(topRow(), top) << "it did not scroll either";
+  EXPECT_EQ(preferences.value(preferences::formulaScale), 70);
+
+  FormulaScale::shared().setSystemPercent(120);
+  EXPECT_DOUBLE_EQ(size(), 0.7 * usual) << "a choice holds";
+  QTest::keyClick(&window, Qt::Key_0, Qt::ControlModifier);
+  EXPECT_DOUBLE_EQ(size(), 1.2 * usual);
+  EXPECT_FALSE(preferences.contains(preferences::formulaScale));
+  FormulaScale::shared().setSystemPercent(FormulaScale::usual);
+  EXPECT_EQ(topRow(), top);
+}
+
+TEST_F(SolutionPageTest, TwoFingersScaleTheFormulas) {
+  show(SolutionSteps(20, formulaStep("Step", "=1")));
+  const QPoint middle = table().mapToScene({200, 300}).toPoint();
+  const std::unique_ptr<QPointingDevice> touch(QTest::createTouchDevice());
+  const auto at = [&](int reach) { return std::pair(middle - QPoint(0, reach), middle + QPoint(0, reach)); };
+  const auto [first, second] = at(50);
+  QTest::touchEvent(&window, touch.get()).press(0, first).press(1, second);
+  for (int reach = 55; reach <= 100; reach += 5) {
+    const auto [one, other] = at(reach);
+    QTest::touchEvent(&window, touch.get()).move(0, one).move(1, other);
+  }
+  const auto [one, other] = at(100);
+  QTest::touchEvent(&window, touch.get()).release(0, one).release(1, other);
+  EXPECT_GT(FormulaScale::shared().percent(), 110);
+  EXPECT_EQ(FormulaScale::shared().percent() % 5, 0);
+  EXPECT_EQ(preferences.value(preferences::formulaScale), FormulaScale::shared().percent());
+  FormulaScale::shared().choose(preferences, 0);
 }
 
 TEST_F(SolutionPageTest, MakesOnlyTheRowsThatCanBeSeen) {

@@ -4,6 +4,7 @@
 #include <array>
 
 #include "appearance/dt_text_field.h"
+#include "appearance/formula_scale.h"
 #include "appearance/interface_colors.h"
 #include "platform/localization.h"
 
@@ -240,6 +241,21 @@ void shareFromMenu(Stage& stage) {
   stage.share();
 }
 
+// A working with a command's text size; the usual one comes back, for the stations after it.
+template <int percent>
+void scaledFormulas(Stage& stage) {
+  manySteps(stage);
+  stage.picture();
+  stage.delegate().solutionViewController()->scaleFormulas(percent);
+}
+
+void usualFormulas(Stage& stage) {
+  manySteps(stage);
+  stage.picture();
+  QTest::keyClick(&stage.window(), Qt::Key_0, Qt::ControlModifier);
+  if (FormulaScale::shared().percent() != FormulaScale::usual) throw Failure("the formulas keep their size");
+}
+
 constexpr QSize phone{412, 870};
 constexpr QSize tablet{1280, 800};
 constexpr QSize narrow{360, 640};
@@ -299,6 +315,9 @@ constexpr auto darkSizeSteps =
                          {"40-dark-input-800x360", typingAt<Mode::power, 800, 360>},
                          {"41-dark-input-1280x800", typingAt<Mode::root, 1280, 800>},
                          {"42-dark-input-412x870", typingAt<Mode::power, 412, 870>}});
+constexpr auto scaleSteps = std::to_array<Step>({{"140-small-formulas", scaledFormulas<70>},
+                                                 {"141-large-formulas", scaledFormulas<250>},
+                                                 {"142-usual-formulas", usualFormulas}});
 constexpr auto startSteps = std::to_array<Step>({{"51-first-consent", firstConsent},
                                                  {"52-introduction-1", introductionPage1},
                                                  {"53-introduction-2", introductionPage2},
@@ -393,6 +412,7 @@ constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps
                                               {"tablet-around", tablet, false, tabletAroundSteps},
                                               {"narrow", narrow, false, narrowSteps, true},
                                               {"low-around", low, false, lowSteps},
+                                              {"scale", phone, false, scaleSteps},
                                               {"charts", phone, false, chartSteps},
                                               {"dark-charts", phone, true, darkChartSteps},
                                               {"tablet-charts", tablet, false, tabletChartSteps}});

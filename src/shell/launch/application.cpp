@@ -11,6 +11,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 
 #include "appearance/appearance.h"
+#include "appearance/formula_scale.h"
 #include "platform/analytics.h"
 #include "platform/application_context.h"
 #include "platform/localization.h"
@@ -81,6 +82,8 @@ Application::Application(int& argumentCount, char** arguments)
   speakStoredLanguage();
   Appearance::shared().followSystem();
   applyStoredAppearance(PreferenceStore::standard());
+  FormulaScale::shared().load(PreferenceStore::standard());
+  FormulaScale::shared().followSystem();
   Motion::shared().followSystem();
 }
 

@@ -66,6 +66,21 @@ Item {
             }
 
             SettingsGroup {
+                title: qsTrId("formulas")
+
+                SettingsStepper {
+                    objectName: "formulaSize"
+                    text: qsTrId("formulaSize")
+                    value: Theme.formulaPercent
+                    least: page.controller.leastFormulaPercent
+                    most: page.controller.mostFormulaPercent
+                    smallerName: qsTrId("formulaSmaller")
+                    largerName: qsTrId("formulaLarger")
+                    onStepped: way => page.controller.scaleFormulas(value + 10 * way)
+                }
+            }
+
+            SettingsGroup {
                 title: qsTrId("language")
 
                 SettingsRow {

@@ -80,6 +80,10 @@ void SettingsViewController::chooseAppearance(int choice) {
   emit changed();
 }
 
+void SettingsViewController::scaleFormulas(int percent) {
+  FormulaScale::shared().choose(services_.userDefaults, percent);
+}
+
 void SettingsViewController::chooseLanguage(const QString& code) {
   services_.userDefaults.setValue(preferences::language, code);
   emit changed();

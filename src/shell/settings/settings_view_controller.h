@@ -2,6 +2,7 @@
 
 #include <QVariantList>
 
+#include "appearance/formula_scale.h"
 #include "shell/app_services.h"
 #include "shell/frame/view_controller.h"
 #include "shell/history/history_transfer.h"
@@ -16,6 +17,8 @@ class SettingsViewController : public tavi::ViewController {
   QML_UNCREATABLE("Made by the application")
   Q_PROPERTY(QString label READ title CONSTANT)
   Q_PROPERTY(int appearance READ appearance NOTIFY changed)
+  Q_PROPERTY(int leastFormulaPercent MEMBER leastFormulaPercent CONSTANT)
+  Q_PROPERTY(int mostFormulaPercent MEMBER mostFormulaPercent CONSTANT)
   Q_PROPERTY(QVariantList languages READ languages CONSTANT)
   Q_PROPERTY(QString language READ language NOTIFY changed)
   Q_PROPERTY(QString languageName READ chosenLanguageName NOTIFY changed)
@@ -50,6 +53,8 @@ class SettingsViewController : public tavi::ViewController {
 
   // What the page calls.
   Q_INVOKABLE void chooseAppearance(int choice);
+  /// The size of a working's formulas; see FormulaScale.
+  Q_INVOKABLE void scaleFormulas(int percent);
   Q_INVOKABLE void chooseLanguage(const QString& code);
   Q_INVOKABLE void setMeasuring(bool isAccepted);
 
@@ -59,6 +64,8 @@ class SettingsViewController : public tavi::ViewController {
  private:
   AppServices services_;
   HistoryTransfer transfer_{*this, services_.calcManager, services_.notifications};
+  const int leastFormulaPercent = FormulaScale::least;
+  const int mostFormulaPercent = FormulaScale::most;
 };
 
 /// Shows the interface as the stored choice says.

@@ -9,6 +9,8 @@ TableRow {
     required property var measures
     property bool isMarked: false // What it says is not true.
     property bool hasExactValue: false
+    // Of the formula, in per cent of its usual size.
+    required property int formulaPercent
     readonly property bool hasTitle: content.title !== ""
     readonly property real headHeight: hasTitle ? measures.padding + title.height + measures.gap : measures.gap
 
@@ -122,7 +124,7 @@ TableRow {
             height: implicitHeight
             visible: scrollView.visible
             latex: cell.content.latex
-            fontSize: cell.measures.formulaSize(cell.viewWidth)
+            fontSize: cell.measures.formulaSize(cell.viewWidth) * cell.formulaPercent / 100
             textColor: Theme.label
             backgroundColor: Theme.background
             Accessible.ignored: true

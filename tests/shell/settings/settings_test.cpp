@@ -65,8 +65,9 @@ class SettingsTest : public LaunchTest {
 TEST_F(SettingsTest, AreReachedAndChangedByKey) {
   openSettings();
   ASSERT_TRUE(waitUntil([this] { return focused() == "closeSheetButton"; }));
-  for (const char* next : {"segment0", "segment1", "segment2", "languageRow", "historyExport",
-                           "historyImport", "measurementSwitch", "measurementSent", "closeSheetButton"}) {
+  for (const char* next :
+       {"segment0", "segment1", "segment2", "smaller", "larger", "languageRow", "historyExport",
+        "historyImport", "measurementSwitch", "measurementSent", "closeSheetButton"}) {
     QTest::keyClick(delegate->window(), Qt::Key_Tab);
     EXPECT_EQ(focused(), next);
   }
@@ -75,6 +76,15 @@ TEST_F(SettingsTest, AreReachedAndChangedByKey) {
   QTest::keyClick(delegate->window(), Qt::Key_Space);
   EXPECT_TRUE(Appearance::shared().isDark());
   EXPECT_EQ(preferences.value(preferences::appearance), "dark");
+
+  for (int i = 0; i < 20; ++i) {
+    if (!item("larger")->isEnabled()) break;
+    item("larger")->forceActiveFocus();
+    QTest::keyClick(delegate->window(), Qt::Key_Space);
+  }
+  EXPECT_EQ(preferences.value(preferences::formulaScale), FormulaScale::most);
+  EXPECT_EQ(item("stepperValue")->property("text"), "250\u202f%");
+  FormulaScale::shared().choose(preferences, 0);
 
   item("languageRow")->forceActiveFocus();
   QTest::keyClick(delegate->window(), Qt::Key_Return);
