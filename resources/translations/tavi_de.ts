@@ -751,6 +751,10 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>Larger formulas</source>
         <translation>Formeln größer</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>Hier erscheint die Rechnung.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Sprache</translation>

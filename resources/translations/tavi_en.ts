@@ -751,6 +751,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Larger formulas</source>
         <translation>Larger formulas</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>The working appears here.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Language</translation>

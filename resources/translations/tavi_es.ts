@@ -751,6 +751,10 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <source>Larger formulas</source>
         <translation>Fórmulas más grandes</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>Aquí aparecerá la solución.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Idioma</translation>

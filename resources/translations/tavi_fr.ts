@@ -751,6 +751,10 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <source>Larger formulas</source>
         <translation>Formules plus grandes</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>La solution s’affichera ici.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Langue</translation>

@@ -751,6 +751,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Larger formulas</source>
         <translation>सूत्र बड़े करें</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>पूरा हल यहाँ दिखेगा।</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>भाषा</translation>

@@ -751,6 +751,10 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <source>Larger formulas</source>
         <translation>Perbesar rumus</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>Penyelesaian akan tampil di sini.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Bahasa</translation>

@@ -751,6 +751,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Larger formulas</source>
         <translation>数式を大きく</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>解き方がここに表示されます。</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>言語</translation>

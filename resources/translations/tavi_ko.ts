@@ -751,6 +751,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Larger formulas</source>
         <translation>수식 크게</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>풀이가 여기에 표시됩니다.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>언어</translation>

@@ -751,6 +751,10 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <source>Larger formulas</source>
         <translation>Fórmulas maiores</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>A solução aparecerá aqui.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Idioma</translation>

@@ -751,6 +751,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Larger formulas</source>
         <translation>Увеличить формулы</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>Здесь появится решение.</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>Язык</translation>

@@ -751,6 +751,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Larger formulas</source>
         <translation>放大算式</translation>
     </message>
+    <message id="workingHere">
+        <source>The working appears here.</source>
+        <translation>解题过程会显示在这里。</translation>
+    </message>
     <message id="language">
         <source>Language</source>
         <translation>语言</translation>

@@ -34,6 +34,7 @@ class Theme : public QObject {
   Q_PROPERTY(QColor pink READ pink NOTIFY appearanceChanged)
   Q_PROPERTY(QColor darkMagenta READ darkMagenta NOTIFY appearanceChanged)
   Q_PROPERTY(int tabletWidth READ tabletWidth CONSTANT)
+  Q_PROPERTY(int sideBySideWidth READ sideBySideWidth CONSTANT)
   Q_PROPERTY(int lowHeight READ lowHeight CONSTANT)
   Q_PROPERTY(int lowBarHeight READ lowBarHeight CONSTANT)
   Q_PROPERTY(int touchTarget READ touchTarget CONSTANT)
@@ -63,6 +64,8 @@ class Theme : public QObject {
 
   /// Windows from this width on are laid out as a tablet's.
   static int tabletWidth() { return 840; }
+  /// From this width on input and working stand side by side.
+  static int sideBySideWidth() { return 1000; }
   /// Windows below this height go without the status strip and have bars of the height below.
   static int lowHeight() { return 560; }
   static int lowBarHeight() { return 40; }

@@ -28,7 +28,7 @@ Rectangle {
         clip: true
         model: page.controller.table
         boundsBehavior: Flickable.StopAtBounds
-        activeFocusOnTab: true
+        activeFocusOnTab: count > 0
         Accessible.role: Accessible.List
         Accessible.name: page.controller.tabItem.title
         footer: Item {
@@ -155,6 +155,17 @@ Rectangle {
                 table.forceActiveFocus(Qt.TabFocusReason);
             }
         }
+    }
+
+    // Beside the input the page can be seen before there is a working.
+    Label {
+        objectName: "workingHere"
+        anchors.centerIn: parent
+        width: Math.min(implicitWidth, parent.width - 64)
+        visible: table.count === 0
+        text: qsTrId("workingHere")
+        horizontalAlignment: Text.AlignHCenter
+        color: Theme.legible(Theme.secondaryGray, Theme.page)
     }
 
     // Over the rows, so that they do not scroll meanwhile.

@@ -59,8 +59,10 @@ void SolutionViewController::showSolution(AppPageTabBarController* tabs,
   page->table_.reset(page->data_.rows());
   page->scrollToTop();
   tabs->select(1);
-  emit page->solutionShown();
   page->takeAccountLater();
+  // Beside the input it is open already, and the keyboard stays there.
+  if (!tabs->isSideBySide()) return emit page->solutionShown();
+  if (page->isAppearing()) page->viewWillAppear();
 }
 
 void SolutionViewController::handleClearAllButton() {

@@ -23,7 +23,7 @@ void solve(Stage& stage) {
   stage.waitForToastsToGo();
   if (stage.solutionSteps().empty())
     stage.solve(Mode::power, u"-2", u"3/2");
-  else
+  else if (stage.shows(QStringLiteral("tab1")))
     stage.tap(QStringLiteral("tab1"));
 }
 
@@ -102,7 +102,7 @@ void settings(Stage& stage) {
 
 void inputManual(Stage& stage) {
   stage.clearTheView();
-  stage.tap(QStringLiteral("tab0"));
+  stage.openInput();
   stage.picture();
   stage.tap(QStringLiteral("manualButton"));
   waitFor(stage, QStringLiteral("manualScroll"));
@@ -156,12 +156,15 @@ void advertisement(Stage& stage) {
 
 void rating(Stage& stage) {
   stage.clearTheView();
-  stage.tap(QStringLiteral("tab0"));
+  stage.openInput();
   stage.picture();
   solve(stage);
   PreferenceStore::standard().setValue(preferences::counterForRating, 1);
   stage.picture();
-  stage.tap(QStringLiteral("tab0"));
+  if (stage.shows(QStringLiteral("tab0")))
+    stage.openInput();
+  else
+    stage.delegate().leftViewController()->didSelectRow(LeftViewController::mainSection, 0);
   waitFor(stage, QStringLiteral("StarRatingView"));
   stage.tap(QStringLiteral("StarRatingView"));
 }

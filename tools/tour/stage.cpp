@@ -86,11 +86,16 @@ void Stage::type(const QString& field, QStringView keys) {
     throw Failure(QStringLiteral("typed %1 into %2, which shows %3").arg(keys, field, text).toStdString());
 }
 
-void Stage::prepare(Mode mode, QStringView first, QStringView second) {
-  waitForToastsToGo();
+void Stage::openInput() {
+  if (!shows(QStringLiteral("tab0"))) return;
   tap(QStringLiteral("tab0"));
   waitUntil([this] { return delegate().pageTabBarController()->selectedIndex() == 0; },
             "the input page is open");
+}
+
+void Stage::prepare(Mode mode, QStringView first, QStringView second) {
+  waitForToastsToGo();
+  openInput();
   tap(QStringLiteral("toolbarRemoveButton"));
   const bool isPower = mode == Mode::power;
   tap(isPower ? QStringLiteral("segment0") : QStringLiteral("segment1"));

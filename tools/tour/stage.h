@@ -43,6 +43,9 @@ class Stage {
   void tap(const QString& name);
   void type(const QString& field, QStringView keys);
 
+  /// Opens the input page; beside the working it is open.
+  void openInput();
+
   /// Clears the input page, chooses the mode and types both texts, exponent or index first.
   void prepare(Mode mode, QStringView first, QStringView second);
 

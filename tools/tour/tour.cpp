@@ -315,6 +315,15 @@ constexpr auto darkSizeSteps =
                          {"40-dark-input-800x360", typingAt<Mode::power, 800, 360>},
                          {"41-dark-input-1280x800", typingAt<Mode::root, 1280, 800>},
                          {"42-dark-input-412x870", typingAt<Mode::power, 412, 870>}});
+constexpr auto wideSteps = std::to_array<Step>({{"130-wide-input-1000x700", at<typing, 1000, 700>},
+                                                {"131-wide-1000x700", at<manySteps, 1000, 700>},
+                                                {"132-wide-1280x800", at<manySteps, 1280, 800>},
+                                                {"133-wide-drawer-1280x800", openDrawer},
+                                                {"134-wide-1920x1080", cleared<at<manySteps, 1920, 1080>>},
+                                                {"135-narrow-again", at<manySteps, 412, 870>}});
+constexpr auto darkWideSteps = std::to_array<Step>({{"136-dark-wide-input-1000x700", at<typing, 1000, 700>},
+                                                    {"137-dark-wide-1280x800", at<manySteps, 1280, 800>},
+                                                    {"138-dark-wide-1920x1080", at<manySteps, 1920, 1080>}});
 constexpr auto scaleSteps = std::to_array<Step>({{"140-small-formulas", scaledFormulas<70>},
                                                  {"141-large-formulas", scaledFormulas<250>},
                                                  {"142-usual-formulas", usualFormulas}});
@@ -412,6 +421,8 @@ constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps
                                               {"tablet-around", tablet, false, tabletAroundSteps},
                                               {"narrow", narrow, false, narrowSteps, true},
                                               {"low-around", low, false, lowSteps},
+                                              {"wide", tablet, false, wideSteps},
+                                              {"dark-wide", tablet, true, darkWideSteps},
                                               {"scale", phone, false, scaleSteps},
                                               {"charts", phone, false, chartSteps},
                                               {"dark-charts", phone, true, darkChartSteps},

@@ -1,6 +1,10 @@
 #include "shell/frame/page_tab_bar_controller.h"
 
+#include <QPointer>
+#include <QQuickWindow>
 #include <QTimer>
+#include <algorithm>
+#include <iterator>
 #include <utility>
 
 #include "number/fatal_stop.h"
@@ -25,17 +29,54 @@ QList<TabItem*> AppPageTabBarController::tabItems() const {
 }
 
 ViewController* AppPageTabBarController::selectedController() const {
-  return viewControllers_.at(static_cast<std::size_t>(selectedIndex_)).get();
+  return pageAt(selectedIndex_);
+}
+
+ViewController* AppPageTabBarController::pageAt(int index) const {
+  return viewControllers_.at(static_cast<std::size_t>(index)).get();
+}
+
+std::vector<ViewController*> AppPageTabBarController::otherPages() const {
+  std::vector<ViewController*> others;
+  for (const auto& page : viewControllers_)
+    if (page.get() != selectedController()) others.push_back(page.get());
+  return others;
+}
+
+std::vector<ViewController*> AppPageTabBarController::visibleChildren() const {
+  std::vector<ViewController*> visible{selectedController()};
+  if (isSideBySide_) std::ranges::copy(otherPages(), std::back_inserter(visible));
+  return visible;
+}
+
+// The selected page stays as it is, with the focus that it has.
+void AppPageTabBarController::setSideBySide(bool isSideBySide) {
+  if (isSideBySide == isSideBySide_) return;
+  const int selected = selectedIndex_;
+  const std::vector<ViewController*> others = otherPages();
+  const QQuickItem* page = isViewLoaded() ? view() : nullptr;
+  const QPointer<QQuickItem> focused = page && page->window() ? page->window()->activeFocusItem() : nullptr;
+  if (isAppearing() && !isSideBySide)
+    for (ViewController* other : others) other->disappear();
+  isSideBySide_ = isSideBySide;
+  if (isAppearing() && isSideBySide)
+    for (ViewController* other : others) other->beginAppearance();
+  emit sideBySideChanged();
+  if (isAppearing() && isSideBySide)
+    for (ViewController* other : others) other->endAppearance();
+  if (focused && focused->isVisible()) focused->forceActiveFocus();
+  select(selected);
 }
 
 void AppPageTabBarController::select(int index) {
   if (index < 0 || static_cast<std::size_t>(index) >= viewControllers_.size()) fatalStop("no such tab page");
   if (index == selectedIndex_) return;
-  if (isAppearing()) selectedController()->disappear();
+  const bool comesUp = isAppearing() && !isSideBySide_;
+  if (comesUp) selectedController()->disappear();
   selectedIndex_ = index;
-  if (isAppearing()) selectedController()->beginAppearance();
+  if (comesUp) selectedController()->beginAppearance();
   emit selectedIndexChanged();
-  if (isAppearing()) selectedController()->endAppearance();
+  if (comesUp) selectedController()->endAppearance();
 }
 
 void AppPageTabBarController::tapTab(int index) {

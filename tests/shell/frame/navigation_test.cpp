@@ -49,6 +49,23 @@ TEST_F(NavigationTest, BringsUpTheOpenPageAndMakesTheOtherOneMeanwhile) {
   EXPECT_EQ(takeEvents(), QStringList({"solution loads"}));
 }
 
+TEST_F(NavigationTest, SideBySideTheOtherPageComesUpAndGoesAgain) {
+  buildTree();
+  takeEvents();
+  tabs->setSideBySide(true);
+  EXPECT_EQ(takeEvents(), QStringList({"solution loads", "solution will appear", "solution did appear"}));
+  tabs->select(1);
+  EXPECT_EQ(takeEvents(), QStringList()) << "both are open";
+  tabs->setSideBySide(false);
+  EXPECT_EQ(takeEvents(), QStringList({"input will disappear"}));
+  EXPECT_EQ(tabs->selectedIndex(), 1);
+  tabs->setSideBySide(true);
+  takeEvents();
+  drawer->transition(page("other"));
+  EXPECT_EQ(takeEvents(), QStringList({"input will disappear", "solution will disappear", "other loads",
+                                       "other will appear", "other did appear"}));
+}
+
 TEST_F(NavigationTest, HidesTheOldPageBeforeAnythingOfTheNewOne) {
   buildTree();
   takeEvents();
