@@ -6,12 +6,20 @@ set -euo pipefail
 build=$(realpath "$1")
 cd "$(dirname "$0")"
 
-for tool in rsvg-convert dpkg-shlibdeps desktop-file-validate appstreamcli lintian; do
+for tool in rsvg-convert dpkg-shlibdeps desktop-file-validate appstreamcli lintian file; do
   command -v "$tool" >/dev/null || { echo "Skipped: no $tool; ./dev package installs it" && exit 77; }
 done
 
 desktop-file-validate ./*.desktop
 appstreamcli validate --no-net ./*.metainfo.xml
+# The pictures that the metainfo names come from the tour.
+pictures=../build/package/screenshots
+rm -rf "$pictures"
+while IFS='|' read -r width height station; do
+  "$build/bin/tavi-tour" "$pictures" --only "$station"
+  file "$pictures/$station.png" | grep --quiet " $width x $height," ||
+    { echo "The metainfo says that $station is $width x $height" && exit 1; }
+done < <(sed --quiet 's/.*width="\(.*\)" height="\(.*\)">.*\/\(.*\)\.png.*/\1|\2|\3/p' ./*.metainfo.xml)
 cmake --build "$build" --target tavi_package_files -- --quiet
 rm -f ../build/package/*.deb
 cpack --config "$build/CPackConfig.cmake"
