@@ -30,7 +30,10 @@ void paintUsualLine(benchmark::State& state) {
   image.fill(Qt::transparent);
   QPainter painter(&image);
   painter.scale(scale, scale);
-  for (auto _ : state) picture.paint(painter, {0, 30}, {});
+  for (auto _ : state) {
+    image.fill(Qt::transparent);
+    picture.paint(painter, {0, 30}, {});
+  }
 }
 BENCHMARK(paintUsualLine)->Arg(1)->Arg(2)->Unit(benchmark::kMicrosecond);
 
@@ -52,6 +55,7 @@ void paintSliceOfWideLine(benchmark::State& state) {
   QPainter painter(&image);
   double left = 0;
   for (auto _ : state) {
+    image.fill(Qt::transparent);
     picture.paint(painter, {-left, 30}, {}, left, left + width);
     left = left + 7 < layout.width - width ? left + 7 : 0;
   }

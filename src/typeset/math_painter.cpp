@@ -1,6 +1,7 @@
 #include "typeset/math_painter.h"
 
 #include <algorithm>
+#include <cmath>
 #include <map>
 #include <memory>
 #include <mutex>
@@ -36,11 +37,12 @@ class SharedFont {
 
   std::mutex mutex;
 
-  QRawFont at(double size) {
-    if (sizes_.size() > mostSizes) sizes_.clear();
-    const auto [entry, isNew] = sizes_.try_emplace(size, base());
-    if (isNew) entry->second.setPixelSize(size);
-    return entry->second;
+  QRawFont at(double size) { return sized(sizes_, size, base()); }
+
+  /// With its horizontal stems on whole pixels and its advances as they are.
+  QRawFont hintedAt(double size) {
+    if (!hinted_.isValid()) hinted_ = load(QFont::PreferVerticalHinting);
+    return sized(hintedSizes_, size, hinted_);
   }
 
   QPainterPath outline(std::uint32_t glyph, double size, const QPointF& place) {
@@ -54,12 +56,27 @@ class SharedFont {
   // Outlines are rounded to a 64th of a pixel; at this size that is nothing.
   static constexpr double outlineSize = 1000;
 
+  using Sizes = std::map<double, QRawFont>;
+
+  static QRawFont sized(Sizes& sizes, double size, const QRawFont& font) {
+    if (sizes.size() > mostSizes) sizes.clear();
+    const auto [entry, isNew] = sizes.try_emplace(size, font);
+    if (isNew) entry->second.setPixelSize(size);
+    return entry->second;
+  }
+
+  static QRawFont load(QFont::HintingPreference hinting) {
+    const auto font = bundledMathFont();
+    QRawFont loaded;
+    loaded.loadFromData(QByteArray::fromRawData(reinterpret_cast<const char*>(font.data()),
+                                                static_cast<qsizetype>(font.size())),
+                        outlineSize, hinting);
+    return loaded;
+  }
+
   const QRawFont& base() {
     if (!base_.isValid()) {
-      const auto font = bundledMathFont();
-      base_.loadFromData(QByteArray::fromRawData(reinterpret_cast<const char*>(font.data()),
-                                                 static_cast<qsizetype>(font.size())),
-                         outlineSize, QFont::PreferNoHinting);
+      base_ = load(QFont::PreferNoHinting);
       qAddPostRoutine([] { instance().clear(); });
     }
     return base_;
@@ -68,11 +85,15 @@ class SharedFont {
   void clear() {
     const std::scoped_lock lock(mutex);
     sizes_.clear();
+    hintedSizes_.clear();
+    hinted_ = {};
     base_ = {};
   }
 
   QRawFont base_;
-  std::map<double, QRawFont> sizes_;
+  QRawFont hinted_;
+  Sizes sizes_;
+  Sizes hintedSizes_;
 };
 
 QPainterPath outlineOf(const QGlyphRun& run) {
@@ -86,11 +107,16 @@ QPainterPath outlineOf(const QGlyphRun& run) {
   return outline;
 }
 
-// Its points in the order in which the font has them, so that overlapping outlines add up.
-QPainterPath asTheFontTurns(const QRectF& rectangle) {
-  QPainterPath outline;
-  outline.addRect(rectangle);
-  return outline.toReversed();
+// Where there is an outline, with the points in the order in which the font has them, so that both add up;
+// alone, in the order that Qt draws fastest.
+void addRule(QPainterPath& outline, const QRectF& rule) {
+  if (!rule.isValid()) return;
+  QPainterPath rectangle;
+  rectangle.addRect(rule);
+  if (outline.isEmpty())
+    outline = rectangle;
+  else
+    outline.addPath(rectangle.toReversed());
 }
 
 // One outline of the pieces of an assembly, bottom first. Where two overlap both are the same straight bar,
@@ -138,11 +164,7 @@ void MathPicture::addRuns(const Layout& layout) {
   std::vector<const Glyph*> run;
   const auto end = [&] {
     if (run.empty()) return;
-    Stroke stroke{.left = run.front()->x,
-                  .right = run.front()->x,
-                  .color = run.front()->color,
-                  .run = {},
-                  .outline = {}};
+    Stroke stroke{.left = run.front()->x, .right = run.front()->x, .color = run.front()->color};
     QList<quint32> ids;
     QList<QPointF> places;
     for (const Glyph* glyph : run) {
@@ -168,10 +190,10 @@ void MathPicture::addRuns(const Layout& layout) {
 }
 
 void MathPicture::addOutlines(const Layout& layout) {
-  const auto add = [&](const QPainterPath& path, const Color& color) {
-    const QRectF bounds = path.boundingRect();
+  const auto add = [&](const QPainterPath& outline, const QRectF& rule, const Color& color) {
+    const QRectF bounds = outline.boundingRect().united(rule);
     strokes_.push_back(
-        {.left = bounds.left(), .right = bounds.right(), .color = color, .run = {}, .outline = path});
+        {.left = bounds.left(), .right = bounds.right(), .color = color, .outline = outline, .rule = rule});
   };
   struct Pieces {
     std::vector<QPainterPath> glyphs;
@@ -190,9 +212,7 @@ void MathPicture::addOutlines(const Layout& layout) {
     if (rule.figure != noFigure) {
       figures[rule.figure].rule = rectangle;
     } else {
-      QPainterPath outline;
-      outline.addRect(rectangle);
-      add(outline, rule.color);
+      add({}, rectangle, rule.color);
     }
   }
   for (auto& [number, figure] : figures) {
@@ -201,9 +221,43 @@ void MathPicture::addOutlines(const Layout& layout) {
     // The sign of a root reaches a little into its bar. The slanted end of a single glyph needs that; an
     // assembly ends upright, and the bar goes on from there.
     if (isAssembly) figure.rule.setLeft(std::max(figure.rule.left(), outline.boundingRect().right()));
-    if (figure.rule.isValid()) outline.addPath(asTheFontTurns(figure.rule));
-    add(outline, figure.color);
+    add(outline, figure.rule, figure.color);
   }
+}
+
+MathPicture::Stroke MathPicture::joined(const Stroke& stroke) {
+  Stroke drawn = stroke;
+  addRule(drawn.outline, stroke.rule);
+  return drawn;
+}
+
+MathPicture::Stroke MathPicture::snapped(const Stroke& stroke, double scale) {
+  Stroke drawn = stroke;
+  if (stroke.run.isEmpty()) {
+    const QTransform toDevice = QTransform::fromScale(scale, scale);
+    drawn.outline = toDevice.map(stroke.outline);
+    if (!stroke.rule.isValid()) return drawn;
+    // A rule begins on a whole pixel and is at least one thick; the sign that it belongs to goes along.
+    const QRectF rule = toDevice.mapRect(stroke.rule);
+    const double thickness = std::max(1.0, std::round(rule.height()));
+    const double top = std::round(rule.center().y() - thickness / 2);
+    drawn.outline.translate(0, top - rule.top());
+    addRule(drawn.outline, {rule.left(), top, rule.width(), thickness});
+    return drawn;
+  }
+  QList<QPointF> places = stroke.run.positions();
+  for (QPointF& place : places) place = {place.x() * scale, std::round(place.y() * scale)};
+  drawn.run.setPositions(places);
+  drawn.run.setRawFont(SharedFont::instance().hintedAt(stroke.run.rawFont().pixelSize() * scale));
+  return drawn;
+}
+
+const std::vector<MathPicture::Stroke>& MathPicture::strokesAt(std::optional<double> scale) const {
+  if (drawn_.size() == strokes_.size() && scale == drawnScale_) return drawn_;
+  drawn_.clear();
+  for (const Stroke& stroke : strokes_) drawn_.push_back(scale ? snapped(stroke, *scale) : joined(stroke));
+  drawnScale_ = scale;
+  return drawn_;
 }
 
 void MathPicture::paint(QPainter& painter, const QPointF& origin, const Ink& ink, double left,
@@ -224,9 +278,17 @@ void MathPicture::paint(QPainter& painter, const QPointF& origin, const Ink& ink
   painter.save();
   painter.translate(origin);
   painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-  for (const Stroke& stroke : strokes_) {
+  const QTransform device = painter.deviceTransform();
+  std::optional<double> scale;
+  if (isRaster && device.type() <= QTransform::TxScale && device.m11() > 0 &&
+      qFuzzyCompare(device.m11(), device.m22())) {
+    scale = device.m11();
+    painter.setWorldTransform(QTransform::fromTranslate(device.dx(), std::round(device.dy())) *
+                              device.inverted() * painter.worldTransform());
+  }
+  for (const Stroke& stroke : strokesAt(scale)) {
     if (stroke.right < left || stroke.left > right) continue;
-    if (!stroke.outline.isEmpty()) {
+    if (stroke.run.isEmpty()) {
       painter.fillPath(stroke.outline, inkOf(stroke.color));
     } else if (isRaster) {
       painter.setPen(inkOf(stroke.color));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <limits>
+#include <optional>
 #include <vector>
 
 #include <QtGui/QColor>
@@ -26,6 +27,10 @@ QColor legibleColor(const QColor& color, const QColor& background);
 
 /// A layout made ready to be drawn any number of times and on any device: item, image, SVG or PDF. Needs a
 /// QGuiApplication and must not outlive it; making and drawing may happen in different threads.
+///
+/// On pixels, baselines, rules and the horizontal stems of glyphs come to stand on whole device pixels,
+/// whatever the scale, so that they are not grey; no place moves sideways, and none by more than half a
+/// pixel. Turned lines, SVG and PDF are drawn as they are laid out.
 class MathPicture {
  public:
   MathPicture() = default;
@@ -38,19 +43,28 @@ class MathPicture {
              double right = std::numeric_limits<double>::infinity()) const;
 
  private:
-  // One call of the painter: a run of glyphs, or an outline.
+  // What is drawn at once: a run of glyphs, or a figure of an outline, a rule or both.
   struct Stroke {
     double left = 0;
     double right = 0;
     Color color;
-    QGlyphRun run;
-    QPainterPath outline;
+    QGlyphRun run{};
+    QPainterPath outline{};
+    QRectF rule{};
   };
 
+  // As it is drawn at a scale: in device pixels, counted from a baseline that stands on a whole one.
+  static Stroke snapped(const Stroke& stroke, double scale);
+  // As it is laid out.
+  static Stroke joined(const Stroke& stroke);
+  const std::vector<Stroke>& strokesAt(std::optional<double> scale) const;
   void addRuns(const Layout& layout);
   void addOutlines(const Layout& layout);
 
   std::vector<Stroke> strokes_;
+  // What was drawn last, ready to be drawn again; under the mutex of the fonts.
+  mutable std::vector<Stroke> drawn_;
+  mutable std::optional<double> drawnScale_;
 };
 
 }  // namespace tavi::typeset
