@@ -7,7 +7,7 @@
 namespace tavi {
 
 /// The size of the formulas of a working in per cent of the usual one: what was chosen, else the desktop's
-/// scale of texts.
+/// scale of texts. Pictures of a working have them in the usual size.
 class FormulaScale : public QObject {
   Q_OBJECT
 

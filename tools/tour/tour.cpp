@@ -241,7 +241,7 @@ void shareFromMenu(Stage& stage) {
   stage.share();
 }
 
-// A working with a command's text size; the usual one comes back, for the stations after it.
+// A working with formulas of another size; the usual one comes back, for the stations after it.
 template <int percent>
 void scaledFormulas(Stage& stage) {
   manySteps(stage);
