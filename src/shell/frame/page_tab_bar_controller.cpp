@@ -3,8 +3,6 @@
 #include <QPointer>
 #include <QQuickWindow>
 #include <QTimer>
-#include <algorithm>
-#include <iterator>
 #include <utility>
 
 #include "number/fatal_stop.h"
@@ -44,8 +42,9 @@ std::vector<ViewController*> AppPageTabBarController::otherPages() const {
 }
 
 std::vector<ViewController*> AppPageTabBarController::visibleChildren() const {
-  std::vector<ViewController*> visible{selectedController()};
-  if (isSideBySide_) std::ranges::copy(otherPages(), std::back_inserter(visible));
+  std::vector<ViewController*> visible;
+  for (const auto& page : viewControllers_)
+    if (isSideBySide_ || page.get() == selectedController()) visible.push_back(page.get());
   return visible;
 }
 

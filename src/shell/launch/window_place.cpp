@@ -80,9 +80,14 @@ WindowMemory::~WindowMemory() {
 
 void WindowMemory::restore() {
   const std::optional<WindowPlace> left = windowPlace(preferences_.value(preferences::windowPlace));
-  if (!left) return;
   std::vector<QRect> screens;
   for (const QScreen* screen : QGuiApplication::screens()) screens.push_back(screen->availableGeometry());
+  if (!left) {
+    // The desktop finds a place for it.
+    window_.resize(onScreen(window_.geometry(), window_.minimumSize(), screens).size());
+    place_.normal = window_.geometry();
+    return;
+  }
   place_ = {onScreen(left->normal, window_.minimumSize(), screens), left->isMaximized};
   window_.setGeometry(place_.normal);
 }

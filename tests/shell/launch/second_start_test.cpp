@@ -15,6 +15,7 @@ class StartTest : public testing::Test {
   void start(QProcess& process, const QStringList& arguments = {}) {
     QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
     environment.insert("XDG_DATA_HOME", data.path());
+    environment.insert("XDG_RUNTIME_DIR", data.path());
     environment.insert("LANGUAGE", "en");
     process.setProcessEnvironment(environment);
     process.start(TAVI_APPLICATION, arguments);
