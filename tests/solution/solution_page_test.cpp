@@ -5,10 +5,10 @@
 #include <QSignalSpy>
 #include <functional>
 
-#include "solution/exact/account_library.h"
-#include "solution/exact/exact_sheet_controller.h"
 #include "appearance/formula_scale.h"
 #include "platform/preferences.h"
+#include "solution/exact/account_library.h"
+#include "solution/exact/exact_sheet_controller.h"
 #include "solution/solution_stage.h"
 
 namespace tavi {

@@ -8,7 +8,8 @@ namespace tavi {
 namespace {
 
 exact::AccountFunction* loadedFunction() {
-  QLibrary library(QCoreApplication::applicationDirPath() + QStringLiteral("/../lib/tavi/plugins/tavi_account.so"));
+  QLibrary library(QCoreApplication::applicationDirPath() +
+                   QStringLiteral("/../lib/tavi/plugins/tavi_account.so"));
   auto* function = reinterpret_cast<exact::AccountFunction*>(library.resolve(exact::accountFunctionName));
   if (!function) qWarning("%s", qUtf8Printable(library.errorString()));
   return function;
