@@ -12,39 +12,40 @@ const QString formatName = QStringLiteral("tavi-history");
 constexpr qlonglong version = 1;
 constexpr qsizetype longestText = 100'000;
 
-bool isText(const QVariant& value) {
+bool isShortText(const QVariant& value) {
   return value.typeId() == QMetaType::QString && value.toString().size() <= longestText;
 }
-bool isTextOrNumber(const QVariant& value) {
-  return isText(value) || value.typeId() == QMetaType::LongLong;
+bool isShortTextOrNumber(const QVariant& value) {
+  return isShortText(value) || value.typeId() == QMetaType::LongLong;
 }
 bool isDate(const QVariant& value) {
   return value.typeId() == QMetaType::QDateTime;
 }
-bool isMap(const QVariant& value) {
+bool isObject(const QVariant& value) {
   return value.typeId() == QMetaType::QVariantMap;
 }
 template <bool (*isRight)(const QVariant&)>
-bool isMapOf(const QVariant& value) {
-  return isMap(value) && std::ranges::all_of(value.toMap(), isRight);
+bool isObjectOf(const QVariant& value) {
+  return isObject(value) && std::ranges::all_of(value.toMap(), isRight);
 }
-bool isListOfMaps(const QVariant& value) {
-  return value.typeId() == QMetaType::QVariantList && std::ranges::all_of(value.toList(), isMap);
+bool isListOfObjects(const QVariant& value) {
+  return value.typeId() == QMetaType::QVariantList && std::ranges::all_of(value.toList(), isObject);
 }
 
 struct Field {
   QLatin1StringView key;
   bool (*isRight)(const QVariant& value);
 };
-constexpr auto fields = std::to_array<Field>({{QLatin1StringView("inputParameters"), isMapOf<isText>},
-                                              {QLatin1StringView("latexString"), isText},
-                                              {QLatin1StringView("solutionSteps"), isListOfMaps},
-                                              {QLatin1StringView("setupParameter"), isMapOf<isTextOrNumber>},
-                                              {QLatin1StringView("calculatedAt"), isDate}});
+constexpr auto fields =
+    std::to_array<Field>({{QLatin1StringView("inputParameters"), isObjectOf<isShortText>},
+                          {QLatin1StringView("latexString"), isShortText},
+                          {QLatin1StringView("solutionSteps"), isListOfObjects},
+                          {QLatin1StringView("setupParameter"), isObjectOf<isShortTextOrNumber>},
+                          {QLatin1StringView("calculatedAt"), isDate}});
 
 bool isRecord(const QVariant& value) {
   const QVariantMap record = value.toMap();
-  return isMap(value) && std::ranges::all_of(fields, [&record](const Field& field) {
+  return isObject(value) && std::ranges::all_of(fields, [&record](const Field& field) {
            const auto found = record.constFind(field.key);
            return found == record.constEnd() || field.isRight(*found);
          });
@@ -73,7 +74,7 @@ std::variant<QList<Calculation>, HistoryFileFault> readHistoryFile(const QByteAr
   if (bytes.size() > longestHistoryFile) return HistoryFileFault::tooLarge;
   // Of this map, an entry that is wrong anywhere is left out as a whole.
   const std::optional<QVariant> file = decodePreference('[' + bytes + ']');
-  if (!file || !isMap(*file)) return HistoryFileFault::noHistory;
+  if (!file || !isObject(*file)) return HistoryFileFault::noHistory;
   const QVariantMap map = file->toMap();
   const QVariant records = map.value(QStringLiteral("calculations"));
   if (map.value(QStringLiteral("format")) != formatName || map.value(QStringLiteral("version")) != version ||
