@@ -1,8 +1,10 @@
 #include "solution/solution_view_controller.h"
 
 #include <QClipboard>
+#include <QCoroFuture>
 #include <QCoroTimer>
 #include <QGuiApplication>
+#include <QPointer>
 #include <QQuickWindow>
 #include <QtConcurrentRun>
 #include <algorithm>
@@ -87,17 +89,21 @@ void SolutionViewController::setQuestion(std::optional<exact::AccountQuestion> q
 void SolutionViewController::takeAccountLater() {
   if (!question_ || !view() || !view()->window()) return;
   const auto begin = [this, number = questionNumber_] {
-    if (number != questionNumber_) return;
-    QtConcurrent::run([question = *question_] {
-      return accountOf(question);
-    }).then(this, [this, number](const std::optional<exact::Account>& account) {
-      if (number != questionNumber_) return;
-      account_ = account;
-      emit marksChanged();
-    });
+    if (number == questionNumber_) detached(takeAccount());
   };
   connect(view()->window(), &QQuickWindow::frameSwapped, this, begin,
           static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+}
+
+QCoro::Task<> SolutionViewController::takeAccount() {
+  const QPointer<SolutionViewController> self(this);
+  const auto number = questionNumber_;
+  const QFuture<std::optional<exact::Account>> taken =
+      QtConcurrent::run([question = *question_] { return accountOf(question); });
+  std::optional<exact::Account> account = co_await taken;
+  if (!self || number != questionNumber_) co_return;
+  account_ = std::move(account);
+  emit marksChanged();
 }
 
 QVariantList SolutionViewController::marks() const {

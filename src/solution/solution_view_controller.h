@@ -117,6 +117,7 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   void setQuestion(std::optional<exact::AccountQuestion> question);
   /// Takes the account in another thread, once the working was seen.
   void takeAccountLater();
+  QCoro::Task<> takeAccount();
   QCoro::Task<> share();
   /// The rows as they stand: the lock of the videos is not among what they hold.
   std::vector<SolutionRow> picturedRows() const;
