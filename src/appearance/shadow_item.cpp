@@ -5,6 +5,8 @@
 #include <QPainter>
 #include <cmath>
 #include <numeric>
+#include <optional>
+#include <utility>
 
 namespace tavi {
 
@@ -33,6 +35,71 @@ void blur(QImage& mask, int radius) {
   }
 }
 
+/// How a picture comes from a smaller one along one axis: the two ends as they are, and between them a pixel
+/// that is the same all the way.
+class Axis {
+ public:
+  Axis(int length, int end)
+      : end_(length > 2 * end + 1 ? end : 0), smallLength_(end_ > 0 ? 2 * end_ + 1 : length) {}
+
+  int smallLength() const { return smallLength_; }
+  int partCount() const { return end_ > 0 ? 3 : 1; }
+
+  /// Start and length of a part, in the picture or in the smaller one.
+  std::pair<int, int> part(int index, int length) const {
+    if (end_ == 0) return {0, length};
+    if (index == 1) return {end_, length - 2 * end_};
+    return {index == 0 ? 0 : length - end_, end_};
+  }
+
+ private:
+  int end_;  // 0 where the smaller one is as large as the picture
+  int smallLength_;
+};
+
+struct Look {
+  LayerShadow shadow;
+  double cornerRadius;
+  double ratio;  ///< Pixels of the picture for one of the screen's units.
+  QSize size;    ///< Of the picture, in pixels.
+
+  bool operator==(const Look&) const = default;
+};
+
+QImage drawn(const Look& look, double inset) {
+  const QSizeF size = QSizeF(look.size) / look.ratio;
+  const QRectF shape = QRectF({}, size).adjusted(inset, inset, -inset, -inset).translated(look.shadow.offset);
+  if (look.shadow.opacity <= 0 || shape.isEmpty()) return {};
+
+  QImage mask(look.size, QImage::Format_Alpha8);
+  mask.fill(0);
+  {
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(look.ratio, look.ratio);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(Qt::black);
+    painter.drawRoundedRect(shape, look.cornerRadius, look.cornerRadius);
+  }
+  blur(mask, static_cast<int>(std::lround(look.shadow.radius * look.ratio)));
+
+  QImage colored(mask.size(), QImage::Format_ARGB32_Premultiplied);
+  QColor color = look.shadow.color;
+  color.setAlphaF(static_cast<float>(color.alphaF() * look.shadow.opacity));
+  colored.fill(color);
+  QPainter composer(&colored);
+  composer.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+  composer.drawImage(0, 0, mask);
+  return colored;
+}
+
+/// The last one again where it looks the same: a keypad has the shadow of one key many times.
+QImage lastOrDrawn(const Look& look, double inset) {
+  static thread_local std::optional<std::pair<Look, QImage>> last;
+  if (!last || last->first != look) last.emplace(look, drawn(look, inset));
+  return last->second;
+}
+
 }  // namespace
 
 ShadowItem::ShadowItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
@@ -58,33 +125,25 @@ double ShadowItem::extent() const {
 
 void ShadowItem::paint(QPainter* painter) {
   const double ratio = painter->device()->devicePixelRatio();
-  const double inset = extent();
-  const QRectF shape =
-      QRectF(0, 0, width(), height()).adjusted(inset, inset, -inset, -inset).translated(shadow_.offset);
+  const QSize pixels = (size() * ratio).toSize();
+  const int end = static_cast<int>(std::ceil((2 * extent() + cornerRadius_) * ratio));
+  const Axis across(pixels.width(), end);
+  const Axis down(pixels.height(), end);
+  const QSize smallSize(across.smallLength(), down.smallLength());
+  const QImage image = lastOrDrawn({shadow_, cornerRadius_, ratio, smallSize}, extent());
+  if (image.isNull()) return;
 
-  QImage mask((size() * ratio).toSize(), QImage::Format_Alpha8);
-  if (shadow_.opacity <= 0 || mask.isNull() || shape.isEmpty()) return;
-  mask.fill(0);
-  {
-    QPainter maskPainter(&mask);
-    maskPainter.setRenderHint(QPainter::Antialiasing);
-    maskPainter.scale(ratio, ratio);
-    maskPainter.setPen(Qt::NoPen);
-    maskPainter.setBrush(Qt::black);
-    maskPainter.drawRoundedRect(shape, cornerRadius_, cornerRadius_);
+  painter->scale(1 / ratio, 1 / ratio);
+  for (int row = 0; row < down.partCount(); ++row) {
+    const auto [y, height] = down.part(row, pixels.height());
+    const auto [sourceY, sourceHeight] = down.part(row, smallSize.height());
+    for (int column = 0; column < across.partCount(); ++column) {
+      const auto [x, width] = across.part(column, pixels.width());
+      const auto [sourceX, sourceWidth] = across.part(column, smallSize.width());
+      painter->drawImage(QRect(x, y, width, height), image,
+                         QRect(sourceX, sourceY, sourceWidth, sourceHeight));
+    }
   }
-  blur(mask, static_cast<int>(std::lround(shadow_.radius * ratio)));
-
-  QImage colored(mask.size(), QImage::Format_ARGB32_Premultiplied);
-  QColor color = shadow_.color;
-  color.setAlphaF(static_cast<float>(color.alphaF() * shadow_.opacity));
-  colored.fill(color);
-  {
-    QPainter composer(&colored);
-    composer.setCompositionMode(QPainter::CompositionMode_DestinationIn);
-    composer.drawImage(0, 0, mask);
-  }
-  painter->drawImage(QRectF(0, 0, width(), height()), colored);
 }
 
 }  // namespace tavi
