@@ -3,7 +3,9 @@
 #include <QDir>
 #include <QIcon>
 #include <QLocale>
+#include <QPainter>
 #include <QQuickWindow>
+#include <QSvgRenderer>
 #include <algorithm>
 #include <array>
 #include <cstdio>
@@ -12,6 +14,7 @@
 
 #include "appearance/appearance.h"
 #include "appearance/formula_scale.h"
+#include "appearance/interface_fonts.h"
 #include "platform/analytics.h"
 #include "platform/application_context.h"
 #include "platform/localization.h"
@@ -58,6 +61,16 @@ void speakStoredLanguage() {
   loadTranslations({chosen});
 }
 
+/// For a desktop that does not take it from the menu entry. Drawn here, as to look through the icon themes
+/// costs a start ten times as much.
+QIcon ownIcon() {
+  QPixmap icon(64, 64);
+  icon.fill(Qt::transparent);
+  QPainter painter(&icon);
+  QSvgRenderer(QStringLiteral(":/icon.svg")).render(&painter);
+  return icon;
+}
+
 QtMessageHandler messageHandler = nullptr;
 
 /// For each size of a text in Hindi Qt complains that the interface's font knows nothing of that script,
@@ -78,7 +91,8 @@ QString namedDataFolder() {
 Application::Application(int& argumentCount, char** arguments)
     : QGuiApplication(withRenderer(argumentCount), arguments), instance_(namedDataFolder()) {
   if (messageHandler == nullptr) messageHandler = qInstallMessageHandler(passMessageOn);
-  setWindowIcon(QIcon::fromTheme(desktopFileName()));
+  setWindowIcon(ownIcon());
+  setFont(InterfaceFont::book(16));
   speakStoredLanguage();
   Appearance::shared().followSystem();
   applyStoredAppearance(PreferenceStore::standard());
