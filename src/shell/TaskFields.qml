@@ -31,7 +31,15 @@ Item {
     // Where typing may begin, while no field is chosen.
     readonly property DTTextField invitingField: controller.isTypingPossible ? null : powerFields.visible ? baseField : radicandField
 
+    property FieldMenu menu: null
+
     signal focused(Item field)
+
+    function openMenu(field, x) {
+        if (!menu)
+            menu = fieldMenu.createObject(fields);
+        menu.popup(field, x, field.height + 4);
+    }
 
     component KeypadField: DTTextField {
         id: keypadField
@@ -42,7 +50,7 @@ Item {
             fields.focused(this)
         onMenuRequested: place => {
             forceActiveFocus();
-            menu.popup(keypadField, place.x, height + 4);
+            fields.openMenu(keypadField, place.x);
         }
     }
     component Formula: Item {
@@ -53,10 +61,12 @@ Item {
         Accessible.name: fields.controller.fillInText
     }
 
-    FieldMenu {
-        id: menu
+    Component {
+        id: fieldMenu
 
-        controller: fields.controller
+        FieldMenu {
+            controller: fields.controller
+        }
     }
 
     Formula {

@@ -54,8 +54,6 @@ void CalculateViewController::viewDidLoad() {
   errorManager_.allFields = ErrorManager::Fields(allFields.begin(), allFields.end());
   errorManager_.requiredAmountOfFields = requiredAmountOfTextFields;
   for (DTTextField* field : allFields) field->setBorderColor(InterfaceColor::fieldNeutral());
-  deleteIcon_ = "arrowBack";
-  calculateIcon_ = "check";
   refillFields();
   if (const QQuickItem* root = view()) ViewManager::prepareSegmentedControls(*root);
   emit loaded();

@@ -55,8 +55,8 @@ class CalculateViewController : public tavi::AdHandlingViewController {
 
   // What the page shows.
   Q_PROPERTY(QString fillInText READ fillInText NOTIFY loaded)
-  Q_PROPERTY(QString deleteIcon READ deleteIcon NOTIFY loaded)
-  Q_PROPERTY(QString calculateIcon READ calculateIcon NOTIFY loaded)
+  Q_PROPERTY(QString deleteIcon READ deleteIcon CONSTANT)
+  Q_PROPERTY(QString calculateIcon READ calculateIcon CONSTANT)
   Q_PROPERTY(double bottomBannerInset READ bottomBannerInset NOTIFY bottomBannerInsetChanged)
   Q_PROPERTY(tavi::TaskPreview preview READ preview NOTIFY taskChanged)
   Q_PROPERTY(QString notice READ notice NOTIFY noticeChanged)
@@ -141,8 +141,8 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   bool isMinusKeyEnabled() const;
 
   QString fillInText() const { return fillInText_; }
-  QString deleteIcon() const { return deleteIcon_; }
-  QString calculateIcon() const { return calculateIcon_; }
+  static QString deleteIcon() { return "arrowBack"; }
+  static QString calculateIcon() { return "check"; }
   double bottomBannerInset() const { return bottomBannerInset_; }
 
   QQuickItem* segmentedControl = nullptr;  ///< Has the mode as its property "selectedSegmentIndex".
@@ -222,8 +222,6 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   QString notice_;
 
   QString fillInText_;
-  QString deleteIcon_;
-  QString calculateIcon_;
   double bottomBannerInset_ = 0;
 };
 

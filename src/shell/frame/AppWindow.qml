@@ -20,10 +20,34 @@ Window {
         controller: window.rootController
         Accessible.role: Accessible.Pane
     }
-    SpinnerOverlay {
-        parent: window.contentItem
+
+    // What lies over the pages, each made when it is first wanted.
+    Component {
+        id: spinner
+
+        SpinnerOverlay {
+        }
     }
-    ToastLayer {
-        parent: window.contentItem
+    Component {
+        id: toast
+
+        ToastLayer {
+        }
+    }
+    Connections {
+        id: layers
+
+        property SpinnerOverlay spinner
+        property ToastLayer toast
+
+        target: ViewManager
+        function onSpinnerChanged() {
+            if (!layers.spinner)
+                layers.spinner = spinner.createObject(window.contentItem);
+        }
+        function onToastChanged() {
+            if (!layers.toast)
+                layers.toast = toast.createObject(window.contentItem);
+        }
     }
 }

@@ -24,6 +24,9 @@ Item {
         // While the drawer itself tells that it comes or goes, a finger may be moving it.
         property bool isTelling: false
 
+        // The menu is made when it is first seen.
+        property bool isMade: false
+
         function tell(isOpened) {
             isTelling = true;
             page.controller.isLeftViewOpened = isOpened;
@@ -38,7 +41,10 @@ Item {
         focus: modal
         closePolicy: modal ? T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose
         Component.onCompleted: contentItem.parent.Accessible.name = qsTrId("menuButton")
-        onAboutToShow: tell(true)
+        onAboutToShow: {
+            isMade = true;
+            tell(true);
+        }
         onAboutToHide: tell(false)
 
         enter: slide
@@ -56,7 +62,7 @@ Item {
         }
         contentItem: ControllerHost {
             objectName: "sideMenu"
-            controller: page.controller.leftController
+            controller: drawer.isMade ? page.controller.leftController : null
             Accessible.role: Accessible.Pane
         }
 

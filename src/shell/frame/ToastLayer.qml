@@ -8,12 +8,21 @@ T.Popup {
 
     readonly property int accessibleRole: Accessible.AlertMessage
 
+    function show() {
+        if (!ViewManager.toastText)
+            return life.stop();
+        contentItem.parent.Accessible.name = ViewManager.toastText;
+        open();
+        life.restart();
+    }
+
     x: (parent.width - width) / 2
     y: parent.height - 120
     z: 2
     width: 0.9 * parent.width
     height: Math.max(40, contentItem.implicitHeight)
     closePolicy: T.Popup.NoAutoClose
+    Component.onCompleted: show()
     onOpened: ViewManager.announce(contentItem.parent)
     onClosed: ViewManager.restoreFocus()
 
@@ -90,11 +99,7 @@ T.Popup {
         target: ViewManager
         function onToastChanged() {
             toast.close();
-            if (!ViewManager.toastText)
-                return life.stop();
-            toast.contentItem.parent.Accessible.name = ViewManager.toastText;
-            toast.open();
-            life.restart();
+            toast.show();
         }
     }
 }
