@@ -27,12 +27,12 @@ QFont sized(QFont font, int size) {
   return font;
 }
 
-/// All at once: each font that comes later lets go of what was worked out with those before.
+/// All that words are written in, at once: a font that comes later lets go of what was worked out with those
+/// before.
 struct Faces {
   QFont book = loaded(QStringLiteral("Lato-Regular.ttf"), QFont::Normal);
   QFont medium = loaded(QStringLiteral("Lato-Medium.ttf"), QFont::Medium);
   QFont heavy = loaded(QStringLiteral("Lato-Heavy.ttf"), QFont::ExtraBold);
-  QFont icons = loaded(QStringLiteral("materialdesignicons-webfont.ttf"), QFont::Normal);
 };
 
 const Faces& faces() {
@@ -55,7 +55,8 @@ QFont InterfaceFont::heavy(int size) {
 }
 
 QFont InterfaceFont::icons(int size) {
-  return sized(faces().icons, size);
+  static const QFont font = loaded(QStringLiteral("materialdesignicons-webfont.ttf"), QFont::Normal);
+  return sized(font, size);
 }
 
 }  // namespace tavi

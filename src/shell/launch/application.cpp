@@ -92,6 +92,7 @@ Application::Application(int& argumentCount, char** arguments)
     : QGuiApplication(withRenderer(argumentCount), arguments), instance_(namedDataFolder()) {
   if (messageHandler == nullptr) messageHandler = qInstallMessageHandler(passMessageOn);
   setWindowIcon(ownIcon());
+  InterfaceFont::icons(16);  // Loaded before there is any text, as what comes later lays out all of it anew.
   setFont(InterfaceFont::book(16));
   speakStoredLanguage();
   Appearance::shared().followSystem();
