@@ -18,6 +18,7 @@ import subprocess
 import sys
 import tempfile
 import time
+from pathlib import Path
 
 MAP_NOTIFY = 19
 SUBSTRUCTURE_NOTIFY_MASK = 1 << 19
@@ -62,17 +63,20 @@ class Display:
 
 
 def used(process):
-    """Resident MB and processor seconds of a process."""
-    with open(f"/proc/{process.pid}/statm") as file:
-        resident = int(file.read().split()[1]) * os.sysconf("SC_PAGE_SIZE") / 2**20
-    with open(f"/proc/{process.pid}/stat") as file:
-        fields = file.read().rpartition(")")[2].split()
-    return resident, (int(fields[11]) + int(fields[12])) / os.sysconf("SC_CLK_TCK")
+    """Resident MB, processor seconds and the most MB of a process."""
+    with open(f"/proc/{process.pid}/status") as file:
+        status = dict(line.split(":", 1) for line in file)
+    resident, peak = (int(status[name].split()[0]) / 1024 for name in ("VmRSS", "VmHWM"))
+    nanoseconds = 0
+    for thread in Path(f"/proc/{process.pid}/task").iterdir():
+        nanoseconds += int((thread / "schedstat").read_text().split()[0])
+    return resident, nanoseconds / 1e9, peak
 
 
 def start(display, program, home):
+    """Milliseconds to the window and, a second later, resident MB, processor seconds and the most MB."""
     display.forget()
-    environment = dict(os.environ, DISPLAY=display.name, HOME=home, QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
+    environment = dict(os.environ, DISPLAY=display.name, HOME=str(home), QT_QPA_PLATFORM="xcb", LC_ALL="C.UTF-8")
     for name in ("WAYLAND_DISPLAY", "XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_CACHE_HOME"):
         environment.pop(name, None)
     begin = time.monotonic()
@@ -108,9 +112,10 @@ def main():
         display.close()
     medians = {program: [statistics.median(column) for column in zip(*rows)] for program, rows in runs.items()}
     first = medians[arguments.programs[0]]
-    for program, (mapped, memory, seconds) in medians.items():
+    for program, (mapped, memory, seconds, _) in medians.items():
         ratios = ", ".join(f"{a / b:.2f}" for a, b in zip(first, (mapped, memory, seconds)) if b)
         print(f"{mapped:6.0f} ms {memory:6.0f} MB {seconds:6.2f} s  (first to this: {ratios})  {program}")
 
 
-main()
+if __name__ == "__main__":
+    main()

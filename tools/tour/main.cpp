@@ -42,7 +42,6 @@ struct Options {
   QString visit;  ///< Only this one; empty for all, each in a process of its own.
   QString only;   ///< Only this step.
   QString language;
-  bool isMeasuring = false;
 };
 
 void save(const QImage& picture, const QString& path) {
@@ -114,12 +113,10 @@ Options parse(const QStringList& arguments) {
                     QStringLiteral("name")});
   parser.addOption({QStringLiteral("language"), QStringLiteral("the language to speak, such as ja"),
                     QStringLiteral("name"), QStringLiteral("en")});
-  parser.addOption({QStringLiteral("measure"), QStringLiteral("print start times and memory instead")});
   parser.process(arguments);
-  const bool isMeasuring = parser.isSet(QStringLiteral("measure"));
-  if (!isMeasuring && parser.positionalArguments().size() != 1) parser.showHelp(64);
+  if (parser.positionalArguments().size() != 1) parser.showHelp(64);
   return {parser.positionalArguments().value(0), parser.value(QStringLiteral("visit")),
-          parser.value(QStringLiteral("only")), parser.value(QStringLiteral("language")), isMeasuring};
+          parser.value(QStringLiteral("only")), parser.value(QStringLiteral("language"))};
 }
 
 /// Goes to the stations that the options ask for; false if one fails or none is asked for.
@@ -151,8 +148,8 @@ bool goThrough(const Options& options, Application& application) {
 }
 
 int go(int argumentCount, char** arguments) {
-  if (argumentCount > 1 && std::string_view(arguments[1]) == probeArgument)
-    return probe(argumentCount, arguments);
+  if (argumentCount > 1 && std::string_view(arguments[1]) == measureArgument)
+    return measure(argumentCount, arguments);
   const Options options = parse({arguments, arguments + argumentCount});
   const QTemporaryDir home;
   isolate(home.path(), options.language);
@@ -160,8 +157,7 @@ int go(int argumentCount, char** arguments) {
   bool isPassed = false;
   {
     Application application(argumentCount, arguments);
-    isPassed =
-        options.isMeasuring ? measure() : QDir().mkpath(options.folder) && goThrough(options, application);
+    isPassed = QDir().mkpath(options.folder) && goThrough(options, application);
   }
   // The end of the application belongs to the tour.
   if (warnings > 0) std::fprintf(stderr, "%d warnings\n", warnings);

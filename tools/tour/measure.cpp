@@ -1,64 +1,39 @@
 #include "tour/measure.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QProcess>
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
-#include <array>
 #include <cstdio>
 #include <ctime>
-#include <map>
+#include <functional>
+#include <iterator>
 #include <optional>
+#include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 #include "platform/preferences.h"
 #include "shell/calc_manager.h"
 #include "shell/calculate_view_controller.h"
-#include "shell/history/history_table_view_cell.h"
 #include "tour/stage.h"
 
 namespace tavi::tour {
 
 namespace {
 
-constexpr int runs = 5;
-constexpr int manyRecords = 10'000;
-
-constexpr const char* firstFrame = "first frame, ms";
-constexpr const char* solution = "tap to frame with solution, ms";
-constexpr const char* slowestSolution = "the same, slowest worked example, ms";
-constexpr const char* longSolution = "the same, 1,000 copies, ms";
-constexpr const char* key = "a key with its preview, ms of the processor";
-constexpr const char* longKey = "the same, 9,999 copies";
-constexpr const char* memory = "resident with solution open, MB";
-constexpr const char* history = "opening the history to its first frame, ms";
-constexpr const char* historyRows = "rows of the history that are typeset";
-constexpr const char* historyScroll = "scrolling it: longest between two frames, ms";
-constexpr const char* historySearch = "a key of a search in it, ms of the processor";
-constexpr const char* adding = "adding a record, ms";
-constexpr const char* sharing = "picture of 300 rows, ms";
-constexpr const char* sharingBlock = "300 rows: longest without events, ms";
-constexpr const char* sharingMemory = "300 rows: peak memory beyond before, MB";
-constexpr const char* sharingWide = "picture of a line of 10,000 factors, ms";
-constexpr const char* sharingWideBlock = "10,000 factors: longest without events, ms";
-constexpr const char* sharingWideMemory = "10,000 factors: peak memory beyond before, MB";
-constexpr auto figureNames = std::to_array<const char*>(
-    {firstFrame, solution, slowestSolution, longSolution, key, longKey, memory, history, historyRows,
-     historyScroll, historySearch, adding, sharing, sharingBlock, sharingMemory, sharingWide,
-     sharingWideBlock, sharingWideMemory});
-
-using Figures = std::map<QByteArray, std::vector<double>>;
+double processorMilliseconds() {
+  return 1000.0 * static_cast<double>(std::clock()) / CLOCKS_PER_SEC;
+}
 
 double milliseconds(const QElapsedTimer& timer) {
   return static_cast<double>(timer.nsecsElapsed()) / 1e6;
 }
 
-void tell(const char* name, double figure) {
-  std::printf("%s=%.2f\n", name, figure);
+void tell(const std::string& name, double figure) {
+  std::printf("%s=%.2f\n", name.c_str(), figure);
   std::fflush(stdout);
 }
 
@@ -69,6 +44,12 @@ double statusMegabytes(const char* name) {
   for (const QByteArray& line : file.readAll().split('\n'))
     if (line.startsWith(name)) return line.simplified().split(' ').value(1).toDouble() * 1024 / 1e6;
   return 0;
+}
+
+/// The value that so many percent of the values do not exceed.
+double percentile(std::vector<double> values, std::size_t percent) {
+  std::ranges::sort(values);
+  return values.at((values.size() - 1) * percent / 100);
 }
 
 struct Task {
@@ -92,143 +73,82 @@ std::vector<Task> workedExamples() {
   return tasks;
 }
 
-/// Milliseconds from the tap on calculate to the first frame with the solution.
-double timeToSolution(Stage& stage, const Task& task) {
-  stage.prepare(task.mode, task.first, task.second);
+/// Milliseconds from an action to the end of the first frame at which the state is reached.
+double timeToFrame(Stage& stage, const std::function<void()>& act, const std::function<bool()>& isReached) {
   QElapsedTimer timer;
   std::optional<double> time;
   const auto connection =
       QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
-        if (!time && stage.delegate().pageTabBarController()->selectedIndex() == 1)
-          time = milliseconds(timer);
+        if (!time && isReached()) time = milliseconds(timer);
       });
   timer.start();
-  stage.tap(QStringLiteral("key Calculate"));
-  waitUntil([&time] { return time.has_value(); }, "a frame with the solution");
+  act();
+  waitUntil([&time] { return time.has_value(); }, "a frame with what was asked for");
   QObject::disconnect(connection);
   return *time;
 }
 
-/// The most processor time that a key of a task takes, with what is shown of the task at once.
-double timeOfKeys(Stage& stage, const Task& task) {
+double timeToSolution(Stage& stage, const Task& task) {
+  stage.prepare(task.mode, task.first, task.second);
+  return timeToFrame(
+      stage, [&stage] { stage.tap(QStringLiteral("key Calculate")); },
+      [&stage] { return stage.delegate().pageTabBarController()->selectedIndex() == 1; });
+}
+
+/// Milliseconds from each key of a task to the frame with its field.
+void timeKeys(Stage& stage, const Task& task, std::vector<double>& times) {
   stage.prepare(task.mode, task.first, u"");
-  stage.tap(task.mode == Mode::power ? QStringLiteral("baseField") : QStringLiteral("radicandField"));
-  auto& page = dynamic_cast<CalculateViewController&>(
-      *stage.delegate().pageTabBarController()->viewControllers().front());
-  std::clock_t longest = 0;
+  const QString field =
+      task.mode == Mode::power ? QStringLiteral("baseField") : QStringLiteral("radicandField");
+  stage.tap(field);
+  stage.picture();
+  const QQuickItem& item = stage.item(field);
   for (const QChar title : task.second) {
-    const std::clock_t start = std::clock();
-    page.tappedKeypadButton(title);
-    longest = std::max(longest, std::clock() - start);
+    const qsizetype before = item.property("text").toString().size();
+    times.push_back(timeToFrame(
+        stage, [&] { stage.tap(QStringLiteral("key ") + title); },
+        [&] { return item.property("text").toString().size() > before; }));
   }
-  return 1000.0 * static_cast<double>(longest) / CLOCKS_PER_SEC;
 }
 
-/// One process start; the first frame counts from before the process exists.
-bool runProbe(Figures& figures) {
-  QProcess process;
-  QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-  environment.insert(QStringLiteral("QT_LOGGING_RULES"), QStringLiteral("*.info=false"));
-  process.setProcessEnvironment(environment);
-  process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-  QElapsedTimer timer;
-  timer.start();
-  process.start(QCoreApplication::applicationFilePath(), {QString::fromLatin1(probeArgument)});
-  while (process.state() != QProcess::NotRunning || process.canReadLine()) {
-    if (!process.canReadLine() && !process.waitForReadyRead(30'000)) break;
-    while (process.canReadLine()) {
-      const QByteArrayList line = process.readLine().trimmed().split('=');
-      const bool isFrame = line.front() == firstFrame;
-      figures[line.front()].push_back(isFrame ? milliseconds(timer) : line.value(1).toDouble());
-    }
-  }
-  process.waitForFinished();
-  return process.exitStatus() == QProcess::NormalExit && process.exitCode() == 0;
-}
-
-/// Some starts in a row, of which the first only warms the caches.
-bool runProbes(Figures& figures) {
-  Figures warming;
-  bool isPassed = runProbe(warming);
-  for (int run = 0; run < runs && isPassed; ++run) isPassed = runProbe(figures);
-  return isPassed;
-}
-
-/// The median as a text, or a dash where nothing was measured.
-QByteArray median(std::vector<double> values) {
-  if (values.empty()) return "-";
-  std::ranges::sort(values);
-  return QByteArray::number(values.at(values.size() / 2), 'f', 1);
-}
-
-/// Opens the history and tells when it is on the screen.
-void measureHistory(Stage& stage) {
-  QElapsedTimer timer;
-  bool isShown = false;
-  timer.start();
-  stage.openHistory();
-  QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
-    if (!std::exchange(isShown, true)) tell(history, milliseconds(timer));
-  });
-  waitUntil([&isShown] { return isShown; }, "a frame with the history");
-  const auto* content =
-      stage.item(QStringLiteral("historyTable")).property("contentItem").value<QQuickItem*>();
-  const auto rows = std::ranges::count_if(content->childItems(), [](const QQuickItem* each) {
-    return qobject_cast<const HistoryTableViewCell*>(each) != nullptr;
-  });
-  tell(historyRows, static_cast<double>(rows));
+/// The most processor time that a frame takes while something moves, with all that goes before it.
+double longestFrame(Stage& stage, const std::function<void()>& act) {
+  stage.picture();
+  double longest = 0;
+  double last = processorMilliseconds();
+  const auto connection =
+      QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+        longest = std::max(longest, processorMilliseconds() - std::exchange(last, processorMilliseconds()));
+      });
+  act();
+  stage.picture();
+  QObject::disconnect(connection);
+  return longest;
 }
 
 /// Draws a long history upwards by nearly a row for each frame.
-void measureScrolling(Stage& stage) {
+double longestFrameOfScrolling(Stage& stage) {
   constexpr int frames = 200;
   constexpr double way = 60;
+  stage.openHistory();
+  stage.picture();
   QQuickItem& table = stage.item(QStringLiteral("historyTable"));
-  if (table.property("contentHeight").toDouble() < frames * way + table.height()) return;
-  QElapsedTimer timer;
-  double longest = 0;
-  int shown = 0;
-  const auto connection =
-      QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
-        if (shown++ > 0) longest = std::max(longest, milliseconds(timer));
-        timer.start();
-        table.setProperty("contentY", table.property("contentY").toDouble() + way);
-      });
-  stage.window().update();
-  waitUntil([&shown] { return shown > frames; }, "the history scrolls");
-  QObject::disconnect(connection);
-  tell(historyScroll, longest);
+  if (table.property("contentHeight").toDouble() < frames * way + table.height()) return 0;
+  return longestFrame(stage, [&] {
+    int shown = 0;
+    const auto connection =
+        QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(), [&] {
+          ++shown;
+          table.setProperty("contentY", table.property("contentY").toDouble() + way);
+        });
+    stage.window().update();
+    waitUntil([&shown] { return shown > frames; }, "the history scrolls");
+    QObject::disconnect(connection);
+  });
 }
 
-/// The most processor time that a key of a search takes, with the frame that shows what it finds.
-void measureSearch(Stage& stage) {
-  int frames = 0;
-  const auto connection = QObject::connect(&stage.window(), &QQuickWindow::frameSwapped, &stage.window(),
-                                           [&frames] { ++frames; });
-  QTest::keyClick(&stage.window(), Qt::Key_F, Qt::ControlModifier);
-  std::clock_t longest = 0;
-  for (const char letter : {'3', '/', '2', ' ', 'p', 'o', 'w', 'e', 'r'}) {
-    const int before = frames;
-    const std::clock_t start = std::clock();
-    QTest::keyClick(&stage.window(), letter);
-    waitUntil([&] { return frames > before; }, "a frame with what is found");
-    longest = std::max(longest, std::clock() - start);
-  }
-  QObject::disconnect(connection);
-  tell(historySearch, 1000.0 * static_cast<double>(longest) / CLOCKS_PER_SEC);
-}
-
-/// A full history, written at once.
-void fillStore() {
-  PreferenceStore& store = PreferenceStore::standard();
-  CalcManager(store).runFirstStartStep();
-  const QVariant record = CalcManager(store).calculation(0).properties();
-  store.setValue(QStringLiteral("Calculations"), QVariantList(manyRecords, record));
-  if (CalcManager(store).calculations().size() != manyRecords) throw Failure("the history is not filled");
-}
-
-/// Shares a working, which stays open, and tells what that took.
-void share(Stage& stage, const SolutionSteps& steps, const std::array<const char*, 3>& names) {
+/// Shares a working and tells what that took.
+void share(Stage& stage, const SolutionSteps& steps, const std::string& name) {
   stage.delegate().pageTabBarController()->select(0);
   SolutionViewController::showSolution(stage.delegate().pageTabBarController().get(), steps, ChartRows{},
                                        std::nullopt, std::nullopt, 100);
@@ -246,68 +166,82 @@ void share(Stage& stage, const SolutionSteps& steps, const std::array<const char
   sinceTick.start();
   ticking.start(0);
   stage.share();
-  tell(names[0], milliseconds(timer));
-  tell(names[1], longest);
-  tell(names[2], statusMegabytes("VmHWM") - before);
-  const QSize size = stage.sharedPicture().size();
-  std::fprintf(stderr, "%s: %d x %d\n", names[0], size.width(), size.height());
+  tell(name, milliseconds(timer));
+  tell(name + " block", longest);
+  tell(name + " memory", statusMegabytes("VmHWM") - before);
   stage.tap(QStringLiteral("closeSheet"));
   waitUntil([&stage] { return stage.sharedPicture().isNull(); }, "the sheet is closed");
 }
 
-}  // namespace
+void measureUse(Stage& stage) {
+  std::vector<double> solutions;
+  std::vector<double> keys;
+  for (const Task& task : workedExamples()) {
+    solutions.push_back(timeToSolution(stage, task));
+    timeKeys(stage, task, keys);
+  }
+  tell("solution", percentile(solutions, 50));
+  tell("slow solution", percentile(solutions, 95));
+  tell("key", percentile(keys, 50));
+  tell("slow key", percentile(keys, 95));
+  tell("memory", statusMegabytes("VmRSS"));
 
-bool measure() {
-  Figures empty;
-  Figures full;
-  if (!runProbes(empty)) return false;
-  fillStore();
-  if (!runProbes(full)) return false;
-  std::printf("%-46s %10s %14s\n", "median of 5 warm runs", "new store", "10,000 records");
-  for (const char* name : figureNames)
-    std::printf("%-46s %10s %14s\n", name, median(empty[name]).constData(), median(full[name]).constData());
-  return true;
+  std::vector<double> additions;
+  for (int i = 0; i < 20; ++i) {
+    QElapsedTimer timer;
+    timer.start();
+    CalcManager::shared().addCalculation(CalcManager::shared().calculation(0));
+    additions.push_back(milliseconds(timer));
+  }
+  tell("adding", percentile(additions, 50));
 }
 
-int probe(int argumentCount, char** arguments) {
+void measureSharing(Stage& stage) {
+  const auto step = [](std::string latex) {
+    return SolutionStep{.title = "Step", .latexString = std::move(latex), .messageString = std::nullopt};
+  };
+  share(stage, SolutionSteps(300, step("=\\left( \\frac{2}{3} \\right)^{-2} \\approx 2.25")), "300 rows");
+  std::string factors;
+  for (int i = 0; i < 10'000; ++i) factors += "\\left( 12 \\right) ";
+  share(stage, {step(factors)}, "10,000 factors");
+}
+
+void measureFrames(Stage& stage) {
+  AppDelegate& delegate = stage.delegate();
+  stage.resize({1280, 800});
+  stage.solve(Mode::power, u"-2", u"3/2");
+  tell("tabs", longestFrame(stage, [&] { delegate.pageTabBarController()->select(0); }));
+  tell("drawer opens", longestFrame(stage, [&] { delegate.drawer()->setLeftViewOpened(true); }));
+  tell("drawer closes", longestFrame(stage, [&] { delegate.drawer()->setLeftViewOpened(false); }));
+  tell("history scrolls", longestFrameOfScrolling(stage));
+}
+
+/// A minute in which nobody does anything and the caret blinks.
+void measureRest(Stage& stage) {
+  stage.tap(QStringLiteral("baseField"));
+  stage.picture();
+  const double before = processorMilliseconds();
+  QTest::qWait(60'000);
+  tell("rest", (processorMilliseconds() - before) / 1000);
+}
+
+}  // namespace
+
+int measure(int argumentCount, char** arguments) {
+  const std::string_view wanted = argumentCount > 2 ? arguments[2] : "";
   Application application(argumentCount, arguments);
   for (const auto* answered : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted})
     PreferenceStore::standard().setValue(*answered, true);
   PreferenceStore::standard().setValue(preferences::counterForRating, 1000);  // No rating comes in between.
   Stage stage(application);
-  tell(firstFrame, 0);
-
-  tell(solution, timeToSolution(stage, {Mode::power, "-2", "3/2"}));
-  stage.picture();
-  tell(memory, statusMegabytes("VmRSS"));
-
-  double slowest = 0;
-  for (const Task& task : workedExamples()) slowest = std::max(slowest, timeToSolution(stage, task));
-  tell(slowestSolution, slowest);
-  tell(longSolution, timeToSolution(stage, {Mode::power, "1000", "2"}));
-
-  double slowestKey = 0;
-  for (const Task& task : workedExamples()) slowestKey = std::max(slowestKey, timeOfKeys(stage, task));
-  tell(key, slowestKey);
-  tell(longKey, timeOfKeys(stage, {Mode::power, "9999", "-1234.56789/9"}));
-
-  QElapsedTimer timer;
-  timer.start();
-  CalcManager::shared().addCalculation(CalcManager::shared().calculation(0));
-  tell(adding, milliseconds(timer));
-
-  const auto step = [](std::string latex) {
-    return SolutionStep{.title = "Step", .latexString = std::move(latex), .messageString = std::nullopt};
-  };
-  share(stage, SolutionSteps(300, step("=\\left( \\frac{2}{3} \\right)^{-2} \\approx 2.25")),
-        {sharing, sharingBlock, sharingMemory});
-  std::string factors;
-  for (int i = 0; i < 10'000; ++i) factors += "\\left( 12 \\right) ";
-  share(stage, {step(factors)}, {sharingWide, sharingWideBlock, sharingWideMemory});
-
-  measureHistory(stage);
-  measureScrolling(stage);
-  measureSearch(stage);
+  struct {
+    std::string_view name;
+    void (*measure)(Stage& stage);
+  } static constexpr parts[] = {
+      {"use", measureUse}, {"sharing", measureSharing}, {"frames", measureFrames}, {"rest", measureRest}};
+  const auto* part = std::ranges::find(parts, wanted, [](const auto& each) { return each.name; });
+  if (part == std::end(parts)) throw Failure("use, sharing, frames or rest?");
+  part->measure(stage);
   return 0;
 }
 

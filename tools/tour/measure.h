@@ -2,14 +2,12 @@
 
 namespace tavi::tour {
 
-/// Prints start times, memory and the cost of a full history as a table; false if a launch fails.
-bool measure();
+/// The first argument of a tour that measures, for `measure`.
+inline constexpr const char* measureArgument = "--measure";
 
-/// One launch for `measure`: says when the first frame is there, solves a task, adds a record, tells on the
-/// standard output what that took, and ends. The exit code.
-int probe(int argumentCount, char** arguments);
-
-/// The argument that makes a process a probe; the environment says where its store lies.
-inline constexpr const char* probeArgument = "--probe";
+/// Measures the running application in the user's own folders and prints lines such as "key=3.10": after the
+/// argument comes what, which is "use", "sharing", "frames" or "rest". In milliseconds, of the processor for
+/// the longest frames; seconds of the processor for the rest of a minute. The process's exit code.
+int measure(int argumentCount, char** arguments);
 
 }  // namespace tavi::tour
