@@ -44,8 +44,15 @@ void chooseRenderer() {
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
 }
 
+/// A change is drawn in the next turn of the event loop; Qt would wait 5 ms for more of them.
+void drawAtOnce() {
+  constexpr const char* variable = "QT_QPA_UPDATE_IDLE_TIME";
+  if (!qEnvironmentVariableIsSet(variable)) qputenv(variable, "0");
+}
+
 int& withRenderer(int& argumentCount) {
   chooseRenderer();
+  drawAtOnce();
   return argumentCount;
 }
 
