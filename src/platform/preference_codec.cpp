@@ -4,6 +4,7 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSet>
 #include <utility>
 
 #include "number/fatal_stop.h"
@@ -91,6 +92,15 @@ enum class Place { recordOrRecords, record, inside };
 
 std::optional<QVariant> decoded(const QJsonValue& json, Place place);
 
+// The text of a key that came before, since the records of a history all have the same few.
+QString shared(const QString& key) {
+  constexpr qsizetype most = 64;
+  thread_local QSet<QString> known;
+  if (known.size() < most) return *known.insert(key);
+  const auto found = known.constFind(key);
+  return found == known.cend() ? key : *found;
+}
+
 std::optional<QVariant> decodedArray(const QJsonArray& array, Place place) {
   QVariantList list;
   list.reserve(array.size());
@@ -121,7 +131,7 @@ std::optional<QVariant> decodedObject(const QJsonObject& object, bool isRecord) 
     const std::optional<QString> key = decodedKey(entry.key());
     std::optional<QVariant> value = decoded(entry.value(), Place::inside);
     if (key && value)
-      map.insert(*key, *std::move(value));
+      map.insert(shared(*key), *std::move(value));
     else if (!isRecord)
       return std::nullopt;
   }

@@ -27,7 +27,6 @@ CalcManager& CalcManager::shared() {
 }
 
 CalcManager::CalcManager(PreferenceStore& userDefaults) : userDefaults_(userDefaults) {
-  loadCalculations();
   currentCalculation_ = stored(preferences::currentCalculation);
   currentSelectedCalculation_ = stored(preferences::currentSelectedCalculation);
 }
@@ -38,22 +37,22 @@ QString CalcManager::persistKey() const {
 
 const Calculation& CalcManager::calculation(qsizetype index) const {
   requireIndex(index);
-  return calculations_[index];
+  return list().calculations[index];
 }
 
 void CalcManager::addCalculation(const Calculation& calculation) {
-  calculations_.prepend(calculation);
-  numbers_.prepend(numbers_.value(0) + 1);
+  list().calculations.prepend(calculation);
+  list().numbers.prepend(list().numbers.value(0) + 1);
   save([&] {
     const auto number = userDefaults_.prependElement(preferences::calculations, calculation.properties());
-    if (number) numbers_.front() = *number;
+    if (number) list().numbers.front() = *number;
     return number.has_value();
   });
 }
 
 StoredCalculations CalcManager::removeCalculation(qsizetype index) {
   requireIndex(index);
-  const StoredCalculation removed{numbers_.takeAt(index), calculations_.takeAt(index)};
+  const StoredCalculation removed{list().numbers.takeAt(index), list().calculations.takeAt(index)};
   save([&] { return userDefaults_.removeElement(preferences::calculations, removed.number); });
   return {removed};
 }
@@ -61,36 +60,37 @@ StoredCalculations CalcManager::removeCalculation(qsizetype index) {
 void CalcManager::swapCalculations(qsizetype first, qsizetype second) {
   requireIndex(first);
   requireIndex(second);
-  const Calculation firstCalculation = calculations_[first];
-  const Calculation secondCalculation = calculations_[second];
+  const Calculation firstCalculation = list().calculations[first];
+  const Calculation secondCalculation = list().calculations[second];
   replace(second, firstCalculation);
   replace(first, secondCalculation);
 }
 
 void CalcManager::replace(qsizetype index, const Calculation& calculation) {
-  calculations_[index] = calculation;
+  list().calculations[index] = calculation;
   save([&] {
     return userDefaults_.replaceElement(preferences::calculations,
-                                        {numbers_[index], calculation.properties()});
+                                        {list().numbers[index], calculation.properties()});
   });
 }
 
 StoredCalculations CalcManager::clearCalculations() {
   StoredCalculations removed;
-  removed.reserve(calculations_.size());
-  for (qsizetype i = 0; i < calculations_.size(); ++i) removed.append({numbers_[i], calculations_[i]});
-  calculations_.clear();
+  removed.reserve(list().calculations.size());
+  for (qsizetype i = 0; i < list().calculations.size(); ++i)
+    removed.append({list().numbers[i], list().calculations[i]});
+  list().calculations.clear();
   saveCalculations();
   return removed;
 }
 
 qsizetype CalcManager::restoreCalculations(const StoredCalculations& removed) {
-  qsizetype first = calculations_.size();
+  qsizetype first = list().calculations.size();
   for (const StoredCalculation& each : removed) {
-    const auto place = std::ranges::lower_bound(numbers_, each.number, std::greater());
-    const qsizetype index = place - numbers_.begin();
-    numbers_.insert(index, each.number);
-    calculations_.insert(index, each.calculation);
+    const auto place = std::ranges::lower_bound(list().numbers, each.number, std::greater());
+    const qsizetype index = place - list().numbers.begin();
+    list().numbers.insert(index, each.number);
+    list().calculations.insert(index, each.calculation);
     first = std::min(first, index);
   }
   save([&] {
@@ -104,10 +104,10 @@ qsizetype CalcManager::restoreCalculations(const StoredCalculations& removed) {
 StoredCalculations CalcManager::appendCalculations(const QList<Calculation>& calculations) {
   const auto identity = [](const Calculation& each) { return encodePreference(each.properties()); };
   QHash<QByteArray, qsizetype> present;
-  for (const Calculation& each : calculations_) ++present[identity(each)];
+  for (const Calculation& each : list().calculations) ++present[identity(each)];
   StoredCalculations appended;
   // Below all numbers that the store gives by itself, and so below those of what could be put back, too.
-  qlonglong number = std::min<qlonglong>(numbers_.isEmpty() ? 0 : numbers_.last(), 1);
+  qlonglong number = std::min<qlonglong>(list().numbers.isEmpty() ? 0 : list().numbers.last(), 1);
   for (const Calculation& each : calculations) {
     qsizetype& known = present[identity(each)];
     if (known > 0)
@@ -122,12 +122,13 @@ StoredCalculations CalcManager::appendCalculations(const QList<Calculation>& cal
 void CalcManager::withdrawCalculations(const StoredCalculations& appended) {
   QList<qlonglong> numbers;
   for (auto each = appended.rbegin(); each != appended.rend(); ++each) {  // The last ones go the fastest.
-    const auto place = std::ranges::lower_bound(numbers_, each->number, std::greater());
-    const qsizetype index = place - numbers_.begin();
-    if (place == numbers_.end() || *place != each->number || calculations_[index] != each->calculation)
+    const auto place = std::ranges::lower_bound(list().numbers, each->number, std::greater());
+    const qsizetype index = place - list().numbers.begin();
+    if (place == list().numbers.end() || *place != each->number ||
+        list().calculations[index] != each->calculation)
       continue;
-    numbers_.removeAt(index);
-    calculations_.removeAt(index);
+    list().numbers.removeAt(index);
+    list().calculations.removeAt(index);
     numbers.append(each->number);
   }
   save([&] { return userDefaults_.removeElements(preferences::calculations, numbers); });
@@ -150,29 +151,38 @@ void CalcManager::runFirstStartStep() {
   addCalculation(sample());
 }
 
-void CalcManager::loadCalculations() {
-  calculations_.clear();
-  numbers_.clear();
-  bool isOurs = true;
-  const auto take = [&](const PreferenceStore::Element& element) {
-    isOurs = isOurs && element.value.typeId() == QMetaType::QVariantMap;
-    calculations_.append(Calculation(element.value.toMap()));
-    numbers_.append(element.number);
+CalcManager::List CalcManager::read() const {
+  List read;
+  const auto take = [&read](const PreferenceStore::Element& element) {
+    read.isOurs = read.isOurs && element.value.typeId() == QMetaType::QVariantMap;
+    read.calculations.append(Calculation(element.value.toMap()));
+    read.numbers.append(element.number);
   };
-  if (userDefaults_.readElements(preferences::calculations, take) && isOurs) return;
+  read.isOurs = userDefaults_.readElements(preferences::calculations, take) && read.isOurs;
+  return read;
+}
+
+CalcManager::List& CalcManager::list() {
+  if (!list_) loadCalculations();
+  return *list_;
+}
+
+void CalcManager::loadCalculations() {
+  list_ = read();
+  if (list_->isOurs) return;
   userDefaults_.setAside(preferences::calculations);
-  calculations_.clear();
+  list_ = List();
   saveCalculations();
 }
 
 void CalcManager::saveCalculations() {
   const auto first =
-      userDefaults_.setArray(preferences::calculations, calculations_.size(),
-                             [this](qsizetype index) { return calculations_[index].properties(); });
+      userDefaults_.setArray(preferences::calculations, list().calculations.size(),
+                             [this](qsizetype index) { return list().calculations[index].properties(); });
   isBehind_ = !first;
   if (!first) return;
-  numbers_.resize(calculations_.size());
-  std::ranges::generate(numbers_, [number = *first]() mutable { return number--; });
+  list().numbers.resize(list().calculations.size());
+  std::ranges::generate(list().numbers, [number = *first]() mutable { return number--; });
 }
 
 // A store that has refused a change is given the whole list, then and at the next changes, until it takes it.
@@ -193,7 +203,8 @@ void CalcManager::persistSelection() {
 }
 
 void CalcManager::requireIndex(qsizetype index) const {
-  if (index < 0 || index >= calculations_.size()) fatalStop("no calculation at this index of the history");
+  if (index < 0 || index >= list().calculations.size())
+    fatalStop("no calculation at this index of the history");
 }
 
 }  // namespace tavi

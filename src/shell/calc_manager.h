@@ -38,7 +38,8 @@ class CalcManager final : public Persistable {
   /// Posted by whoever has put something back into the history, or behind it.
   static constexpr QLatin1StringView didRestoreCalculations{"didRestoreCalculations"};
 
-  /// Loads what the store holds; a list of another shape than ours is set aside and replaced by an empty one.
+  /// The history is read when it is first asked for; a list of another shape than ours is then set aside and
+  /// replaced by an empty one.
   explicit CalcManager(PreferenceStore& userDefaults);
 
   PreferenceStore& userDefaults() const override { return userDefaults_; }
@@ -46,7 +47,7 @@ class CalcManager final : public Persistable {
   /// A name of the store; the list itself lies under "Calculations".
   QString persistKey() const override;
 
-  const QList<Calculation>& calculations() const { return calculations_; }
+  const QList<Calculation>& calculations() const { return list().calculations; }
 
   /// The record at the index; one outside the list is a fatal stop, here and below.
   const Calculation& calculation(qsizetype index) const;
@@ -87,6 +88,15 @@ class CalcManager final : public Persistable {
   void saveCalculations() override;
 
  private:
+  struct List {
+    QList<Calculation> calculations;
+    QList<qlonglong> numbers;  ///< Of the same records in the store, falling.
+    bool isOurs = true;        ///< Whether what the store holds is a list of records.
+  };
+
+  List read() const;
+  List& list();
+  const List& list() const { return const_cast<CalcManager*>(this)->list(); }
   std::optional<Calculation> stored(const Preference<QVariantMap>& preference) const;
   void persistSelection();
   void requireIndex(qsizetype index) const;
@@ -94,8 +104,7 @@ class CalcManager final : public Persistable {
   void save(const std::function<bool()>& change);
 
   PreferenceStore& userDefaults_;
-  QList<Calculation> calculations_;
-  QList<qlonglong> numbers_;  ///< Of the same records in the store, falling.
+  std::optional<List> list_;  ///< Read when it is first asked for.
   bool isBehind_ = false;     ///< Whether the store has refused a change.
   std::optional<Calculation> currentCalculation_;
   std::optional<Calculation> currentSelectedCalculation_;

@@ -145,6 +145,7 @@ TEST_F(CalcManagerTest, OfTwoProcessesNeitherLosesWhatTheOtherKeeps) {
   for (const char* name : {"C", "B", "A"}) first.addCalculation(named(name));
   PreferenceStore others(path_);
   CalcManager second(others);
+  ASSERT_EQ(second.calculations().size(), 3) << "before the other one adds more";
   first.addCalculation(named("D"));
   second.addCalculation(named("E"));
   first.removeCalculation(2);

@@ -92,6 +92,10 @@ void AppDelegate::openWindow() {
       engine_, QStringLiteral("shell/frame/AppWindow.qml"),
       {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}});
   windowMemory_.emplace(*window_, services_.userDefaults);
+  // A long history is read once there is something to be seen.
+  connect(
+      window_.get(), &QQuickWindow::frameSwapped, this, [this] { services_.calcManager.calculations(); },
+      static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
   drawer_->beginAppearance();
   windowMemory_->show();
   drawer_->endAppearance();
