@@ -104,20 +104,20 @@ Column {
         }
     }
 
-    SheetButton {
+    SheetRow {
         objectName: "copyExactLatex"
         focus: true
         text: qsTrId("copyAsLatex")
         iconText: Icons.copy
         onClicked: page.controller.copyLatex()
     }
-    SheetButton {
+    SheetRow {
         objectName: "copyExactText"
         text: qsTrId("copyAsText")
         iconText: Icons.copy
         onClicked: page.controller.copyText()
     }
-    SheetButton {
+    SheetRow {
         objectName: "closeExactSheet"
         text: qsTrId("Cancel")
         iconText: Icons.close
@@ -158,42 +158,6 @@ Column {
         }
         FocusRing {
             control: line
-            ground: Theme.groupedBackground
-        }
-    }
-
-    component SheetButton: Pressable {
-        id: row
-
-        property string iconText
-
-        width: page.width
-        height: 56
-        Keys.onDownPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
-        Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-
-        background: Rectangle {
-            color: Theme.label
-            opacity: row.down ? 0.12 : row.isHovered ? 0.05 : 0
-        }
-        contentItem: Row {
-            leftPadding: 24
-            spacing: 24
-
-            Icon {
-                anchors.verticalCenter: parent.verticalCenter
-                text: row.iconText
-            }
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                text: row.text
-                font: Theme.book(16)
-                color: Theme.label
-            }
-        }
-
-        FocusRing {
-            control: row
             ground: Theme.groupedBackground
         }
     }

@@ -52,81 +52,47 @@ Column {
         }
     }
 
-    SheetRow {
+    ShareRow {
         objectName: "save"
         focus: true
         text: qsTrId("sharingSave")
         iconText: Icons.save
         onClicked: page.controller.save()
     }
-    SheetRow {
+    ShareRow {
         objectName: "saveAs"
         visible: page.controller.hasSaveDialog
         text: qsTrId("sharingSaveAs")
         iconText: Icons.save
         onClicked: fileDialog.active = true
     }
-    SheetRow {
+    ShareRow {
         objectName: "copy"
         text: qsTrId("sharingCopy")
         iconText: Icons.copy
         onClicked: page.controller.copy()
     }
-    SheetRow {
+    ShareRow {
         objectName: "open"
         text: qsTrId("sharingOpen")
         iconText: Icons.open
         onClicked: page.controller.open()
     }
-    SheetRow {
+    ShareRow {
         objectName: "copyLatex"
         text: qsTrId("copyAsLatex")
         iconText: Icons.copy
         onClicked: page.controller.copyLatex()
     }
-    SheetRow {
+    ShareRow {
         objectName: "closeSheet"
         text: qsTrId("Cancel")
         iconText: Icons.close
         onClicked: page.controller.cancel()
     }
 
-    component SheetRow: Pressable {
-        id: row
-
-        property string iconText
-
-        width: page.width
-        height: 56
+    component ShareRow: SheetRow {
         enabled: !page.controller.isBusy
-        opacity: enabled ? 1 : 0.4
-        Keys.onDownPressed: nextItemInFocusChain().forceActiveFocus(Qt.TabFocusReason)
-        Keys.onUpPressed: nextItemInFocusChain(false).forceActiveFocus(Qt.BacktabFocusReason)
-
-        background: Rectangle {
-            color: Theme.label
-            opacity: row.down ? 0.12 : row.isHovered ? 0.05 : 0
-        }
-        contentItem: Row {
-            leftPadding: 24
-            spacing: 24
-
-            Icon {
-                anchors.verticalCenter: parent.verticalCenter
-                text: row.iconText
-            }
-            Text {
-                anchors.verticalCenter: parent.verticalCenter
-                text: row.text
-                font: Theme.book(16)
-                color: Theme.label
-            }
-        }
-
-        FocusRing {
-            control: row
-            ground: Theme.groupedBackground
-        }
     }
 
     // The dialog takes long to load, and mostly is not needed.
