@@ -7,10 +7,12 @@
 
 #include <QtQml/qqmlextensionplugin.h>
 
+#include "offscreen.h"
+
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::useOffscreenScreen();
   const QGuiApplication application(argc, argv);
   QStandardPaths::setTestModeEnabled(true);
   // The module's types are there for C++ once some QML has asked for them.

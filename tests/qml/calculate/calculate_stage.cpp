@@ -7,6 +7,8 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
 
+#include "offscreen.h"
+
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
 
 namespace tavi {
@@ -38,7 +40,7 @@ void CalculateStage::qmlEngineAvailable(QQmlEngine* engine) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::useOffscreenScreen();
   tavi::CalculateStage stage;
   return quick_test_main_with_setup(argc, argv, "calculate", TAVI_QML_TESTS, &stage);
 }

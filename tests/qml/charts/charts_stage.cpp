@@ -11,6 +11,7 @@
 
 #include "appearance/appearance.h"
 #include "charts/chart_reader.h"
+#include "offscreen.h"
 #include "platform/localization.h"
 #include "solution/rows/chart_row.h"
 
@@ -70,7 +71,7 @@ void ChartsStage::qmlEngineAvailable(QQmlEngine* engine) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::useOffscreenScreen();
   tavi::ChartsStage stage;
   return quick_test_main_with_setup(argc, argv, "charts", TAVI_QML_TESTS, &stage);
 }

@@ -7,6 +7,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
 
+#include "offscreen.h"
 #include "shell/frame/alert_controller.h"
 #include "shell/frame/controller_host.h"
 #include "shell/frame/view_manager.h"
@@ -141,7 +142,7 @@ void FrameStage::qmlEngineAvailable(QQmlEngine* engine) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::useOffscreenScreen();
   tavi::FrameStage stage;
   return quick_test_main_with_setup(argc, argv, "frame", TAVI_QML_TESTS, &stage);
 }

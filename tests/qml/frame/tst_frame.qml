@@ -442,6 +442,7 @@ Item {
             tryVerify(() => tab.isHovered);
             stage.ask(["OK"]);
             tryVerify(() => isShown("alertAction0"));
+            mouseMove(item("alertAction0"));
             mouseClick(item("alertAction0"));
             tryVerify(() => !isShown("sheet"));
             tryVerify(() => !tab.isHovered);

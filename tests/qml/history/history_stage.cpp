@@ -11,6 +11,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
 
+#include "offscreen.h"
 #include "platform/localization.h"
 #include "shell/frame/controller_host.h"
 #include "shell/frame/view_manager.h"
@@ -98,7 +99,7 @@ void HistoryStage::qmlEngineAvailable(QQmlEngine* engine) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
+  tavi::useOffscreenScreen();
   tavi::HistoryStage stage;
   return quick_test_main_with_setup(argc, argv, "history", TAVI_QML_TESTS, &stage);
 }

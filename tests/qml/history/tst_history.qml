@@ -231,7 +231,7 @@ Item {
             finger.press(0, handles, 24, 100).commit();
             finger.move(0, handles, 24, 400).commit();
             finger.move(0, handles, 24, handles.height - 10).commit();
-            tryVerify(() => table().contentY > 1000);
+            tryVerify(() => table().contentY > 1000, 60000);
             finger.release(0, handles, 24, handles.height - 10).commit();
             verify(stage.stored.indexOf("1") > 20);
         }

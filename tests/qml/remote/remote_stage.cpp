@@ -5,6 +5,7 @@
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>
 
+#include "offscreen.h"
 #include "platform/localization.h"
 
 Q_IMPORT_QML_PLUGIN(TaviPlugin)
@@ -19,8 +20,7 @@ void RemoteStage::qmlEngineAvailable(QQmlEngine* engine) {
 }  // namespace tavi
 
 int main(int argc, char** argv) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  qputenv("QML_NO_TOUCH_COMPRESSION", "1");
+  tavi::useOffscreenScreen();
   tavi::RemoteStage stage;
   return quick_test_main_with_setup(argc, argv, "remote", TAVI_QML_TESTS, &stage);
 }
