@@ -30,14 +30,11 @@ T.Popup {
         objectName: "toast"
         radius: 10
         color: Qt.alpha(Theme.label, 0.8)
-
-        TapHandler {
-            gesturePolicy: TapHandler.WithinBounds
-            onTapped: ViewManager.hideToast()
-        }
     }
-    contentItem: Item {
+    // Of a popup's touches the background gets none.
+    contentItem: MouseArea {
         implicitHeight: Math.max(label.implicitHeight + 12, action.visible ? action.height : 0)
+        onClicked: ViewManager.hideToast()
 
         Text {
             id: label
