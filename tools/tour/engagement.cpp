@@ -20,7 +20,7 @@ OnboardViewController& introduction(Stage& stage) {
 
 void solve(Stage& stage) {
   stage.clearTheView();
-  stage.waitForToastsToGo();
+  stage.sendToastsAway();
   if (stage.solutionSteps().empty())
     stage.solve(Mode::power, u"-2", u"3/2");
   else if (stage.shows(QStringLiteral("tab1")))

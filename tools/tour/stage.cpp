@@ -2,6 +2,8 @@
 
 #include <QTest>
 
+#include <private/qabstractanimation_p.h>
+
 #include "shell/frame/screenshot.h"
 #include "solution/share/share_sheet_controller.h"
 
@@ -94,7 +96,7 @@ void Stage::openInput() {
 }
 
 void Stage::prepare(Mode mode, QStringView first, QStringView second) {
-  waitForToastsToGo();
+  sendToastsAway();
   openInput();
   tap(QStringLiteral("toolbarRemoveButton"));
   const bool isPower = mode == Mode::power;
@@ -155,8 +157,9 @@ void waitUntil(const std::function<bool()>& isReached, const std::string& what) 
   if (!QTest::qWaitFor(isReached, static_cast<int>(patience.count()))) throw Failure("not reached: " + what);
 }
 
-void Stage::waitForToastsToGo() const {
-  waitUntil([this] { return !shows(QStringLiteral("toast")); }, "the last toast is gone");
+void Stage::sendToastsAway() {
+  if (shows(QStringLiteral("toast"))) tap(QStringLiteral("toast"));
+  waitUntil([this] { return !shows(QStringLiteral("toast")); }, "the toast is gone");
 }
 
 void Stage::expectNothingCut() {
@@ -166,7 +169,11 @@ void Stage::expectNothingCut() {
 
 QImage Stage::picture() {
   constexpr int longestAnimation = 250;
-  QTest::qWait(longestAnimation + 100);
+  constexpr int haste = 5;
+  QUnifiedTimer::instance()->setSlowdownFactor(1.0 / haste);
+  QUnifiedTimer::instance()->setSlowModeEnabled(true);
+  QTest::qWait((longestAnimation + 100) / haste);
+  QUnifiedTimer::instance()->setSlowModeEnabled(false);
   QImage image = window().grabWindow();
   if (image.isNull()) throw Failure("the window gives no picture");
   return image;

@@ -67,12 +67,14 @@ class Stage {
   /// The picture that a sheet offers; null without one.
   QImage sharedPicture();
 
-  void waitForToastsToGo() const;
+  /// Taps the toast in sight, if there is one.
+  void sendToastsAway();
 
   /// Fails with the first of the texts in sight that is shortened or that does not fit into its place.
   void expectNothingCut();
 
-  /// What the window shows once everything has come to rest.
+  /// What the window shows once everything has come to rest, which all animations do five times as fast
+  /// meanwhile.
   QImage picture();
 
  private:

@@ -70,7 +70,7 @@ void wideLine(Stage& stage) {
 }
 
 void openDrawer(Stage& stage) {
-  stage.waitForToastsToGo();
+  stage.sendToastsAway();
   if (stage.delegate().drawer()->isLeftViewOpened()) return;
   stage.tap(QStringLiteral("menuButton"));
   waitUntil([&stage] { return stage.shows(QStringLiteral("menuRow 3 0")); }, "all of the menu is open");
