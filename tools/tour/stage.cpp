@@ -130,8 +130,11 @@ void Stage::scrollWideLine() {
 void Stage::clearTheView() {
   delegate().drawer()->dismissPresented();
   delegate().drawer()->closeLeftView();
-  waitUntil([this] { return delegate().drawer()->presentedController() == nullptr; },
-            "nothing lies over the pages");
+  waitUntil(
+      [this] {
+        return delegate().drawer()->presentedController() == nullptr && !shows(QStringLiteral("sideMenu"));
+      },
+      "nothing lies over the pages");
   picture();
 }
 
