@@ -10,7 +10,7 @@ std::optional<Account> accountOf(Mode mode, std::string_view first, std::string_
   auto* value = std::get_if<ExactValue>(&answer);
   if (value == nullptr) return std::nullopt;
   Proof proof = proofRead(steps, value->task, true);
-  return Account{*std::move(value), std::move(proof)};
+  return Account{std::move(*value), std::move(proof)};
 }
 
 }  // namespace tavi::exact

@@ -142,7 +142,8 @@ class ExpressionReader {
 
   bool readSigned() {
     bool isNegative = false;
-    for (; next() == U'-' || next() == U'−' || next() == U'+'; ++at_) isNegative ^= next() != U'+';
+    for (; next() == U'-' || next() == U'−' || next() == U'+'; ++at_)
+      if (next() != U'+') isNegative = !isNegative;
     return readFactors(isNegative);
   }
 

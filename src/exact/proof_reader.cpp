@@ -176,7 +176,7 @@ class ProofReader {
   }
 
   // Equal wherever both sides are defined, whatever the signs of the variables.
-  Mark markOfIdentity(const Operations& left, const Operations& right, unsigned variables) const {
+  static Mark markOfIdentity(const Operations& left, const Operations& right, unsigned variables) {
     bool isAnywhereEqual = false;
     bool isNowhereDefined = true;
     for (unsigned negative = variables;; negative = (negative - 1) & variables) {

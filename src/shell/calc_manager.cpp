@@ -121,15 +121,15 @@ StoredCalculations CalcManager::appendCalculations(const QList<Calculation>& cal
 
 void CalcManager::withdrawCalculations(const StoredCalculations& appended) {
   QList<qlonglong> numbers;
-  for (auto each = appended.rbegin(); each != appended.rend(); ++each) {  // The last ones go the fastest.
-    const auto place = std::ranges::lower_bound(list().numbers, each->number, std::greater());
+  for (qsizetype last = appended.size() - 1; last >= 0; --last) {  // The last ones go the fastest.
+    const auto& [number, calculation] = appended[last];
+    const auto place = std::ranges::lower_bound(list().numbers, number, std::greater());
     const qsizetype index = place - list().numbers.begin();
-    if (place == list().numbers.end() || *place != each->number ||
-        list().calculations[index] != each->calculation)
+    if (place == list().numbers.end() || *place != number || list().calculations[index] != calculation)
       continue;
     list().numbers.removeAt(index);
     list().calculations.removeAt(index);
-    numbers.append(each->number);
+    numbers.append(number);
   }
   save([&] { return userDefaults_.removeElements(preferences::calculations, numbers); });
 }

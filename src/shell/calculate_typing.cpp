@@ -133,11 +133,12 @@ void CalculateViewController::setNotice(const QString& words) {
 }
 
 bool CalculateViewController::isTypingPossible() const {
-  return currentTextField && currentTextField->isFirstResponder() && currentTextField->selectedTextRange();
+  return currentTextField != nullptr && currentTextField->isFirstResponder() &&
+         currentTextField->selectedTextRange();
 }
 
 bool CalculateViewController::isDeletePossible() const {
-  return currentTextField && currentTextField->selectedTextRange() &&
+  return currentTextField != nullptr && currentTextField->selectedTextRange() &&
          currentTextField->selectedTextRange()->end > 0;
 }
 
@@ -205,7 +206,7 @@ bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const Q
 // Gives a field the focus if none has it: the one typed into before, else the one that has no default.
 bool CalculateViewController::beginTyping() {
   if (isTypingPossible()) return true;
-  const bool isBegun = currentTextField && currentTextField->isInVisibleHolder();
+  const bool isBegun = currentTextField != nullptr && currentTextField->isInVisibleHolder();
   if (DTTextField* field = isBegun ? currentTextField : visibleField("xTextField")) field->forceActiveFocus();
   return isTypingPossible();
 }

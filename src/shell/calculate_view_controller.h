@@ -192,7 +192,7 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   };
   void watch(DTTextField& field);
   bool beginTyping();
-  void goToFault(const QList<DTTextField*>& fields);
+  static void goToFault(const QList<DTTextField*>& fields);
   void deleteRange(TextRange range);
   void setText(const QString& text);
   void setText(const QString& identifier, const QString& text);

@@ -10,7 +10,7 @@ namespace tavi {
 
 bool hasFileDialog() {
   const QPlatformTheme* theme = QGuiApplicationPrivate::platformTheme();
-  return theme && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
+  return theme != nullptr && theme->usePlatformNativeDialog(QPlatformTheme::FileDialog);
 }
 
 QString failureWords(WriteResult result) {

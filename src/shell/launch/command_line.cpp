@@ -61,7 +61,7 @@ std::optional<std::string_view> answerToOption(std::string_view argument) {
 
 std::variant<std::optional<Calculation>, StartRefusal> readCommandLine(const QStringList& arguments) {
   if (arguments.isEmpty()) return std::nullopt;
-  const auto name = std::ranges::find(modeNames, arguments.front());
+  const auto* name = std::ranges::find(modeNames, arguments.front());
   if (name == modeNames.end()) return misused(QStringLiteral("no command ") + arguments.front());
   if (arguments.size() != 1 && arguments.size() != 1 + identifiers.size())
     return misused(QStringLiteral("%1 takes two operands or none").arg(*name));

@@ -18,7 +18,7 @@ constexpr auto appearanceNames = std::to_array<QLatin1StringView>(
     {QLatin1StringView(""), QLatin1StringView("light"), QLatin1StringView("dark")});
 
 int storedAppearance(const PreferenceStore& preferences) {
-  const auto name = std::ranges::find(appearanceNames, preferences.value(preferences::appearance));
+  const auto* name = std::ranges::find(appearanceNames, preferences.value(preferences::appearance));
   return name == appearanceNames.end() ? SettingsViewController::asSystem
                                        : static_cast<int>(name - appearanceNames.begin());
 }
@@ -47,7 +47,7 @@ int SettingsViewController::appearance() const {
   return storedAppearance(services_.userDefaults);
 }
 
-QVariantList SettingsViewController::languages() const {
+QVariantList SettingsViewController::languages() {
   const auto choice = [](const QString& code, const QString& name) {
     return QVariantMap{{QStringLiteral("code"), code}, {QStringLiteral("name"), name}};
   };
@@ -69,7 +69,7 @@ bool SettingsViewController::isMeasuring() const {
   return services_.userDefaults.value(preferences::isMeasurementAccepted);
 }
 
-QString SettingsViewController::sentText() const {
+QString SettingsViewController::sentText() {
   return measurementText(MeasurementSettings::fromBundle(ResourceBundle::main()));
 }
 

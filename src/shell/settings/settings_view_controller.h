@@ -39,7 +39,7 @@ class SettingsViewController : public tavi::ViewController {
   QString title() const override;
   int appearance() const;
   /// Of { code, name }, each under its own name; the first one, with an empty code, is the system's.
-  QVariantList languages() const;
+  static QVariantList languages();
   /// The code of the chosen one, or empty for the system's.
   QString language() const;
   QString chosenLanguageName() const;
@@ -47,7 +47,7 @@ class SettingsViewController : public tavi::ViewController {
   bool canMeasure() const { return services_.measurement != nullptr; }
   bool isMeasuring() const;
   /// What is sent, for whoever wants to know before agreeing.
-  QString sentText() const;
+  static QString sentText();
 
   HistoryTransfer* transfer() { return &transfer_; }
 

@@ -3,6 +3,7 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 #include "appearance/interface_fonts.h"
@@ -29,10 +30,10 @@ typeset::MathFont& mathFont() {
 
 class StepRowPainter : public RowPainter {
  public:
-  StepRowPainter(const SolutionStepTableViewCell& row, double leastHeight, const RowTarget& target)
-      : row_(row), leastHeight_(leastHeight) {
+  StepRowPainter(SolutionStepTableViewCell row, double leastHeight, const RowTarget& target)
+      : row_(std::move(row)), leastHeight_(leastHeight) {
     if (row_.latex.isEmpty()) return;
-    const double formulaSize = measures.formulaSize(target.viewWidth);
+    const double formulaSize = RowMeasures::formulaSize(target.viewWidth);
     const typeset::Layout layout = typeset::typeset(row_.latex.toStdString(), mathFont(), formulaSize);
     formula_ = typeset::MathPicture(layout);
     lines_ = typeset::parted(layout, target.widestLine - 2 * measures.edge);
