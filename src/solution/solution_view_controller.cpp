@@ -197,7 +197,7 @@ void SolutionViewController::copyRow(int row, RowCopy::Form form) {
   if (row < 0 || row >= table_.rowCount()) {
     copied = std::ranges::find_if(rows, [](const SolutionRow& each) {
       const auto* step = std::get_if<SolutionStepTableViewCell>(&each.content);
-      return step && step->isResult;
+      return step != nullptr && step->isResult;
     });
     if (copied == rows.end()) copied = rows.begin();
   }
