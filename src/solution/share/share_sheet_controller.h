@@ -28,7 +28,7 @@ class ShareSheetController : public tavi::ViewController {
   Q_OBJECT
   QML_ELEMENT
   QML_UNCREATABLE("Made by the solution page")
-  Q_PROPERTY(tavi::ShareSheetController::Format format MEMBER format_ NOTIFY changed)
+  Q_PROPERTY(tavi::ShareSheetController::Format format READ format WRITE setFormat NOTIFY changed)
   Q_PROPERTY(QUrl proposedFile READ proposedFile NOTIFY changed)
   Q_PROPERTY(bool hasSaveDialog READ hasSaveDialog CONSTANT)
   Q_PROPERTY(bool isBusy READ isBusy NOTIFY changed)
@@ -45,6 +45,7 @@ class ShareSheetController : public tavi::ViewController {
   const QImage& picture() const { return working_.picture; }
 
   Format format() const { return format_; }
+  /// What was wrong with a file of another format is no longer told.
   void setFormat(Format format);
 
   /// A file in the user's pictures or, for documents, documents that is not there yet, named after the
