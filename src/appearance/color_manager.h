@@ -19,6 +19,7 @@ class ColorManager {
   /// A tag for views that are only made translucent.
   static constexpr int translucentTag = 200;
 
+  // No caller here.
   /// Red, green and blue as "#rrggbb", each truncated to 8 bits; absent for a colour without them. A
   /// component that is not finite is a fatal stop.
   static std::optional<QString> hexString(const QColor& color);

@@ -12,13 +12,13 @@ struct InterfaceColor {
   static QColor secondaryGray();  ///< Disabled tab titles, chart labels.
   static QColor label();          ///< Text.
   static QColor darkTitle();      ///< Text and icons on the warm colours, in both appearances.
-  static QColor lightTitle();
-  static QColor shadow();        ///< Of buttons.
-  static QColor strongShadow();  ///< Of floating elements.
-  static QColor background();    ///< Fields, cards and charts.
-  static QColor page();          ///< Behind the pages.
-  static QColor hairline();      ///< Thin separating lines.
-  static QColor fieldNeutral();  ///< Border of a field at rest; fixed by the first reading.
+  static QColor lightTitle();     // No caller here.
+  static QColor shadow();         ///< Of buttons.
+  static QColor strongShadow();   ///< Of floating elements.
+  static QColor background();     ///< Fields, cards and charts.
+  static QColor page();           ///< Behind the pages.
+  static QColor hairline();       ///< Thin separating lines.
+  static QColor fieldNeutral();   ///< Border of a field at rest; fixed by the first reading.
   static QColor fieldBackground();
   static QColor fieldFill();  ///< Background of a disabled field.
   static QColor red();        ///< Border of a field with a wrong value.

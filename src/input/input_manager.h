@@ -29,7 +29,7 @@ struct TermAnalysisResult {
 class TaviInputManager {
  public:
   TaviInputManager(TaviStringOutput& output, TaviMathOperation& operation);
-  static TaviInputManager& shared();
+  static TaviInputManager& shared();  // No caller here.
 
   /// Reads the fields; overwrites whatever an earlier call left here. The collector is expected to be empty.
   /// A field of brackets only passes the check for emptiness and ends in a fatal stop.

@@ -48,6 +48,7 @@ struct Unit {
   double factor = 0;  ///< Multiplies a value in this unit into the default unit.
 };
 
+// No caller of `to_json` here.
 void to_json(nlohmann::json& json, const Formula& formula);
 void from_json(const nlohmann::json& json, Formula& formula);
 void to_json(nlohmann::json& json, const Symbol& symbol);
@@ -87,6 +88,7 @@ class TaviFormulaUnit {
   /// FormulaError::configurationFailed; malformed: throws nlohmann::json::exception, and `units` stay.
   void loadUnits(std::string_view resourceName);
 
+  // No caller here.
   /// `text` with the default unit, as a whole word, replaced by the key of `targetUnit` or, without `useKey`,
   /// by its LaTeX. Unchanged when there is no other target.
   std::string unitText(std::string_view text, bool useKey) const;
@@ -99,6 +101,7 @@ class TaviFormulaUnit {
   ResourceReader reader_;
 };
 
+// No caller here.
 struct TaviFormulaCalculation {
   TaviFormulaCalculation();
 
@@ -107,6 +110,7 @@ struct TaviFormulaCalculation {
   int decimalPlaces = 12;
 };
 
+// No caller here.
 struct TaviFormulaCheck {};
 
 }  // namespace tavi

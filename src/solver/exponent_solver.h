@@ -35,6 +35,7 @@ class TaviExponentSolver {
   explicit TaviExponentSolver(TaviStringOutput& collector = TaviStringOutput::shared(),
                               TaviMathOperation& arithmetic = TaviMathOperation::shared());
 
+  // No caller here, as steps are read where they are collected.
   /// Solves "first text over second text": exponent and base of a power, index (2 by default) and radicand of
   /// a root; without a mode it runs the analysis alone. Writes the steps into the collector, which the caller
   /// has emptied.

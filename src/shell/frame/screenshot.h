@@ -12,7 +12,6 @@ namespace tavi {
 inline bool isTakingScreenshot = false;
 
 // No caller here: rows are painted. Further screens are promised both.
-
 /// A picture of the view, of the size of the rectangle, from the view's upper left corner on: the rectangle's
 /// own place does not count. `scale` pixels to a device-independent one. Null for an empty rectangle and for
 /// a view that is in no visible window.

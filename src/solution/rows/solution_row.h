@@ -23,6 +23,7 @@ struct RowHeight {
 
 /// One row of the solution table. A further kind is one more alternative, with its entry in this folder: data
 /// with the name of its kind, painter, and QML chosen by that name.
+// NOLINTNEXTLINE(bugprone-exception-escape): a font of Qt 6.4 moves without saying that it does not throw.
 struct SolutionRow {
   std::variant<SolutionStepTableViewCell, ChartTableViewCell, VideoCollectionTableViewCell> content;
   RowHeight height;
