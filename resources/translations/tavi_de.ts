@@ -567,6 +567,14 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>Copy as picture</source>
         <translation>Als Bild kopieren</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>Ab hier vorlesen</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>Vorlesen beenden</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>Speichern unter …</translation>

@@ -567,6 +567,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Copy as picture</source>
         <translation>Copy as picture</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>Read aloud from here</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>Stop reading aloud</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>Save as…</translation>

@@ -567,6 +567,14 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <source>Copy as picture</source>
         <translation>Copiar como imagen</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>Leer en voz alta desde aquí</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>Parar la lectura</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>Guardar como…</translation>

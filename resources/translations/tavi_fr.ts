@@ -567,6 +567,14 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <source>Copy as picture</source>
         <translation>Copier comme image</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>Écouter à partir d’ici</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>Arrêter la lecture</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>Enregistrer sous…</translation>

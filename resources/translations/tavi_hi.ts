@@ -567,6 +567,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Copy as picture</source>
         <translation>चित्र के रूप में कॉपी करें</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>यहाँ से पढ़कर सुनाएँ</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>पढ़कर सुनाना बंद करें</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>इस रूप में सहेजें…</translation>

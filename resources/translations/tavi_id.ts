@@ -567,6 +567,14 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <source>Copy as picture</source>
         <translation>Salin sebagai gambar</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>Bacakan dari sini</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>Berhenti membacakan</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>Simpan sebagai…</translation>

@@ -567,6 +567,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Copy as picture</source>
         <translation>画像としてコピー</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>ここから読み上げる</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>読み上げを止める</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>名前を付けて保存…</translation>

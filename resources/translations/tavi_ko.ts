@@ -567,6 +567,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Copy as picture</source>
         <translation>그림으로 복사</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>여기부터 소리 내어 읽기</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>소리 내어 읽기 중지</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>다른 이름으로 저장…</translation>

@@ -567,6 +567,14 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <source>Copy as picture</source>
         <translation>Copiar como imagem</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>Ouvir a partir daqui</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>Parar a leitura</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>Salvar como…</translation>

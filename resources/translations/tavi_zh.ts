@@ -567,6 +567,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>Copy as picture</source>
         <translation>复制为图片</translation>
     </message>
+    <message id="readAloud">
+        <source>Read aloud from here</source>
+        <translation>从这里开始朗读</translation>
+    </message>
+    <message id="readAloudStop">
+        <source>Stop reading aloud</source>
+        <translation>停止朗读</translation>
+    </message>
     <message id="sharingSaveAs">
         <source>Save as…</source>
         <translation>另存为…</translation>

@@ -19,6 +19,7 @@ QtObject {
     readonly property string lock: "\uf33e"
     readonly property string lockOpen: "\uf33f"
     readonly property string play: "\uf40a"
+    readonly property string stop: "\uf4db"
     readonly property string star: "\uf4ce"
     readonly property string starOutline: "\uf4d2"
     readonly property string settings: "\uf493"

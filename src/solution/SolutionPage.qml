@@ -7,6 +7,7 @@ Rectangle {
     id: page
 
     required property SolutionViewController controller
+    readonly property Reader reader: controller.reader
     readonly property bool hasRoomBeside: width - Theme.tabletWidth >= 2 * 96
 
     // Of all rows, changed by the table.
@@ -46,6 +47,7 @@ Rectangle {
                     onMenuRequested: place => rowMenu.openFor(index, this, place)
                     viewWidth: page.width
                     measures: page.controller.measures
+                    isRead: page.reader.row === index
                     isMarked: page.controller.marks[index] ?? false
                     hasExactValue: page.controller.hasExactValue && content.isResult
                     onExactRequested: page.controller.tappedExactButton()
@@ -56,6 +58,7 @@ Rectangle {
                 roleValue: "chart"
                 ChartRow {
                     width: table.width
+                    isRead: page.reader.row === index
                     onMenuRequested: place => rowMenu.openFor(index, this, place)
                     viewWidth: page.width
                 }
@@ -95,23 +98,37 @@ Rectangle {
             contentY = Math.min(foot, Math.max(top, contentY + way));
         }
 
-        // To the next row, but first to the end of one that is higher than the page.
+        // To the next row, but first to the end of one that is higher than the page; while rows are read, to what is read.
         function stepBy(way: int) {
+            if (page.reader.isReading)
+                return page.reader.readFrom(Math.max(0, page.reader.row + way));
             const row = currentItem;
             if (row && way > 0 && row.y + row.height > contentY + height)
                 return scrollBy(48);
             if (row && way < 0 && row.y < contentY)
                 return scrollBy(-48);
             currentIndex = Math.max(0, Math.min(count - 1, currentIndex + way));
+            bringIntoSight(currentIndex);
+        }
+
+        function bringIntoSight(row: int) {
+            positionViewAtIndex(row, ListView.Contain);
             // The second time it knows how high the rows on the way are.
-            positionViewAtIndex(currentIndex, ListView.Contain);
-            positionViewAtIndex(currentIndex, ListView.Contain);
+            positionViewAtIndex(row, ListView.Contain);
         }
 
         function scrollPage(way: real) {
             scrollBy(way);
             const middle = indexAt(width / 2, contentY + height / 2);
             currentIndex = middle >= 0 ? middle : way < 0 ? 0 : count - 1;
+        }
+
+        // Stops where it is, and goes on from there the next time.
+        function toggleReading() {
+            if (!page.reader.isReading)
+                return page.reader.readFrom(Math.max(0, currentIndex));
+            currentIndex = page.reader.row;
+            page.reader.stop();
         }
 
         function openMenu() {
@@ -132,7 +149,8 @@ Rectangle {
                 [Qt.Key_End]: () => scrollPage(contentHeight),
                 [Qt.Key_Left]: () => currentItem && currentItem.pressed(event.key),
                 [Qt.Key_Right]: () => currentItem && currentItem.pressed(event.key),
-                [Qt.Key_Menu]: () => openMenu()
+                [Qt.Key_Menu]: () => openMenu(),
+                [Qt.Key_R]: () => toggleReading()
             };
             if (event.matches(StandardKey.Copy))
                 page.controller.copyRow(currentIndex, RowCopy.Latex);
@@ -145,6 +163,13 @@ Rectangle {
             event.accepted = true;
         }
 
+        Connections {
+            target: page.reader
+            function onRowChanged() {
+                if (page.reader.isReading)
+                    table.bringIntoSight(page.reader.row);
+            }
+        }
         Connections {
             target: page.controller
             function onScrollToTopRequested() {
@@ -216,6 +241,12 @@ Rectangle {
         onActivated: page.controller.scaleFormulas(0)
     }
 
+    Shortcut {
+        sequences: [StandardKey.Cancel, StandardKey.Back]
+        enabled: page.reader.isReading
+        onActivated: page.reader.stop()
+    }
+
     // Until a row is chosen, the keyboard is at the whole table.
     FocusRing {
         anchors.fill: table
@@ -259,5 +290,16 @@ Rectangle {
         text: qsTrId("manualButton")
         iconText: Icons.manual
         onClicked: page.controller.manualButtonPressed()
+    }
+    FloatingButton {
+        objectName: "stopReadingButton"
+        anchors.right: shareButton.right
+        anchors.bottom: manualButton.visible ? manualButton.top : shareButton.top
+        anchors.bottomMargin: 12
+        visible: page.reader.isReading
+        outlined: true
+        text: qsTrId("readAloudStop")
+        iconText: Icons.stop
+        onClicked: table.toggleReading()
     }
 }

@@ -80,6 +80,7 @@ void SolutionViewController::handleClearAllButton() {
 }
 
 void SolutionViewController::setQuestion(std::optional<exact::AccountQuestion> question) {
+  reader_.stop();
   question_ = std::move(question);
   account_.reset();
   ++questionNumber_;
@@ -178,6 +179,18 @@ QString SolutionViewController::subject() const {
   return typeset::spokenText(QString::fromStdString(data_.solutionSteps.front().latexString.value_or("")));
 }
 
+std::optional<QString> SolutionViewController::rowWords(int row) const {
+  if (row >= table_.rowCount()) return std::nullopt;
+  const auto line = static_cast<std::size_t>(row);
+  const QString words = wordsOf(table_.rows()[line]);
+  const bool isMarked = account_ && line < account_->proof.lines.size() && account_->isMarked(line);
+  return isMarked ? words + QStringLiteral(", ") + localized("exactLineFalse") : words;
+}
+
+void SolutionViewController::stopReadingWhenCovered() {
+  if (isCovered()) reader_.stop();
+}
+
 void SolutionViewController::presentShareSheet(const ShareItems& items) {
   if (items.images.empty() || (isCovered() && !items.isMessageRead)) return;
   auto sheet = std::make_shared<ShareSheetController>(
@@ -224,6 +237,10 @@ void SolutionViewController::applyAppearance() {
 }
 
 void SolutionViewController::viewWillAppear() {
+  ViewController* window = this;
+  while (window->parentController()) window = window->parentController();
+  connect(window, &ViewController::presentedControllerChanged, this,
+          &SolutionViewController::stopReadingWhenCovered, Qt::UniqueConnection);
   applyAppearance();
   isManualButtonHidden_ = !manualImageName_ || manualImageName_->isEmpty();
   isShareButtonHidden_ = data_.solutionSteps.empty();

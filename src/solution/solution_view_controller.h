@@ -13,6 +13,7 @@
 #include "remote/remote_config_manager.h"
 #include "remote/videos/video_row_controller.h"
 #include "shell/frame/view_controller.h"
+#include "solution/reader.h"
 #include "solution/rows/row_measures.h"
 #include "solution/rows/solution_table_data.h"
 #include "solution/share/row_copies.h"
@@ -32,6 +33,7 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   Q_PROPERTY(QAbstractItemModel* table READ table CONSTANT)
   Q_PROPERTY(tavi::RowMeasures measures READ measures CONSTANT)
   Q_PROPERTY(tavi::VideoRowController* videos READ videos CONSTANT)
+  Q_PROPERTY(tavi::Reader* reader READ reader CONSTANT)
   Q_PROPERTY(bool hasExactValue READ hasExactValue NOTIFY marksChanged)
   Q_PROPERTY(QVariantList marks READ marks NOTIFY marksChanged)
   Q_PROPERTY(bool isShareButtonHidden READ isShareButtonHidden NOTIFY layoutChanged)
@@ -73,6 +75,7 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   SolutionTable* table() { return &table_; }
   static RowMeasures measures() { return rowMeasures; }
   VideoRowController* videos() { return &videos_; }
+  Reader* reader() { return &reader_; }
   bool hasExactValue() const { return question_.has_value(); }
   /// Of each step whether it is not true; empty until that is known.
   QVariantList marks() const;
@@ -103,9 +106,9 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   void viewDidLoad() override;
   void applyAppearance() override;
   void viewWillAppear() override;
+  void viewWillDisappear() override { reader_.stop(); }
 
  private:
-  /// What the message before a share sheet and the capture behind it share.
   /// What the message before a share sheet and the capture behind it share.
   struct ShareItems {
     std::vector<QImage> images;
@@ -124,6 +127,9 @@ class SolutionViewController : public tavi::AdHandlingViewController {
   PicturedTable picturedTable();
   /// The task in words.
   QString subject() const;
+  /// What assistive technology is told of the row; absent behind the last.
+  std::optional<QString> rowWords(int row) const;
+  void stopReadingWhenCovered();
   void presentShareSheet(const ShareItems& items);
 
   const RemoteConfigManager& remoteConfig_;
@@ -138,6 +144,7 @@ class SolutionViewController : public tavi::AdHandlingViewController {
 
   SolutionTable table_;
   VideoRowController videos_;
+  Reader reader_{[this](int row) { return rowWords(row); }};
   bool isShareButtonHidden_ = true;
   bool isManualButtonHidden_ = true;
   bool hasFooter_ = false;

@@ -10,6 +10,7 @@
 
 #include <gtest/gtest.h>
 
+#include "platform/fake_voice.h"
 #include "shell/frame/controller_host.h"
 #include "shell/frame/page_tab_bar_controller.h"
 #include "shell/frame/toolbar_controller.h"
@@ -24,6 +25,13 @@ inline SolutionStep formulaStep(std::string title, std::string latex) {
 /// The solution page as the second of two tabs under a toolbar, in a window.
 class SolutionStage : public testing::Test {
  protected:
+  static QQuickItem* shownItem(QQuickItem& item, const char* name) {
+    if (item.isVisible() && item.objectName() == QLatin1String(name)) return &item;
+    for (QQuickItem* child : item.childItems())
+      if (QQuickItem* found = shownItem(*child, name)) return found;
+    return nullptr;
+  }
+
   SolutionStage() {
     window.resize(412, 744);
     window.show();
@@ -37,6 +45,7 @@ class SolutionStage : public testing::Test {
     host.setController(root.get());
     root->endAppearance();
     EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    solution->reader()->setVoice(std::make_unique<FakeVoice>(Voice::State::Missing));
   }
 
   void show(const SolutionSteps& steps, const ChartRows& charts = {}) {
@@ -55,6 +64,9 @@ class SolutionStage : public testing::Test {
     std::ranges::sort(found, {}, [](QQuickItem* cell) { return cell->mapToScene({}).y(); });
     return found;
   }
+
+  /// A line of the open menu, or none.
+  QQuickItem* menuEntry(const char* name) { return shownItem(*window.contentItem(), name); }
 
   QTemporaryDir folder;
   RemoteConfigService remoteConfig{{}, folder.filePath("remote.sqlite")};

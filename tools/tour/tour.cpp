@@ -7,6 +7,7 @@
 #include "appearance/formula_scale.h"
 #include "appearance/interface_colors.h"
 #include "platform/localization.h"
+#include "platform/voice.h"
 
 namespace tavi::tour {
 
@@ -227,17 +228,35 @@ void cleared(Stage& stage) {
   act(stage);
 }
 
+/// Reads aloud without a sound, whatever the system has, and never comes to an end.
+class SilentVoice : public Voice {
+ public:
+  State state() const override { return State::Ready; }
+  void prepare() override {}
+  void say(const QString& /*text*/) override {}
+  void stop() override {}
+};
+
 void rowMenu(Stage& stage) {
   manySteps(stage);
+  stage.delegate().solutionViewController()->reader()->setVoice(std::make_unique<SilentVoice>());
   stage.picture();
   const QPointF place = stage.item(QStringLiteral("solutionTable")).mapToScene({40, 40});
   QTest::mouseClick(&stage.window(), Qt::RightButton, {}, place.toPoint());
   waitUntil([&stage] { return stage.shows(QStringLiteral("copyRowLatex")); }, "the row's menu is open");
 }
 
-void shareFromMenu(Stage& stage) {
-  QTest::keyClick(&stage.window(), Qt::Key_Escape);
+void readAloud(Stage& stage) {
+  stage.tap(QStringLiteral("readRowAloud"));
   waitUntil([&stage] { return !stage.shows(QStringLiteral("copyRowLatex")); }, "the row's menu is closed");
+}
+
+void readAloudFromMenu(Stage& stage) {
+  rowMenu(stage);
+  readAloud(stage);
+}
+
+void shareIt(Stage& stage) {
   stage.share();
 }
 
@@ -282,6 +301,7 @@ constexpr auto phoneSteps = std::to_array<Step>({{"01-first-start", firstStart},
                                                  {"19-empty-history", emptyHistory}});
 constexpr auto darkSteps = std::to_array<Step>({{"09-dark-input", typing},
                                                 {"10-dark-solution", power},
+                                                {"142-dark-read-aloud", readAloudFromMenu},
                                                 {"11-dark-missing-value", missingValue},
                                                 {"12-dark-drawer", openDrawer},
                                                 {"20-dark-history", history},
@@ -370,7 +390,8 @@ constexpr auto narrowSteps = std::to_array<Step>({{"100-narrow-consent", firstCo
                                                   {"109-narrow-solution", manySteps},
                                                   {"110-narrow-no-solution", noSolution},
                                                   {"111-narrow-row-menu", rowMenu},
-                                                  {"112-narrow-share", shareFromMenu},
+                                                  {"141-narrow-read-aloud", readAloud},
+                                                  {"112-narrow-share", shareIt},
                                                   {"113-narrow-drawer", cleared<openDrawer>},
                                                   {"114-narrow-manual", inputManual},
                                                   {"115-narrow-solution-manual", solutionManual},

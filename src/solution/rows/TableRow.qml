@@ -1,7 +1,8 @@
 import QtQuick
 import Tavi
 
-// What all rows of the table share: their place in it, the ring when the keyboard acts on them, their menu.
+// What all rows of the table share: their place in it, the ring when the keyboard acts on them, the mark of the one
+// that is read aloud, their menu.
 Item {
     id: row
 
@@ -9,6 +10,7 @@ Item {
     required property var content
     required property var rowHeight
     required property real viewWidth
+    property bool isRead: false // Aloud, at the moment.
     readonly property ListView table: ListView.view as ListView
     readonly property bool isCurrent: ListView.isCurrentItem && table !== null && table.activeFocus
 
@@ -28,6 +30,19 @@ Item {
     TapHandler {
         acceptedButtons: Qt.RightButton
         onTapped: eventPoint => row.menuRequested(eventPoint.position)
+    }
+    Rectangle {
+        objectName: "readingMark"
+        anchors.fill: parent
+        visible: row.isRead
+        z: 1
+        color: Qt.alpha(Theme.accentText, 0.08)
+
+        Rectangle {
+            width: 4
+            height: parent.height
+            color: Theme.accentText
+        }
     }
     FocusRing {
         control: row.isCurrent ? row.table : null

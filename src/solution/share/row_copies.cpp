@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <variant>
 
+#include "charts/view/chart_words.h"
 #include "typeset/math_label.h"
 #include "typeset/mathml.h"
 #include "typeset/parser.h"
@@ -17,6 +18,11 @@ QString wordsOf(const SolutionStepTableViewCell& step) {
   QStringList parts{step.title, step.message, typeset::spokenText(step.latex)};
   parts.removeAll(QString());
   return parts.join(QStringLiteral(", "));
+}
+
+QString wordsOf(const ChartRow& charts) {
+  const std::optional<ChartView> view = ChartManager::chartView(charts);
+  return view ? QString::fromStdString(chartWords(*view, typeset::translatedPhrase)) : QString();
 }
 
 QImage pictureOf(const SolutionRow& row, double viewWidth) {
@@ -35,6 +41,12 @@ QImage pictureOf(const SolutionRow& row, double viewWidth) {
 }
 
 }  // namespace
+
+QString wordsOf(const SolutionRow& row) {
+  if (const auto* step = std::get_if<SolutionStepTableViewCell>(&row.content)) return wordsOf(*step);
+  if (const auto* charts = std::get_if<ChartTableViewCell>(&row.content)) return wordsOf(charts->chartData);
+  return {};
+}
 
 std::unique_ptr<QMimeData> copyOfRow(const SolutionRow& row, RowCopy::Form form, double viewWidth) {
   auto data = std::make_unique<QMimeData>();

@@ -1,0 +1,68 @@
+#include "platform/system_voice.h"
+
+#include <QDir>
+#include <QLibraryInfo>
+#include <QQmlComponent>
+#include <QQmlEngine>
+#include <memory>
+
+namespace tavi {
+
+void SpeakerThread::run() {
+  QQmlEngine engine;
+  QQmlComponent component(&engine, source_);
+  const std::unique_ptr<QObject> speaker(
+      component.isReady() ? component.createWithInitialProperties({{QStringLiteral("language"), language_}})
+                          : nullptr);
+  if (!speaker || !speaker->property("isSpoken").toBool()) {
+    emit made(nullptr);
+    return;
+  }
+  connect(speaker.get(), SIGNAL(ended(int, bool)), this, SIGNAL(ended(int, bool)), Qt::DirectConnection);
+  emit made(speaker.get());
+  exec();
+}
+
+SystemVoice::SystemVoice(const QUrl& source, const QString& language)
+    : source_(source), language_(language), state_(source.isEmpty() ? State::Missing : State::Unknown) {}
+
+/// A thread that is kept waiting by a service that does not answer is left behind.
+SystemVoice::~SystemVoice() {
+  if (!thread_) return;
+  thread_->quit();
+  if (thread_->wait(500)) delete thread_;
+}
+
+QUrl SystemVoice::installedSpeaker() {
+  const QDir modules(QLibraryInfo::path(QLibraryInfo::QmlImportsPath));
+  const QDir engines(QLibraryInfo::path(QLibraryInfo::PluginsPath) + QStringLiteral("/texttospeech"));
+  if (!modules.exists(QStringLiteral("QtTextToSpeech")) || engines.isEmpty()) return {};
+  return {QStringLiteral("qrc:/qt-project.org/imports/Tavi/platform/Speaker.qml")};
+}
+
+void SystemVoice::prepare() {
+  if (state_ != State::Unknown || thread_) return;
+  thread_ = new SpeakerThread(source_, language_);
+  connect(thread_, &SpeakerThread::made, this, [this](QObject* speaker) {
+    speaker_ = speaker;
+    state_ = speaker ? State::Ready : State::Missing;
+    emit stateChanged();
+  });
+  connect(thread_, &SpeakerThread::ended, this, [this](int number, bool isSaid) {
+    if (number == number_) emit ended(isSaid);
+  });
+  thread_->start(QThread::LowPriority);
+}
+
+void SystemVoice::say(const QString& text) {
+  if (!speaker_) return;
+  QMetaObject::invokeMethod(speaker_, "read", Qt::QueuedConnection, Q_ARG(QVariant, text),
+                            Q_ARG(QVariant, ++number_));
+}
+
+void SystemVoice::stop() {
+  ++number_;
+  if (speaker_) QMetaObject::invokeMethod(speaker_, "stop", Qt::QueuedConnection);
+}
+
+}  // namespace tavi

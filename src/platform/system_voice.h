@@ -1,0 +1,59 @@
+#pragma once
+
+#include <QThread>
+#include <QUrl>
+
+#include "platform/localization.h"
+#include "platform/voice.h"
+
+namespace tavi {
+
+/// The thread of what speaks, which is made of a QML file there and lives as long as the thread runs.
+class SpeakerThread : public QThread {
+  Q_OBJECT
+
+ public:
+  SpeakerThread(const QUrl& source, const QString& language) : source_(source), language_(language) {}
+
+ signals:
+  /// Whom texts are handed to by queued calls only; none where nothing speaks the language.
+  void made(QObject* speaker);
+  void ended(int number, bool isSaid);
+
+ protected:
+  void run() override;
+
+ private:
+  const QUrl source_;
+  const QString language_;
+};
+
+/// The voice of the system, where Qt's speech module and something that speaks the language are installed.
+/// Nothing of it is loaded before `prepare`. It is asked in a thread of its own: a speech service that is
+/// only being started, or that has no sound, keeps its callers waiting for seconds.
+class SystemVoice : public Voice {
+  Q_OBJECT
+
+ public:
+  /// The QML file of what speaks, and a language by its BCP 47 name.
+  explicit SystemVoice(const QUrl& source = installedSpeaker(), const QString& language = spokenLanguage());
+  ~SystemVoice() override;
+
+  State state() const override { return state_; }
+  void prepare() override;
+  void say(const QString& text) override;
+  void stop() override;
+
+ private:
+  /// Empty without the module or without an engine for it.
+  static QUrl installedSpeaker();
+
+  const QUrl source_;
+  const QString language_;
+  State state_ = State::Unknown;
+  SpeakerThread* thread_ = nullptr;
+  QObject* speaker_ = nullptr;
+  int number_ = 0;  // Of the text that is said, so that what comes late of an earlier one is known.
+};
+
+}  // namespace tavi
