@@ -781,7 +781,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="measurementAccept">
         <source>Send which functions are used</source>
-        <translation>भेजें कि क्या उपयोग हुआ</translation>
+        <translation>उपयोग की गई सुविधाएँ भेजें</translation>
     </message>
     <message id="measurementWhat">
         <source>What is sent</source>
@@ -1041,7 +1041,7 @@ With each event go its time, a random number that changes every day, and the nam
     </message>
     <message id="exactRootWithIndexZero">
         <source>There is no root with the index zero.</source>
-        <translation>घातांक शून्य वाला कोई मूल नहीं होता।</translation>
+        <translation>शून्य कोटि का कोई मूल नहीं होता।</translation>
     </message>
     <message id="exactEvenRootOfNegative">
         <source>An even root of a negative number is no real number.</source>
@@ -1089,7 +1089,7 @@ With each event go its time, a random number that changes every day, and the nam
     </message>
     <message id="ruleSymbolInExponent">
         <source>π or a variable in the exponent or in the index is left out.</source>
-        <translation>घातांक या मूल के घातांक में π या चर छोड़ दिया जाता है।</translation>
+        <translation>घातांक या मूल की कोटि में π या चर छोड़ दिया जाता है।</translation>
     </message>
     <message id="ruleBrackets">
         <source>The working writes a power without the brackets that its base needs.</source>

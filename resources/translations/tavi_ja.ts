@@ -1041,7 +1041,7 @@ With each event go its time, a random number that changes every day, and the nam
     </message>
     <message id="exactRootWithIndexZero">
         <source>There is no root with the index zero.</source>
-        <translation>指数が0の累乗根はありません。</translation>
+        <translation>根指数が0の累乗根はありません。</translation>
     </message>
     <message id="exactEvenRootOfNegative">
         <source>An even root of a negative number is no real number.</source>
@@ -1089,7 +1089,7 @@ With each event go its time, a random number that changes every day, and the nam
     </message>
     <message id="ruleSymbolInExponent">
         <source>π or a variable in the exponent or in the index is left out.</source>
-        <translation>指数にあるπや変数は省かれます。</translation>
+        <translation>指数や根指数にあるπや変数は省かれます。</translation>
     </message>
     <message id="ruleBrackets">
         <source>The working writes a power without the brackets that its base needs.</source>

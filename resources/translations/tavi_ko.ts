@@ -1041,7 +1041,7 @@ With each event go its time, a random number that changes every day, and the nam
     </message>
     <message id="exactRootWithIndexZero">
         <source>There is no root with the index zero.</source>
-        <translation>지수가 0인 거듭제곱근은 없습니다.</translation>
+        <translation>근지수가 0인 거듭제곱근은 없습니다.</translation>
     </message>
     <message id="exactEvenRootOfNegative">
         <source>An even root of a negative number is no real number.</source>
@@ -1089,7 +1089,7 @@ With each event go its time, a random number that changes every day, and the nam
     </message>
     <message id="ruleSymbolInExponent">
         <source>π or a variable in the exponent or in the index is left out.</source>
-        <translation>지수에 있는 π나 변수는 생략됩니다.</translation>
+        <translation>지수나 근지수에 있는 π나 변수는 생략됩니다.</translation>
     </message>
     <message id="ruleBrackets">
         <source>The working writes a power without the brackets that its base needs.</source>

@@ -137,7 +137,7 @@
     </message>
     <message id="Undo">
         <source>Undo</source>
-        <translation>Вернуть</translation>
+        <translation>Отменить</translation>
     </message>
     <message id="historyMoved">
         <source>Moved to %0 of %1</source>
@@ -277,7 +277,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="onboardingC">
         <source>Tap a field and type your numbers. Fractions, decimals, π and x, y, z are welcome, too.</source>
-        <translation>Нажмите на поле и введите числа. Можно вводить и дроби, десятичные числа, π и x, y, z.</translation>
+        <translation>Нажмите на поле и введите числа. Можно вводить дроби, обыкновенные и десятичные, π и x, y, z.</translation>
     </message>
     <message id="onboardingD">
         <source>Tap the check mark, and you see every step. Colours show what happens; a long line scrolls sideways.</source>
