@@ -269,7 +269,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="onboardingA">
         <source>Welcome to §appname! Here you learn step by step how powers and roots are worked out.</source>
-        <translation>§appname में आपका स्वागत है! यहाँ आप चरण दर चरण सीखते हैं कि घात और मूल कैसे निकालते हैं।</translation>
+        <translation>§appname में आपका स्वागत है! यहाँ आप चरण दर चरण घात और मूल निकालना सीखते हैं।</translation>
     </message>
     <message id="onboardingB">
         <source>At the top, choose between a power and a root.</source>
@@ -281,7 +281,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="onboardingD">
         <source>Tap the check mark, and you see every step. Colours show what happens; a long line scrolls sideways.</source>
-        <translation>सही के निशान को छुएँ और हर चरण देखें। रंग बताते हैं कि क्या हो रहा है; लंबी पंक्ति बगल में खिसकती है।</translation>
+        <translation>सही के निशान को छुएँ और हर चरण देखें। रंग बताते हैं कि क्या हो रहा है; लंबी पंक्ति बगल में खिसकाएँ।</translation>
     </message>
     <message id="onboardingE">
         <source>Your tasks stay in the history, which you find in the menu. The share button makes a picture of a working.</source>

@@ -117,7 +117,7 @@
     </message>
     <message id="Are you sure to delete your whole history?">
         <source>Are you sure you want to delete your whole history?</source>
-        <translation>すべての履歴を消去してもよろしいですか？</translation>
+        <translation>すべての履歴を消去しますか？</translation>
     </message>
     <message id="Edit">
         <source>Edit</source>
@@ -389,7 +389,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="hintTapField">
         <source>Tap a field to begin</source>
-        <translation>欄をタップして始めましょう</translation>
+        <translation>欄をタップして開始</translation>
     </message>
     <message id="hintBaseAndExponent">
         <source>Base and exponent are missing</source>

@@ -265,7 +265,7 @@ Until then nothing is loaded. You can withdraw at any time with the lock over th
 Where an address for it is set, the app fetches its list of videos and apps from the internet; nothing about you is sent along. Links open in your browser, and videos come from YouTube only after you have allowed it.</source>
         <translation>你的计算只留在这台设备上。你的题目、设置和这次的选择都只保存在这里。
 
-如果设置了相应的地址，应用会从网上获取视频和应用的列表，不会发送任何关于你的信息。链接会在你的浏览器中打开，视频只有在你允许之后才会从 YouTube 加载。</translation>
+如果设置了相应的地址，应用会从网上获取视频和应用的列表，不会发送任何关于你的信息。链接会在你的浏览器中打开，视频在你允许后才会从 YouTube 加载。</translation>
     </message>
     <message id="onboardingA">
         <source>Welcome to §appname! Here you learn step by step how powers and roots are worked out.</source>
@@ -285,7 +285,7 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="onboardingE">
         <source>Your tasks stay in the history, which you find in the menu. The share button makes a picture of a working.</source>
-        <translation>你的题目会留在历史记录里，在菜单中可以找到。分享按钮可以把解题过程变成图片。</translation>
+        <translation>你的题目会留在菜单里的历史记录中。分享按钮可以把解题过程变成图片。</translation>
     </message>
     <message id="onboardingYoutube1">
         <source>Some steps are easier to understand with a video.</source>
@@ -689,11 +689,11 @@ Where an address for it is set, the app fetches its list of videos and apps from
     </message>
     <message id="manual3">
         <source>The exponent; for a root, its index. An empty index means 2.</source>
-        <translation>指数；开方时是根指数。根指数留空表示 2。</translation>
+        <translation>指数；开方时是根指数，留空表示 2。</translation>
     </message>
     <message id="manual4">
         <source>Point, slash and letters: type 0.5, 3/2, π or x. Minus changes the sign of the field.</source>
-        <translation>小数点、分数线和字母：可输入 0.5、3/2、π 或 x。负号键改变输入框中数的正负。</translation>
+        <translation>小数点、分数线和字母：如 0.5、3/2、π 或 x。负号键改变数的正负。</translation>
     </message>
     <message id="manual5">
         <source>Delete on the left; the check mark starts the calculation.</source>

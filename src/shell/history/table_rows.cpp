@@ -67,7 +67,10 @@ QString dayTitle(const QDateTime& moment, const QDate& today) {
   // In the language of the other titles, which need not be the one that the system writes dates in.
   const QLocale own(QLocale().language(), QLocale().territory());
   const QLocale spoken(spokenLanguage());
-  return (spoken.language() == own.language() ? own : spoken).toString(day, QLocale::LongFormat);
+  const QLocale& locale = spoken.language() == own.language() ? own : spoken;
+  // A title begins with a capital, where a date in a sentence does not in every language.
+  QString title = locale.toString(day, QLocale::LongFormat);
+  return title.replace(0, 1, locale.toUpper(title.left(1)));
 }
 
 }  // namespace tavi

@@ -140,6 +140,8 @@ TEST(DayTitle, IsAWordOrADate) {
     QLocale::setDefault(QLocale(locale));
     EXPECT_EQ(dayTitle(at(-2, QTime(12, 0)), today), title) << locale;
   }
+  ASSERT_TRUE(loadTranslations({"ru"}));
+  EXPECT_EQ(dayTitle(at(-2, QTime(12, 0)), today), QString::fromUtf8("Пятница, 27 февраля 2026 г."));
   QLocale::setDefault(QLocale::system());
 }
 
