@@ -243,7 +243,7 @@ Rectangle {
 
     Shortcut {
         sequences: [StandardKey.Cancel, StandardKey.Back]
-        enabled: page.reader.isReading
+        enabled: page.reader.isReading && !rowMenu.visible
         onActivated: page.reader.stop()
     }
 

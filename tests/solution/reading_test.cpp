@@ -135,10 +135,14 @@ TEST_F(ReadingTest, IsOfferedWhereThereMayBeAVoice) {
     if (each.isEnabled) {
       QMetaObject::invokeMethod(entry, "triggered");
       EXPECT_EQ(reader.row(), 0);
+      ASSERT_TRUE(QTest::qWaitFor([&] { return menuEntry("copyRowLatex") == nullptr; }));
+      QTest::keyClick(&window, Qt::Key_Menu);
+      ASSERT_TRUE(QTest::qWaitFor([&] { return menuEntry("copyRowLatex") != nullptr; }));
     }
     QTest::keyClick(&window, Qt::Key_Escape);
-    QTest::keyClick(&window, Qt::Key_Escape);
     ASSERT_TRUE(QTest::qWaitFor([&] { return menuEntry("copyRowLatex") == nullptr; }));
+    EXPECT_EQ(reader.isReading(), each.isEnabled) << "only the menu was closed";
+    reader.stop();
   }
 }
 
