@@ -17,8 +17,25 @@ namespace {
 
 using nlohmann::json;
 
-// Deeper than any description; what is written out again must not nest without bounds.
+// Deeper than any description; what is kept and written out again must not nest without bounds.
 constexpr int deepestNesting = 32;
+
+bool isTooDeep(std::string_view text) {
+  int depth = 0;
+  bool isInString = false;
+  for (std::size_t at = 0; at < text.size() && depth <= deepestNesting; ++at) {
+    const char next = text[at];
+    if (isInString && next == '\\')
+      ++at;
+    else if (next == '"')
+      isInString = !isInString;
+    else if (!isInString && (next == '[' || next == '{'))
+      ++depth;
+    else if (!isInString && (next == ']' || next == '}'))
+      --depth;
+  }
+  return depth > deepestNesting;
+}
 
 // Leaves readChartRequest as its result.
 struct Malformed {
@@ -237,14 +254,9 @@ ChartRequest decoded(const json& request) {
 }  // namespace
 
 std::variant<ChartRequest, ChartRequestError> readChartRequest(std::string_view text) {
-  bool isTooDeep = false;
-  const json::parser_callback_t watchDepth = [&](int depth, json::parse_event_t, const json&) {
-    isTooDeep = isTooDeep || depth > deepestNesting;
-    return !isTooDeep;
-  };
-  const json request = json::parse(text, watchDepth, false);
+  if (isTooDeep(text)) return ChartRequestError{"nested too deeply"};
+  const json request = json::parse(text, nullptr, false);
   try {
-    if (isTooDeep) throw Malformed{"nested too deeply"};
     return decoded(request);
   } catch (const Malformed& malformed) {
     return ChartRequestError{malformed.reason};
