@@ -51,6 +51,9 @@ TEST_F(SolutionPageTest, TheResultOffersTheExactValueAndFalseLinesAreMarked) {
   auto* button = cells().back()->findChild<QQuickItem*>("exactButton");
   ASSERT_TRUE(button);
   EXPECT_GE(std::min(button->width(), button->height()), 48);
+  const auto* share = solution->view()->findChild<QQuickItem*>("shareButton");
+  EXPECT_LT(button->mapToScene({button->width(), 0}).x(), share->mapToScene({0, 0}).x())
+      << "never beneath it";
   button->forceActiveFocus();
   QTest::keyClick(&window, Qt::Key_Return);
   auto* sheet = qobject_cast<ExactSheetController*>(root->presentedController());

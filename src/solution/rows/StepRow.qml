@@ -131,10 +131,12 @@ TableRow {
         }
     }
 
+    // Beside the title, where the round buttons of the page never lie over it.
     Loader {
         id: exactButton
 
-        anchors.right: parent.right
+        x: title.x + Math.min(title.width, title.implicitWidth)
+        y: title.y + (title.height - height) / 2
         z: 1
         active: cell.hasExactValue
         sourceComponent: IconButton {
