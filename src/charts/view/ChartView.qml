@@ -125,11 +125,14 @@ Item {
     Templates.AbstractButton {
         id: replay
 
+        // It reaches beyond what is drawn, to the size of a finger.
+        readonly property real reach: Math.max(0, Theme.touchTarget - chart.replayButton.width) / 2
+
         objectName: "replayButton"
-        x: chart.replayButton.x
-        y: chart.replayButton.y
-        width: chart.replayButton.width
-        height: chart.replayButton.height
+        x: chart.replayButton.x - reach
+        y: chart.replayButton.y - reach
+        width: chart.replayButton.width + 2 * reach
+        height: chart.replayButton.height + 2 * reach
         visible: chart.duration > 0
         enabled: !chart.isRunning
         Accessible.name: qsTrId("animateAgainButton")
@@ -137,6 +140,7 @@ Item {
 
         FocusRing {
             control: replay
+            anchors.margins: replay.reach
             radius: width / 2
         }
     }
