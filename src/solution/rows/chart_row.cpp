@@ -18,7 +18,6 @@ class ChartRowPainter : public RowPainter {
   double height(double) const override { return rowHeight_; }
 
   void paint(QPainter& painter, QSizeF size, const RowPalette& palette) const override {
-    painter.fillRect(QRectF({}, size), palette.card);
     if (view_) paintChartRow(painter, size, view_, palette.chart);
   }
 

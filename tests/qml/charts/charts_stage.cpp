@@ -42,6 +42,7 @@ int ChartsStage::differenceFromPicture(QQuickItem* view) const {
   const double scale = view->window()->effectiveDevicePixelRatio();
   const QSizeF size = view->size();
   QImage picture((size * scale).toSize(), QImage::Format_RGB32);
+  picture.fill(RowPalette::current().page);
   QPainter painter(&picture);
   painter.scale(scale, scale);
   makePainter(ChartTableViewCell{view->property("charts").value<ChartRow>()}, size.height())
