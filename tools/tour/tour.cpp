@@ -428,6 +428,16 @@ constexpr auto darkChartSteps = std::to_array<Step>({{"95-dark-line-charts", lin
                                                      {"97-dark-circle", restingCircle}});
 constexpr auto tabletChartSteps =
     std::to_array<Step>({{"98-tablet-line-charts", lineCharts}, {"99-tablet-circle", restingCircle}});
+constexpr auto chartSizeSteps =
+    std::to_array<Step>({{"143-line-charts-360x640", at<lineCharts, 360, 640>},
+                         {"144-step-charts-360x640", at<stepCharts, 360, 640>},
+                         {"145-line-charts-800x360", at<lineCharts, 800, 360>},
+                         {"146-circle-800x360", at<restingCircle, 800, 360>},
+                         {"147-shared-charts-1920x1080", at<sharedCharts, 1920, 1080>}});
+constexpr auto exactSizeSteps =
+    std::to_array<Step>({{"148-exact-value-360x640", at<exactValue, 360, 640>},
+                         {"149-exact-root-800x360", cleared<at<exactRoot, 800, 360>>},
+                         {"150-exact-root-1280x800", cleared<at<exactRoot, 1280, 800>>}});
 constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps},
                                               {"dark", phone, true, darkSteps},
                                               {"tablet", tablet, false, tabletSteps},
@@ -447,7 +457,9 @@ constexpr auto visits = std::to_array<Visit>({{"phone", phone, false, phoneSteps
                                               {"scale", phone, false, scaleSteps},
                                               {"charts", phone, false, chartSteps},
                                               {"dark-charts", phone, true, darkChartSteps},
-                                              {"tablet-charts", tablet, false, tabletChartSteps}});
+                                              {"tablet-charts", tablet, false, tabletChartSteps},
+                                              {"chart-sizes", phone, false, chartSizeSteps},
+                                              {"dark-exact", phone, true, exactSizeSteps}});
 
 }  // namespace
 
