@@ -1,7 +1,11 @@
 #include "exact/expression_value.h"
 
 #include <algorithm>
+#include <array>
+#include <cstddef>
+#include <memory_resource>
 #include <utility>
+#include <vector>
 
 namespace tavi::exact {
 
@@ -13,6 +17,7 @@ constexpr double infinityLimit = 1e12;
 // Half of the last place that it prints.
 constexpr double printedPlaces = 5e-11;
 constexpr double resultPlaces = 5e-6;
+constexpr std::size_t usualDepth = 8;
 constexpr slong farthest = 1'000'000'000;
 constexpr int shortDigits = 6;
 constexpr double shortenedBy = 5e-6;  // relative
@@ -51,7 +56,7 @@ class Calculation {
   Calculation(const Reading& reading, bool isSpread) : reading_(reading), isSpread_(isSpread) {}
 
   Result result(const std::vector<Operation>& expression) {
-    stack_.reserve(8);
+    stack_.reserve(usualDepth);
     for (const Operation& operation : expression) carryOut(operation);
     return std::move(stack_.back());
   }
@@ -79,23 +84,20 @@ class Calculation {
       case Operator::negate:
         stack_.back().value.sign = -stack_.back().value.sign;
         break;
-      case Operator::multiply: {
-        const Result factor = taken();
-        multiply(stack_.back(), factor);
+      case Operator::divide:
+        invert(stack_.back());
+        [[fallthrough]];
+      case Operator::multiply:
+        multiply(*(stack_.end() - 2), stack_.back());
+        stack_.pop_back();
         break;
-      }
-      case Operator::divide: {
-        const Result divisor = taken();
-        multiply(stack_.back(), inverse(divisor));
-        break;
-      }
       case Operator::power:
         power(operation);
         break;
       case Operator::root: {
         Result index = taken();
         const bool isZero = index.value.fault == Fault::none && index.value.sign == 0;
-        index = inverse(index);
+        invert(index);
         if (isZero) index.value = Value::of(Fault::rootWithIndexZero);
         stack_.back() = raise(std::move(stack_.back()), index);
         break;
@@ -199,10 +201,9 @@ class Calculation {
     product.isNegativeRaised |= factor.isNegativeRaised;
   }
 
-  static Result inverse(Result divisor) {
+  static void invert(Result& divisor) {
     divisor.value = raised(std::move(divisor.value), Rational(-1));
     if (divisor.spread) arb_neg(*divisor.spread, *divisor.spread);
-    return divisor;
   }
 
   // -f·b^e, or by the rule of brackets (-f·b)^e.
@@ -274,7 +275,11 @@ class Calculation {
 
   const Reading& reading_;
   bool isSpread_;
-  std::vector<Result> stack_;
+  // The usual expression takes no memory of the heap.
+  alignas(Result)
+      std::array<std::byte, usualDepth * sizeof(Result)> room_;  // NOLINT(*-member-init): filled by the stack
+  std::pmr::monotonic_buffer_resource memory_{room_.data(), room_.size()};
+  std::pmr::vector<Result> stack_{&memory_};
 };
 
 }  // namespace

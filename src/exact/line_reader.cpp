@@ -1,6 +1,8 @@
 #include "exact/line_reader.h"
 
 #include <algorithm>
+#include <charconv>
+#include <limits>
 #include <span>
 #include <string>
 #include <utility>
@@ -72,15 +74,22 @@ constexpr slong largestTen = 400;  // exponent of a printed number
 // digits · 10^exponent, `places` of the digits behind the point.
 Operation numberOf(const std::string& digits, slong places, slong exponent) {
   Operation operation{.kind = Operator::number};
-  Integer whole;
-  fmpz_set_str(whole, digits.c_str(), 10);
+  fmpz* whole = operation.number.numerator();
+  slong small = 0;
+  if (digits.size() < std::numeric_limits<slong>::digits10) {
+    std::from_chars(digits.data(), digits.data() + digits.size(), small);
+    fmpz_set_si(whole, small);
+  } else {
+    fmpz_set_str(whole, digits.c_str(), 10);
+  }
   Integer power(10);
   const slong shift = exponent - places;
-  fmpz_pow_ui(power, power, static_cast<ulong>(std::abs(shift)));
-  if (shift >= 0) {
-    fmpz_mul(operation.number.numerator(), whole, power);
-  } else {
-    operation.number = Rational(whole, power);
+  if (shift != 0) {
+    fmpz_pow_ui(power, power, static_cast<ulong>(std::abs(shift)));
+    if (shift > 0)
+      fmpz_mul(whole, whole, power);
+    else
+      operation.number = Rational(whole, power);
   }
   // A point with nothing but zeros behind it is the solver's way to write a whole number.
   const bool isDecimal =

@@ -155,9 +155,8 @@ class ProofReader {
     const Operations& b = *right.expression;
     const unsigned variables = variablesOf(a) | variablesOf(b);
     if (variables != 0) return markOfIdentity(a, b, variables);
-    for (Side* side : {&left, &right}) {
-      if (!side->result) side->result = exactResult(*side->expression, {});
-    }
+    if (!left.result) left.result = exactResult(a, {});
+    if (!right.result) right.result = a == b ? left.result : exactResult(b, {});
     if (!isNumber(*left.result) || !isNumber(*right.result)) {
       return markWithoutNumber(*left.result, *right.result);
     }

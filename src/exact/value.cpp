@@ -21,7 +21,7 @@ bool areAllZero(const Exponents& exponents) {
 
 // So that the base is 1 with power 0, or above 1. It is above 0 before.
 void settle(Product& product) {
-  if (product.base < 1) {
+  if (fmpz_cmp(product.base.numerator(), product.base.denominator()) < 0) {
     fmpq_inv(product.base, product.base);
     fmpq_neg(product.power, product.power);
   }
