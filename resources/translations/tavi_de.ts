@@ -696,8 +696,8 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Punkt, Bruchstrich und Buchstaben: Schreibe 0.5, 3/2, π oder x. Minus wechselt das Vorzeichen des Feldes.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>Links löschst du, der Haken startet die Rechnung.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>Die Taste mit dem Kreuz löscht, der Haken startet die Rechnung.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -696,8 +696,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Point, slash and letters: type 0.5, 3/2, π or x. Minus changes the sign of the field.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>Delete on the left; the check mark starts the calculation.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>The key with the cross deletes; the check mark starts the calculation.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -696,8 +696,8 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <translation>Punto, barra y letras: escribe 0.5, 3/2, π o x. El menos cambia el signo del campo.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>A la izquierda se borra; la marca de verificación inicia el cálculo.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>La tecla con el aspa borra; la marca de verificación inicia el cálculo.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -696,8 +696,8 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <translation>Point, barre et lettres : tape 0.5, 3/2, π ou x. Le moins change le signe du champ.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>À gauche, tu supprimes ; la coche lance le calcul.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>La touche avec la croix supprime ; la coche lance le calcul.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

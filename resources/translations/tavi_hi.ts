@@ -696,8 +696,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>बिंदु, भिन्न रेखा और अक्षर: 0.5, 3/2, π या x लिखें। ऋण चिह्न खाने का चिह्न बदलता है।</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>बाईं ओर से मिटाएँ; सही का निशान हल शुरू करता है।</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>क्रॉस वाली कुंजी मिटाती है; सही का निशान हल शुरू करता है।</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

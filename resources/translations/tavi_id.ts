@@ -696,8 +696,8 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <translation>Titik, garis miring, dan huruf: ketik 0.5, 3/2, π, atau x. Minus mengganti tanda kolom.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>Hapus di kiri; tanda centang memulai perhitungan.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>Tombol dengan tanda silang menghapus; tanda centang memulai perhitungan.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -696,8 +696,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>小数点、斜線、文字：0.5、3/2、π、xのように入力します。マイナスは欄の符号を変えます。</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>左のキーで削除、チェックマークで計算を始めます。</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>バツ印のキーで削除、チェックマークで計算を始めます。</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -696,8 +696,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>소수점, 빗금, 문자: 0.5, 3/2, π, x처럼 쓰세요. 음의 부호는 칸의 부호를 바꿉니다.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>왼쪽에서 지우고, 체크 표시로 계산을 시작합니다.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>가위표가 있는 키로 지우고, 체크 표시로 계산을 시작합니다.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

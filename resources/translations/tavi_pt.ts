@@ -696,8 +696,8 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <translation>Ponto, barra e letras: digite 0.5, 3/2, π ou x. O menos troca o sinal do campo.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>À esquerda se apaga; o sinal de visto inicia o cálculo.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>A tecla com o xis apaga; o sinal de visto inicia o cálculo.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

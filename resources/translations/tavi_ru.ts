@@ -696,8 +696,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Точка, дробная черта и буквы: пишите 0.5, 3/2, π или x. Минус меняет знак поля.</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>Слева стирают; галочка начинает вычисление.</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>Клавиша с крестиком стирает; галочка начинает вычисление.</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -696,8 +696,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>小数点、分数线和字母：如 0.5、3/2、π 或 x。负号键改变数的正负。</translation>
     </message>
     <message id="manual5">
-        <source>Delete on the left; the check mark starts the calculation.</source>
-        <translation>左边的键删除，对勾开始计算。</translation>
+        <source>The key with the cross deletes; the check mark starts the calculation.</source>
+        <translation>带叉的键删除，对勾开始计算。</translation>
     </message>
     <message id="manual6">
         <source>The working begins with your task. Rows that are too long scroll sideways.</source>

@@ -7,6 +7,7 @@
 #include <QTemporaryDir>
 #include <memory>
 
+#include "platform/resource_bundle.h"
 #include "shell/calculate_view_controller.h"
 
 namespace tavi {
@@ -21,6 +22,11 @@ class CalculateStage : public QObject {
   /// A fresh page that fills the holder.
   Q_INVOKABLE QQuickItem* open(QQuickItem* holder);
   Q_INVOKABLE void close() { controller_.reset(); }
+
+  /// A drawing of the application's as the text that it is.
+  Q_INVOKABLE QString drawing(const QString& name) {
+    return QString::fromUtf8(ResourceBundle::main().picture(name).value_or(QByteArray()));
+  }
 
   QStringList toasts() const { return toasts_; }
   int records() const { return static_cast<int>(store_.calculations().size()); }

@@ -188,6 +188,19 @@ Item {
             compare(caretPixels(), 0);
         }
 
+        // The manual explains this keypad, so its drawing has the same keys in the same places.
+        function test_the_manual_draws_the_keys_as_they_are() {
+            const drawn = stage.drawing("qrx_info").match(/font-size="18"[^>]*>.</g).map(key => key.slice(-2, -1).replace("\u2212", "-"));
+            const keys = Array.from("0123456789./-πxyz").map(key => {
+                    const place = item("key " + key).mapToItem(page, 0, 0);
+                    return {
+                        "key": key,
+                        "order": place.y * page.width + place.x
+                    };
+                });
+            compare(drawn.join(""), keys.sort((a, b) => a.order - b.order).map(key => key.key).join(""));
+        }
+
         // Where everything stands that can be touched or read.
         function places(mode) {
             const fields = mode === "segment0" ? ["baseField", "exponentField"] : ["indexField", "radicandField"];
