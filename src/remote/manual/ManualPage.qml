@@ -19,10 +19,11 @@ Item {
     Rectangle {
         id: frame
 
+        objectName: "manualFrame"
         anchors.top: head.bottom
         anchors.left: parent.left
         width: page.isWide ? 0.58 * parent.width : parent.width
-        height: page.isWide ? parent.height - head.height : Math.min(0.55 * page.height, width * 0.9)
+        height: page.isWide ? parent.height - head.height - 2 * anchors.margins : Math.min(0.55 * page.height, width * 0.9)
         color: Theme.background
         radius: 12
         anchors.margins: page.isWide ? 12 : 0

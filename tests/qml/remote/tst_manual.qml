@@ -43,6 +43,23 @@ Item {
             fuzzyCompare(shownAt(point).y, shown.y, 0.02);
         }
 
+        function test_no_edge_of_the_drawing_lies_outside_data() {
+            return [Qt.size(412, 800), Qt.size(800, 360), Qt.size(1216, 736)].map(size => ({
+                            "tag": size.width + " x " + size.height,
+                            "size": size
+                        }));
+        }
+
+        function test_no_edge_of_the_drawing_lies_outside(row) {
+            loader.anchors.fill = undefined;
+            loader.width = row.size.width;
+            loader.height = row.size.height;
+            const frame = findChild(loader.item, "manualFrame");
+            verify(frame.y + frame.height <= row.size.height, frame.y + frame.height);
+            verify(frame.x + frame.width <= row.size.width);
+            loader.anchors.fill = root;
+        }
+
         function test_the_wheel_zooms_around_the_pointer_and_back() {
             const point = Qt.point(300, 100);
             const shown = shownAt(point);
