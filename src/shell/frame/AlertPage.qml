@@ -21,7 +21,8 @@ Column {
         visible: text
         text: page.controller.message
         font: Theme.book(15)
-        horizontalAlignment: Text.AlignHCenter
+        // Paragraphs and lists are not centred: their lines would begin at any place.
+        horizontalAlignment: text.includes("\n") ? Text.AlignLeft : Text.AlignHCenter
     }
     Repeater {
         model: page.controller.actionTitles

@@ -80,6 +80,8 @@ T.Popup {
         focus: true
         Keys.onEscapePressed: popup.controller.cancel()
         Keys.onBackPressed: popup.controller.cancel()
+        Keys.onUpPressed: scroll.scrollBy(-48)
+        Keys.onDownPressed: scroll.scrollBy(48)
 
         // A card or a sheet that is higher than the window scrolls, also to what the keyboard goes to.
         Flickable {
@@ -87,6 +89,11 @@ T.Popup {
 
             readonly property Item current: popup.activeFocus ? Window.activeFocusItem : null
 
+            function scrollBy(way: real) {
+                contentY = Math.max(0, Math.min(contentHeight - height, contentY + way));
+            }
+
+            objectName: "sheetScroll"
             anchors.fill: parent
             contentHeight: popup.isFitted ? host.implicitHeight : height
             boundsBehavior: Flickable.StopAtBounds
@@ -107,6 +114,13 @@ T.Popup {
                 controller: popup.controller
                 Accessible.role: Accessible.Pane
             }
+        }
+        ScrollThumb {
+            objectName: "sheetThumb"
+            flickable: scroll
+            orientation: Qt.Vertical
+            anchors.right: parent.right
+            anchors.rightMargin: 3
         }
     }
 

@@ -15,7 +15,7 @@ Rectangle {
         // The row that the keyboard acts on moves, and shows it.
         function step(way) {
             currentIndex = Math.max(0, Math.min(count - 1, currentIndex + way));
-            currentItem.forceActiveFocus(Qt.TabFocusReason);
+            currentItem?.forceActiveFocus(Qt.TabFocusReason);
         }
 
         objectName: "menuTable"
@@ -27,6 +27,11 @@ Rectangle {
         boundsBehavior: Flickable.StopAtBounds
         model: page.controller.table
         section.property: "section"
+        // A menu that opens begins at a row, not at the table as a whole.
+        onActiveFocusChanged: {
+            if (activeFocus && Window.activeFocusItem === table)
+                step(0);
+        }
         Keys.onDownPressed: step(1)
         Keys.onUpPressed: step(-1)
         Accessible.role: Accessible.List

@@ -192,8 +192,7 @@ Item {
 
         function test_the_keyboard_goes_through_the_menu_and_shows_where_it_is() {
             openMenu();
-            keyClick(Qt.Key_Down);
-            verify(isRinged("menuRow 0 0"));
+            tryVerify(() => item("menuRow 0 0").activeFocus, 5000, "so that Return opens it and a screen reader says where it is");
             keyClick(Qt.Key_Up);
             verify(isRinged("menuRow 0 0"));
             keyClick(Qt.Key_Tab);
@@ -294,6 +293,22 @@ Item {
             for (const key of row.keys)
                 keyClick(key);
             compare(stage.chosen, row.answer);
+            tryVerify(() => !isShown("sheet"));
+        }
+
+        // The answer is below the window's edge then: the thumb says that there is more, and keys go there.
+        function test_an_alert_that_is_too_high_scrolls() {
+            root.height = 160;
+            stage.ask(["No", "Yes", "Perhaps"]);
+            tryVerify(() => isShown("sheetThumb"));
+            const scroll = item("sheetScroll");
+            keyClick(Qt.Key_Up);
+            compare(scroll.contentY, 0);
+            for (let i = 0; i < 20; ++i)
+                keyClick(Qt.Key_Down);
+            compare(scroll.contentY, scroll.contentHeight - scroll.height);
+            keyClick(Qt.Key_Escape);
+            keyClick(Qt.Key_Space);
             tryVerify(() => !isShown("sheet"));
         }
 
