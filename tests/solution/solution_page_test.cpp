@@ -6,6 +6,7 @@
 #include <functional>
 
 #include "appearance/formula_scale.h"
+#include "platform/localization.h"
 #include "platform/preferences.h"
 #include "solution/exact/account_library.h"
 #include "solution/exact/exact_sheet_controller.h"
@@ -278,6 +279,21 @@ TEST_F(SolutionPageTest, ARowIsReadAsOneThing) {
     EXPECT_EQ(interface->text(QAccessible::Name), QLatin1String(expected[row]));
     EXPECT_EQ(interface->childCount(), 0) << "title and formula are part of the row's name";
   }
+}
+
+TEST_F(SolutionPageTest, TheRowOfVideosSaysWhatItIs) {
+  const QJsonObject links{{"en", QJsonArray{"https://videos.example.org/watch?v=abcdefghi_-"}}};
+  RemoteConfigSettings settings;
+  settings.defaults = {{"videoTutorials", QJsonObject{{"QRX", links}}}};
+  const RemoteConfigService known(settings, folder.filePath("known.sqlite"));
+  remoteConfigManager.loadVideoTutorials(known);
+  show({formulaStep("Result", "1")});
+  const auto rows = cells();
+  ASSERT_EQ(rows.size(), 2U);
+  QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(rows[1]);
+  ASSERT_TRUE(interface);
+  EXPECT_EQ(interface->role(), QAccessible::Grouping);
+  EXPECT_EQ(interface->text(QAccessible::Name), localized("recommendedVideoIfUnclear"));
 }
 
 }  // namespace

@@ -13,6 +13,8 @@ TableRow {
     readonly property bool isInSight: Window.window !== null && table !== null && offset + card.y + card.height > 0 && offset + card.y < table.height
 
     height: rowHeight.at(viewWidth)
+    Accessible.role: Accessible.Grouping
+    Accessible.name: titleLabel.text
     Component.onCompleted: videos.awakeFromNib()
 
     Rectangle {
@@ -25,8 +27,6 @@ TableRow {
         height: row.measures.videoCardHeight(row.height, row.table ? row.table.height : row.height)
         radius: row.measures.corner
         color: Theme.background
-        Accessible.role: Accessible.Grouping
-        Accessible.name: titleLabel.text
 
         Text {
             id: titleLabel
