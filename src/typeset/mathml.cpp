@@ -1,11 +1,19 @@
 #include "typeset/mathml.h"
 
+#include <algorithm>
 #include <optional>
 
 #include "typeset/utf8.h"
 
 namespace tavi::typeset {
 namespace {
+
+constexpr std::string_view emptyRow = "<mrow></mrow>";
+
+bool isRelation(const Atom& atom) {
+  const auto* symbol = std::get_if<Symbol>(&atom.content);
+  return symbol != nullptr && symbol->atomClass == AtomClass::relation;
+}
 
 /// The digit that the atom is, or that carries its scripts.
 std::optional<char32_t> numeralOf(const Atom& atom) {
@@ -31,6 +39,7 @@ std::string mathmlRow(const List& atoms) {
     if (!number.empty()) write(element("mn", number));
     number.clear();
   };
+  if (!atoms.empty() && isRelation(atoms.front())) write(std::string(emptyRow));
   for (const Atom& atom : atoms) {
     const std::optional<char32_t> numeral = numeralOf(atom);
     if (numeral) number += static_cast<char>(*numeral);
@@ -48,6 +57,14 @@ std::string mathmlRow(const List& atoms) {
   }
   writeNumber();
   return elements == 1 ? row : element("mrow", row);
+}
+
+std::string mathmlBase(const List& nucleus) {
+  constexpr std::string_view whole[] = {"<mi>", "<mi ", "<mn>", "<mo>", "<mo ", "<mtext>", "<mrow>"};
+  const std::string base = mathmlRow(nucleus);
+  const bool isWhole =
+      std::ranges::any_of(whole, [&](std::string_view tag) { return base.starts_with(tag); });
+  return isWhole ? base : element("mrow", std::string(emptyRow) + base);
 }
 
 std::string element(std::string_view name, std::string_view content, std::string_view attributes) {

@@ -13,8 +13,13 @@ std::string mathml(const List& line);
 
 // For the constructs.
 
-/// The atoms as exactly one element; digits that stand side by side are one number.
+/// The atoms as exactly one element; digits that stand side by side are one number. A row that begins with a
+/// relation has an empty left side, without which word processors miss one.
 std::string mathmlRow(const List& atoms);
+
+/// The element as the base of scripts: what is neither a sign nor a row of several becomes such a row.
+/// Otherwise word processors set the exponent of a fraction at its denominator.
+std::string mathmlBase(const List& nucleus);
 
 /// The element around its content; attributes begin with a blank.
 std::string element(std::string_view name, std::string_view content, std::string_view attributes = {});

@@ -34,6 +34,10 @@ TEST(MathMl, EachConstructHasItsElement) {
       {"\\text{a<b & c}", "<mtext>a&lt;b &amp; c</mtext>"},
       {"\\sin x", "<mrow><mi>sin</mi><mi>x</mi></mrow>"},
       {"2<3", "<mrow><mn>2</mn><mo>&lt;</mo><mn>3</mn></mrow>"},
+      {"=2", "<mrow><mrow></mrow><mo>=</mo><mn>2</mn></mrow>"},
+      {"\\frac{3}{2}^2",
+       "<msup><mrow><mrow></mrow><mfrac><mn>3</mn><mn>2</mn></mfrac></mrow><mn>2</mn></msup>"},
+      {"\\sqrt{2}^2", "<msup><mrow><mrow></mrow><msqrt><mn>2</mn></msqrt></mrow><mn>2</mn></msup>"},
       {"{}^{2}", "<msup><mrow></mrow><mn>2</mn></msup>"},
       {"", "<mrow></mrow>"},
   };

@@ -102,7 +102,7 @@ std::string Scripts::say(const Speaker& speaker) const {
 }
 
 std::string Scripts::mathml() const {
-  const std::string base = mathmlRow(nucleus);
+  const std::string base = mathmlBase(nucleus);
   if (superscript && subscript)
     return element("msubsup", base + mathmlRow(*subscript) + mathmlRow(*superscript));
   if (superscript) return element("msup", base + mathmlRow(*superscript));
