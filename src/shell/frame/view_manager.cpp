@@ -63,9 +63,11 @@ void ViewManager::hideSpinner() {
 }
 
 void ViewManager::restoreFocus() {
-  const QPointer<QQuickItem>& last = shared().pageFocus_;
-  if (last && last->window() && !isInPopup(last->window()->activeFocusItem()))
-    last->forceActiveFocus(Qt::PopupFocusReason);
+  QQuickItem* last = shared().pageFocus_;
+  if (!last || !last->window() || isInPopup(last->window()->activeFocusItem())) return;
+  // What was answered may have hidden it, as it does the lock over the videos.
+  if (!last->isVisible() || !last->isEnabled()) last = last->nextItemInFocusChain(false);
+  last->forceActiveFocus(Qt::PopupFocusReason);
 }
 
 void ViewManager::prepareSegmentedControls(const QQuickItem& item) {

@@ -312,6 +312,15 @@ Item {
             tryVerify(() => !isShown("sheet"));
         }
 
+        function test_the_focus_does_not_return_to_what_was_hidden_meanwhile() {
+            item("tab1").forceActiveFocus(Qt.TabFocusReason);
+            stage.ask(["OK"]);
+            tryVerify(() => focused() === "alertAction0");
+            item("tab1").visible = false;
+            keyClick(Qt.Key_Return);
+            tryVerify(() => focused() === "tab0");
+        }
+
         function test_what_is_presented_lies_over_the_menu_and_waits_its_turn() {
             openMenu();
             mouseClick(item("menuRow 0 2"));
