@@ -5,17 +5,19 @@
 #include <QFile>
 #include <QFileInfo>
 #include <QRandomGenerator>
+#include <algorithm>
 
 #include <sqlite3.h>
 
 namespace tavi {
 namespace {
 
-// No lock is awaited and no flush, so that no call holds up the screen. With its lock held for good the file
-// needs no shared memory beside it.
+// No lock is awaited and no flush, and little at a time goes from the log into the file, so that no call
+// holds up the screen. With its lock held for good the file needs no shared memory beside it.
 constexpr const char* prepareFile =
     "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = WAL; PRAGMA synchronous = OFF;"
-    // Numbers are never used twice.
+    "PRAGMA wal_autocheckpoint = 50;"
+    // Numbers are never used twice, and without gaps.
     "CREATE TABLE IF NOT EXISTS events(id INTEGER PRIMARY KEY AUTOINCREMENT, record BLOB NOT NULL);"
     "CREATE TABLE IF NOT EXISTS notes(name TEXT PRIMARY KEY, value BLOB NOT NULL);"
     "BEGIN IMMEDIATE; COMMIT";
@@ -24,9 +26,8 @@ bool isDefective(int error) {
   return error == SQLITE_CORRUPT || error == SQLITE_NOTADB || error == SQLITE_ERROR;
 }
 
-// What a trim takes away beyond the limit, so that not each event of a full store makes one.
-constexpr qint64 eventSlack = EventStore::eventLimit / 20;
-constexpr qint64 byteSlack = EventStore::byteLimit / 20;
+// So many of the oldest go at once beyond a limit.
+constexpr qint64 trimmedEvents = 16;
 
 }  // namespace
 
@@ -54,13 +55,16 @@ bool EventStore::open() {
     }
     sqlite3_stmt* statement = nullptr;
     if (error == SQLITE_OK) {
-      error = sqlite3_prepare_v2(raw, "SELECT count(*), coalesce(sum(length(record)), 0) FROM events", -1,
-                                 &statement, nullptr);
+      // Each by itself is looked up; both of one table would be looked for.
+      error = sqlite3_prepare_v2(raw,
+                                 "SELECT coalesce((SELECT min(id) FROM events), 1), "
+                                 "coalesce((SELECT max(id) FROM events), 0)",
+                                 -1, &statement, nullptr);
     }
-    const Statement counting(statement);
+    const Statement reading(statement);
     if (error == SQLITE_OK && (error = sqlite3_step(statement)) == SQLITE_ROW) {
-      count_ = sqlite3_column_int64(statement, 0);
-      bytes_ = sqlite3_column_int64(statement, 1);
+      firstId_ = sqlite3_column_int64(statement, 0);
+      lastId_ = sqlite3_column_int64(statement, 1);
       return true;
     }
     database_.reset();
@@ -71,8 +75,8 @@ bool EventStore::open() {
 
 void EventStore::startAfresh() {
   database_.reset();
-  count_ = 0;
-  bytes_ = 0;
+  firstId_ = 1;
+  lastId_ = 0;
   if (discard(path_)) open();
 }
 
@@ -96,28 +100,21 @@ bool EventStore::run(const char* sql, const std::vector<QByteArray>& values) {
 void EventStore::add(const QByteArray& record) {
   if (record.size() > byteLimit) return;
   if (!run("INSERT INTO events(record) VALUES(?1)", {record})) return;
-  ++count_;
-  bytes_ += record.size();
-  if (count_ > eventLimit || bytes_ > byteLimit) trim();
+  const qint64 id = sqlite3_last_insert_rowid(database_.get());
+  if (count() == 0) firstId_ = id;
+  lastId_ = id;
+  while (count() > 1 && (count() > eventLimit || usedBytes() > byteLimit))
+    remove(std::min(firstId_ + trimmedEvents, lastId_) - 1);
 }
 
-void EventStore::trim() {
-  qint64 lastId = 0;
-  const qint64 keptEvents = eventLimit - eventSlack;
-  const qint64 keptBytes = byteLimit - byteSlack;
-  qint64 events = count_;
-  qint64 bytes = bytes_;
+qint64 EventStore::usedBytes() {
   sqlite3_stmt* raw = nullptr;
-  sqlite3_prepare_v2(database_.get(), "SELECT id, length(record) FROM events ORDER BY id", -1, &raw, nullptr);
-  {
-    const Statement statement(raw);
-    while ((events > keptEvents || bytes > keptBytes) && events > 1 && sqlite3_step(raw) == SQLITE_ROW) {
-      lastId = sqlite3_column_int64(raw, 0);
-      bytes -= sqlite3_column_int64(raw, 1);
-      --events;
-    }
-  }
-  remove(lastId);
+  sqlite3_prepare_v2(database_.get(),
+                     "SELECT (page_count - freelist_count) * page_size "
+                     "FROM pragma_page_count, pragma_freelist_count, pragma_page_size",
+                     -1, &raw, nullptr);
+  const Statement statement(raw);
+  return sqlite3_step(raw) == SQLITE_ROW ? sqlite3_column_int64(raw, 0) : 0;
 }
 
 EventBatch EventStore::batch(int events, qsizetype bytes) {
@@ -144,16 +141,9 @@ EventBatch EventStore::batch(int events, qsizetype bytes) {
 
 void EventStore::remove(qint64 lastId) {
   if (!database_) return;
-  const bool isDone = run("DELETE FROM events WHERE id <= CAST(?1 AS INTEGER)", {QByteArray::number(lastId)});
-  sqlite3_stmt* raw = nullptr;
-  if (isDone) {
-    sqlite3_prepare_v2(database_.get(), "SELECT count(*), coalesce(sum(length(record)), 0) FROM events", -1,
-                       &raw, nullptr);
-  }
-  const Statement statement(raw);
-  if (!isDone || sqlite3_step(raw) != SQLITE_ROW) return startAfresh();
-  count_ = sqlite3_column_int64(raw, 0);
-  bytes_ = sqlite3_column_int64(raw, 1);
+  if (!run("DELETE FROM events WHERE id <= CAST(?1 AS INTEGER)", {QByteArray::number(lastId)}))
+    return startAfresh();
+  firstId_ = std::max(firstId_, lastId + 1);
 }
 
 QByteArray EventStore::note(const char* name) {

@@ -45,7 +45,7 @@ class EventStore {
   /// written any more.
   void remove(qint64 lastId);
 
-  qint64 count() const { return count_; }
+  qint64 count() const { return lastId_ - firstId_ + 1; }
 
   SendState sendState();
   void setSendState(const SendState& state);
@@ -70,12 +70,12 @@ class EventStore {
   bool run(const char* sql, const std::vector<QByteArray>& values);
   QByteArray note(const char* name);
   void setNote(const char* name, const QByteArray& value);
-  void trim();
+  qint64 usedBytes();
 
   QString path_;
   std::unique_ptr<sqlite3, Close> database_;
-  qint64 count_ = 0;
-  qint64 bytes_ = 0;
+  qint64 firstId_ = 1;  // of the records that are kept; without one, behind the last
+  qint64 lastId_ = 0;
 };
 
 }  // namespace tavi

@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
 """Goes for the application's faults with a user who throws dice, and prints a table.
 
-campaign.py MINUTES BUILD...: each build folder gets its share of the time. Nothing acknowledged may be lost, the process
-may end only where it must, and every start must come up. Exit code 1 as soon as something else is seen.
+campaign.py MINUTES BUILD...: each build folder gets its share of the time, and each fault is tried a few times however
+little that is. Nothing acknowledged may be lost, the process may end only where it must, and every start must come up.
+Exit code 1 when something else is seen.
 """
 
+import contextlib
 import errno
 import gzip
 import http.server
@@ -29,6 +31,70 @@ class Fault(Exception):
     """What must not happen."""
 
 
+class Services:
+    """The remote configuration and a collector of measurements on this machine, which answer as they are told."""
+
+    def __init__(self, answer):
+        """answer(path, body): a status, headers and what follows them, whose length may be another than is said."""
+        class Handler(http.server.BaseHTTPRequestHandler):
+            def respond(self):
+                body = self.rfile.read(int(self.headers.get("Content-Length") or 0))
+                status, headers, said = answer(self.path, body)
+                self.send_response(status)
+                for header in headers.items():
+                    self.send_header(*header)
+                self.end_headers()
+                self.wfile.write(said)
+            do_GET = do_POST = respond
+
+            def log_message(self, *_):
+                pass
+
+        class Server(http.server.ThreadingHTTPServer):
+            def handle_error(self, *_):  # A killed process hears no answer.
+                pass
+
+        self.server = Server(("127.0.0.1", 0), Handler)
+        threading.Thread(target=self.server.serve_forever, daemon=True).start()
+
+    def settings(self, folder):
+        """A folder with settings that name these services."""
+        address = f"http://127.0.0.1:{self.server.server_port}"
+        folder.mkdir(exist_ok=True)
+        (folder / "ProjectSettings.json").write_text(json.dumps({
+            "remoteConfigEndpoint": address + "/values", "measurementEndpoint": address + "/v1/logs",
+            "allowsLoopbackHttp": True, "videoHost": "www.youtube.com", "videoPlayer": address}))
+        return folder
+
+    def close(self):
+        self.server.shutdown()
+        self.server.server_close()
+
+
+class Collector(Services):
+    """Takes batches and acknowledges half of them; the remote configuration beside it means well."""
+
+    def __init__(self, seed=0):
+        self.dice, self.names = random.Random(seed), set()
+        super().__init__(self.take)
+
+    def take(self, path, body):
+        if path.startswith("/values"):
+            texts = json.dumps({key: json.dumps(text) for key, text in TEXTS.items()}).encode()
+            return 200, {"Content-Length": str(len(texts))}, texts
+        status = self.dice.choice([200, 200, 200, 429, 503, 0])
+        if status == 200:  # A batch counts as arrived only where that is said.
+            for resource in json.loads(gzip.decompress(body))["resourceLogs"]:
+                for scope in resource["scopeLogs"]:
+                    self.names.update(map(event_name, scope["logRecords"]))
+        time.sleep(self.dice.choice([0, 0, 0.2]))
+        return status or 200, {"Content-Length": "2"}, b"{}" if status else b"{"
+
+
+def event_name(record):
+    return record.get("eventName") or record["body"]["stringValue"]
+
+
 class Home:
     """A folder that is all the user has, and the processes that run in it."""
 
@@ -36,7 +102,13 @@ class Home:
         self.build = pathlib.Path(build)
         self.folder = pathlib.Path(folder)
         self.data = self.folder / "tavi"
-        self.lines = []
+        self.collector = Collector()
+        self.measuring = "--measure", "--settings", self.collector.settings(self.folder / "collected")
+        self.measured = set()  # What is kept or has arrived.
+
+    @property
+    def isRelease(self):
+        return self.build.name == "release"
 
     def environment(self, **more):
         wanted = {"PATH": os.environ["PATH"], "HOME": str(self.folder), "LANG": "C.UTF-8", "LANGUAGE": "en"}
@@ -68,9 +140,17 @@ class Home:
         """The names of the records in the store, newest first."""
         return records(self.run("--dump"))[-1]
 
-    def store(self):
-        found = list(self.folder.rglob("preferences.sqlite"))
-        return found[0] if found else None
+    def store(self, name="preferences"):
+        """The file of that store; absent before there is one."""
+        return next(self.folder.rglob(name + ".sqlite"), None)
+
+    def events(self):
+        """The names of the events that wait to be sent. Also lets the next start send at once."""
+        if not self.store("measurement"):
+            return set()
+        with contextlib.closing(sqlite3.connect(self.store("measurement"), isolation_level=None)) as database:
+            database.execute("DELETE FROM notes WHERE name = 'notBefore'")
+            return {event_name(json.loads(record)) for (record,) in database.execute("SELECT record FROM events")}
 
 
 def records(lines):
@@ -91,11 +171,18 @@ def follows(new, old):
 
 def killed(home, dice, number):
     """kill -9 at a random moment; afterwards what was told must be there."""
-    process = home.start("--agree", "--seed", number)
+    began = time.monotonic()
+    process = home.start("--agree", "--seed", number, *home.measuring)
     lines = []
-    reader = threading.Thread(target=lambda: lines.extend(process.stdout.read().splitlines()), daemon=True)
+    reader = threading.Thread(target=lambda: lines.extend(iter(process.stdout.readline, "")), daemon=True)
     reader.start()
-    time.sleep(dice.uniform(0.1, 2.5))
+    if number == 0:  # So fast is this machine.
+        while not lines and process.poll() is None:
+            time.sleep(0.01)
+        if not lines:
+            raise Fault(f"did not come up: {home.complained()[:500]}")
+        home.patience = time.monotonic() - began
+    time.sleep(dice.uniform(0.2, 5) * home.patience)
     process.send_signal(signal.SIGKILL)
     process.wait(PATIENCE)
     reader.join(PATIENCE)
@@ -104,21 +191,42 @@ def killed(home, dice, number):
     if list(home.folder.rglob("*.unreadable*")):
         raise Fault(f"after kill {number} a store could not be read")
     told = records(lines)
-    now = home.stored()
+    dumped = home.run("--dump")
+    now = records(dumped)[-1]
     # The action that was under way may be seen or not; an undo brings several records back at once.
     if told and not follows(now, told[-1]) and not (now in told and set(told[-1]) <= set(now)):
         raise Fault(f"after kill {number} the store holds {now}, told was {told[-1]}")
+    for word, *names in map(str.split, lines):
+        if word == "withdrawn":
+            home.measured.clear()
+        elif word == "measured":
+            home.measured.update(names)
+    if "withdrawn" in dumped:
+        home.measured.clear()
+    waiting = home.events()
+    lost = home.measured - waiting - home.collector.names
+    if lost:
+        raise Fault(f"after kill {number} {len(lost)} events are lost: {sorted(lost)[:5]}")
+    if len(waiting) > 5000:  # Before the oldest go by themselves.
+        home.store("measurement").unlink()
+        home.measured.clear()
 
 
 def refused(home, dice, number):
-    """The disk refuses from some write on: the application goes on, and what is stored is a state that was."""
+    """The disk refuses from some write on: the application goes on, and what is stored is a state that was. Where only
+    measurements are refused nothing else is lost, and no event holds up the screen."""
     before = home.stored()
     code = dice.choice([errno.ENOSPC, errno.EIO])
-    lines = home.run("--agree", "--seed", number, "--actions", 60, REFUSE_AFTER=dice.randrange(60), REFUSE_WITH=code,
-                     LD_PRELOAD=home.build / "lib/libtavi_refuse.so")
+    file = ["", "measurement"][number % 2]
+    lines = home.run("--agree", "--seed", number, "--actions", 60, *home.measuring, REFUSE_AFTER=dice.randrange(60),
+                     REFUSE_WITH=code, REFUSE_FILE=file + ".sqlite", LD_PRELOAD=home.build / "lib/libtavi_refuse.so")
     now = home.stored()
-    if not any(follows(now, each) for each in [before, *records(lines)]):
+    told = [before, *records(lines)]
+    if now != told[-1] if file else not any(follows(now, each) for each in told):
         raise Fault(f"after errno {code} in run {number} the store holds what never was")
+    longest = next(float(line.split()[-1]) for line in lines if line.startswith("longest event"))
+    if home.isRelease and longest > 2:
+        raise Fault(f"an event took {longest} ms of the processor in run {number}")
 
 
 def pages_defective(store):
@@ -170,34 +278,47 @@ def element_column(database):
     raise Fault("no record is found in the store")
 
 
+# What is done to which store, and how many of five records are left where they are not all set aside.
 DAMAGES = {
-    "a defective page": (pages_defective, None),
-    "a newer version": (column_renamed, None),
-    "another application's file": (sql("PRAGMA application_id = 305419896"), None),
-    "a folder in its place": (folder_instead, None),
-    "an empty file": (lambda store: store.write_bytes(b""), None),
-    "half of the file": (lambda store: os.truncate(store, store.stat().st_size // 2), None),
-    "one wrong field": (field_wrong, 5),
+    "a defective page": ("preferences", pages_defective, None),
+    "a newer version": ("preferences", column_renamed, None),
+    "another application's file": ("preferences", sql("PRAGMA application_id = 305419896"), None),
+    "a folder in its place": ("preferences", folder_instead, None),
+    "an empty file": ("preferences", lambda store: store.write_bytes(b""), 0),
+    "half of the file": ("preferences", lambda store: os.truncate(store, store.stat().st_size // 2), None),
+    "one wrong field": ("preferences", field_wrong, 5),
+    "a defective page of measurements": ("measurement", pages_defective, 5),
+    "measurements of a newer version": ("measurement", sql("ALTER TABLE events RENAME COLUMN record TO entry"), 5),
+    "another application's tables": ("measurement", sql("DROP TABLE events", "CREATE VIEW events AS SELECT 1 AS id"), 5),
+    "a folder in the measurements' place": ("measurement", folder_instead, 5),
+    "no measurements": ("measurement", lambda store: store.write_bytes(b""), 5),
+    "half of the measurements": ("measurement", lambda store: os.truncate(store, store.stat().st_size // 2), 5),
+    "notes of a wrong kind": ("measurement", sql("UPDATE notes SET value = x'ff00'"), 5),
 }
 
 
 def damaged(home, dice, number):
-    """The store is not what it was: the application comes up, works, and comes up again."""
-    name, (damage, kept) = list(DAMAGES.items())[number % len(DAMAGES)]
+    """A store is not what it was: the application comes up, works, and comes up again."""
+    name, (which, damage, kept) = list(DAMAGES.items())[number % len(DAMAGES)]
     shutil.rmtree(home.data, ignore_errors=True)
-    home.run("--agree", "--fill", 5, "--actions", 1)
-    store = home.store()
-    for log in store.parent.glob(store.name + "-*"):
-        log.unlink()
+    home.run("--agree", "--fill", 5, "--actions", 30, *home.measuring)
+    before = home.stored()
+    store = home.store(which)
+    with contextlib.closing(sqlite3.connect(store)) as database:
+        database.execute("PRAGMA journal_mode = DELETE")  # All of it is in the file.
     damage(store)
-    if kept and len(home.stored()) < kept:
-        raise Fault(f"{name}: of {kept} records {len(home.stored())} are left")
+    if kept and len(home.stored()) != len(before):
+        raise Fault(f"{name}: of {len(before)} records {len(home.stored())} are left")
     for run in range(2):
-        lines = home.run("--agree", "--seed", number + run, "--actions", 20)
+        lines = home.run("--agree", "--seed", number + run, "--actions", 20, *home.measuring)
         if "up" not in lines:
             raise Fault(f"{name}: did not come up")
-    if not kept and not [each for each in store.parent.iterdir() if ".unreadable" in each.name] and name != "an empty file":
+    if kept is None and not [each for each in store.parent.iterdir() if ".unreadable" in each.name]:
         raise Fault(f"{name}: nothing was set aside")
+    if which == "measurement" and damage != folder_instead and lines.count("withdrawn") == 0:
+        told = {line.split()[1] for line in lines if line.startswith("measured")}
+        if not told <= home.events() | home.collector.names:
+            raise Fault(f"{name}: nothing is measured any more")
 
 
 def taken_away(home, dice, number):
@@ -256,129 +377,185 @@ def twice(home, dice, number):
             raise Fault(f"{len(added - stored)} records of one of two processes are lost")
 
 
-def monkey(home, dice, number, actions):
-    """Nothing is said, nothing ends, and memory settles."""
-    shutil.rmtree(home.data, ignore_errors=True)
-    lines = home.run("--agree", "--quiet", "--seed", 7, "--actions", actions)
+LANGUAGES = ["en", "de", "fr", "es", "id", "pt", "ja", "zh", "hi", "ko", "ru"]
+
+
+def monkey(home, dice, number):
+    """The same for a user of each language, who finds another one at the next start."""
+    lines = home.run("--agree", "--quiet", "--seed", number, "--actions", 100, "--language",
+                     LANGUAGES[number % len(LANGUAGES)])
+    inspect(home, lines)
+
+
+def inspect(home, lines):
     if home.complained():
         raise Fault(f"said: {home.complained()[:1000]}")
     untold = [line for line in lines if line.startswith("not in the vocabulary")]
     if untold:
         raise Fault(untold[0])
+
+
+def long_monkey(home, actions):
+    """Nothing is said, nothing ends, and memory settles."""
+    lines = home.run("--agree", "--quiet", "--seed", 7, "--actions", actions)
+    inspect(home, lines)
     settled, end = next(map(int, line.split()[1:]) for line in lines if line.startswith("memory"))
     grown = (end - settled) / 1024
     # The sanitizers keep what was freed; a short run has not opened everything in its first tenth.
-    if home.build.name == "release" and actions >= 10_000 and grown > 8:
+    if home.isRelease and actions >= 100_000 and grown > 8:
         raise Fault(f"memory grew by {grown:.1f} MB")
     return f"{actions} actions, memory {grown:+.1f} MB after the first tenth"
 
 
-class Service(http.server.BaseHTTPRequestHandler):
-    """Plays the remote configuration and the collector, both as enemies would."""
+# What the services say when they mean well.
+TEXTS = {
+    "apps": {"apps": [{"appIdentifiers": ["a"], "appName": {"en": "Fractions", "de": "Brüche"}, "appURL": "a:", "appURLPro": "b:",
+                       "ratingURL": "https://a.invalid", "ratingURLPro": "", "storeURL": "https://b.invalid",
+                       "storeURLPro": "", "isMultiApp": True, "shouldShow": True, "calculationsUntilInterstitial": 2}] * 3},
+    "ads": {"QRX": [{"imageName": "summer", "linkingString": "https://c.invalid", "discountNumber": "10"}], "e": []},
+    "umpReferenceData": {"purposeConsents": "1", "purposeLegitimateInterests": "2", "vendorConsents": "3",
+                         "vendorLegitimateInterests": "4", "isConsentOrPayActivated": False},
+    "videoTutorials": {"QRX": {"en": ["https://www.youtube.com/watch?v=abcdefghijk"] * 2, "de": []}},
+}
+MEASURED = "measurement"
+SCALARS = [None, True, False, 0, -1, 1e308, -0.5, 2**63, 17, "", "x", "\0", "http://", "javascript:alert(1)",
+           "file:///etc/passwd", "ü" * 300, "https://www.youtube.com/watch?v=" + "a" * 20, "<b>%1 %2</b>"]
+KEYS = ["en", "de", "QRX", "apps", "imageName", "partialSuccess", "rejectedLogRecords"]
 
-    dice = random.Random(0)
 
-    def answer(self):
-        length = int(self.headers.get("Content-Length") or 0)
-        self.rfile.read(length)
-        body = self.hostile().encode(errors="surrogatepass")
-        self.send_response(self.dice.choice([200, 200, 200, 200, 400, 429, 500, 503]))
-        self.send_header("Content-Type", "application/json")
-        if self.dice.random() < 0.2:
-            self.send_header("Retry-After", self.dice.choice(["0", "-5", "1e9", "999999999999999999999", "soon"]))
-        if self.dice.random() < 0.2:
+def anything(dice, depth=0):
+    kind = dice.randrange(6 if depth < 5 else 4)
+    if kind < 4:
+        return dice.choice(SCALARS)
+    if kind == 4:
+        return [anything(dice, depth + 1) for _ in range(dice.randrange(4))]
+    return {dice.choice(KEYS): anything(dice, depth + 1) for _ in range(dice.randrange(4))}
+
+
+def mutated(dice, value):
+    """The value with something else at one place."""
+    if not isinstance(value, (dict, list)) or not value or dice.random() < 0.15:
+        return anything(dice)
+    if isinstance(value, list):
+        value = list(value)
+        place = dice.randrange(len(value))
+    else:
+        value = dict(value)
+        place = dice.choice(sorted(value))
+        if dice.random() < 0.1:
+            value[dice.choice(KEYS)] = value.pop(place)
+            return value
+    value[place] = mutated(dice, value[place])
+    return value
+
+
+def hostile_answer(dice, which):
+    """One of the texts, or what the collector says, is not as it should be, or its bytes are not."""
+    def answer(path, _):
+        is_victim = path.startswith("/v1/logs") == (which == MEASURED)
+        well_meant = {} if path.startswith("/v1/logs") else TEXTS
+        texts = {key: json.dumps(mutated(dice, text) if key == which else text) for key, text in well_meant.items()}
+        body = json.dumps(texts if path.startswith("/values") else mutated(dice, {"partialSuccess": {"rejectedLogRecords": 0}}))
+        if dice.random() < 0.1:
+            body = json.dumps(anything(dice))
+        body = bytearray(body.encode(errors="surrogatepass"))
+        headers, status = {"Content-Type": "application/json"}, 200
+        if is_victim and dice.random() < 0.3:
+            place = dice.randrange(len(body))
+            body[place:place + 1] = dice.choice([b"", b"\0", b"\xff", b"}", b"[" * 5000, b"x" * 2_000_000])
+        if is_victim and dice.random() < 0.3:
+            status = dice.choice([204, 301, 400, 429, 500, 503])
+            headers["Location"] = "http://127.0.0.1:9/"
+            headers["Retry-After"] = dice.choice(["0", "-5", "1e9", "999999999999999999999", "soon"])
+        if is_victim and dice.random() < 0.2:
             body = gzip.compress(body)
-            self.send_header("Content-Encoding", "gzip")
-        self.send_header("Content-Length", str(len(body) + self.dice.choice([0, 0, 0, 50])))
-        self.end_headers()
-        self.wfile.write(body[: self.dice.choice([len(body), len(body) // 2])])
-
-    do_GET = do_POST = answer
-
-    def hostile(self):
-        def anything(depth=0):
-            kind = self.dice.randrange(9 if depth < 5 else 6)
-            if kind == 0:
-                return self.dice.choice([None, True, False])
-            if kind == 1:
-                return self.dice.choice([0, -1, 1e308, -0.5, 2**63, 17])
-            if kind < 6:
-                return self.dice.choice(["", "x", "\u0000", "http://", "javascript:alert(1)", "file:///etc/passwd", "ü" * 300,
-                                         "https://www.youtube.com/watch?v=" + "a" * self.dice.randrange(20), "<b>%1 %2</b>"])
-            if kind == 6:
-                return [anything(depth + 1) for _ in range(self.dice.randrange(4))]
-            return {self.dice.choice(KEYS): anything(depth + 1) for _ in range(self.dice.randrange(6))}
-        texts = {key: self.dice.choice([json.dumps(anything()), json.dumps([anything(), anything()]), anything()])
-                 for key in ("videoTutorials", "ads", "appsMetaData", "umpReferenceData")}
-        text = json.dumps(texts)
-        if self.dice.random() < 0.3:
-            cut = self.dice.randrange(len(text))
-            text = text[:cut] + self.dice.choice(["", "\x00", "\ud800", "}", "[" * 5000]) + text[cut + 1:]
-        return text
-
-    def log_message(self, *_):
-        pass
-
-
-KEYS = ["appIdentifiers", "appName", "appURL", "appURLPro", "ratingURL", "ratingURLPro", "storeURL", "storeURLPro",
-        "shouldShow", "calculationsUntilInterstitial", "isMultiApp", "en", "de", "title", "url", "videos", "imageName",
-        "linkingString", "rowTitle"]
+            headers["Content-Encoding"] = "gzip"
+        headers["Content-Length"] = str(len(body) + dice.choice([0, 0, 0, 50]) * is_victim)
+        return status, headers, body[: dice.choice([len(body)] * 3 + [len(body) // 2])] if is_victim else body
+    return answer
 
 
 def hostile(home, dice, number):
-    """Every service answers as an enemy would."""
-    Service.dice = random.Random(number)
-    server = http.server.ThreadingHTTPServer(("127.0.0.1", 0), Service)
-    threading.Thread(target=server.serve_forever, daemon=True).start()
-    address = f"http://127.0.0.1:{server.server_port}"
-    settings = home.folder / "settings"
-    settings.mkdir(exist_ok=True)
-    (settings / "ProjectSettings.json").write_text(json.dumps({
-        "remoteConfigEndpoint": address + "/values", "measurementEndpoint": address + "/v1/logs",
-        "allowsLoopbackHttp": True, "videoHost": "www.youtube.com", "videoPlayer": address}))
+    """A service answers as an enemy would. What came is used now or from the next start on."""
+    which = [*TEXTS, MEASURED][number % 5]
+    services = Services(hostile_answer(random.Random(number), which))
     try:
-        for file in home.folder.rglob("*.sqlite*"):
-            if "remote" in file.name:
-                file.unlink()
-        lines = home.run("--agree", "--settings", settings, "--seed", number, "--actions", 60)
+        for run in range(2):
+            home.events()
+            lines = home.run("--agree", "--measure", "--settings", services.settings(home.folder / "hostile"), "--seed",
+                             number + run, "--actions", 40)
+            if "up" not in lines:
+                raise Fault(f"did not come up over {which} of seed {number}")
     finally:
-        server.shutdown()
-        server.server_close()
-    if "up" not in lines:
-        raise Fault(f"did not come up over the answers of seed {number}")
+        services.close()
+    home.store("remote_config").unlink()
+
+
+def long_history(home, count):
+    """A history of so many records is read, opened, scrolled, searched and changed without a wait that is seen."""
+    home.run("--agree", "--actions", 1)
+    with contextlib.closing(sqlite3.connect(home.store())) as database, database:
+        [(record,)] = database.execute("SELECT value FROM elements WHERE key = 'Calculations' LIMIT 1").fetchall()
+        database.executemany("INSERT INTO elements(key, value) VALUES('Calculations', ?)", [(record,)] * (count - 1))
+    output = subprocess.run([home.build / "bin/tavi-tour", "--measure", "history"], env=home.environment(), text=True,
+                            stdout=subprocess.PIPE, timeout=600 + PATIENCE, check=True).stdout
+    waits = {name: float(value) for name, value in (line.rsplit("=", 1) for line in output.splitlines())}
+    longest = max(waits, key=waits.get)
+    if home.isRelease and waits[longest] > 100:
+        raise Fault(f"{longest} takes {waits[longest]:.0f} ms")
+    return f"longest wait {waits[longest]:.1f} ms: {longest}"
+
+
+# Each with its part of the time, and how often it is tried at least and at most.
+PARTS = [
+    ("killed with -9", killed, 0.35, 8, 1000),
+    ("a disk that refuses", refused, 0.12, 6, 300),
+    ("a damaged store", damaged, 0.12, len(DAMAGES), 8 * len(DAMAGES)),
+    ("a folder taken away", taken_away, 0.04, 2, 50),
+    ("two starts at once", twice, 0.08, 2, 50),
+    ("hostile services", hostile, 0.12, 5, 300),
+    ("a monkey, each language", monkey, 0.05, 3, 11 * 5),
+]
 
 
 def campaign(minutes, builds):
     share = minutes * 60 / len(builds)
-    parts = [("killed with -9", killed, 0.3, 1000), ("a disk that refuses", refused, 0.15, 300),
-             ("a damaged store", damaged, 0.15, 70), ("a folder taken away", taken_away, 0.05, 50),
-             ("two starts at once", twice, 0.08, 50), ("hostile services", hostile, 0.12, 300)]
     is_clean = True
-    print(f"{'build':<10} {'fault':<22} {'times':>6}  outcome", flush=True)
+    print(f"{'build':<10} {'fault':<24} {'times':>6}  outcome", flush=True)
 
-    def row(build, name, times, outcome):
-        print(f"{pathlib.Path(build).name:<10} {name:<22} {times:>6}  {outcome}", flush=True)
+    def row(build, name, run):
+        nonlocal is_clean
+        with tempfile.TemporaryDirectory() as folder:
+            home = Home(build, folder)
+            times, outcome = [0], ""
+            try:
+                outcome = run(home, times) or "clean"
+            except (Fault, subprocess.SubprocessError) as fault:
+                is_clean, outcome = False, f"FAULT: {fault}"
+            home.collector.close()
+        print(f"{home.build.name:<10} {name:<24} {times[0]:>6}  {outcome}", flush=True)
+
+    def again_and_again(part, dice, least, most, seconds):
+        def run(home, times):
+            end = time.monotonic() + seconds
+            while times[0] < least or (times[0] < most and time.monotonic() < end):
+                part(home, dice, times[0])
+                times[0] += 1
+        return run
+
+    def once(part, argument):
+        def run(home, times):
+            times[0] = 1
+            return part(home, argument)
+        return run
 
     for build in builds:
-        for name, part, portion, limit in parts:
-            dice = random.Random(name)
-            with tempfile.TemporaryDirectory() as folder:
-                home, end, times, outcome = Home(build, folder), time.monotonic() + share * portion, 0, "clean"
-                try:
-                    while times < limit and (times < 2 or time.monotonic() < end):
-                        part(home, dice, times)
-                        times += 1
-                except (Fault, subprocess.TimeoutExpired) as fault:
-                    is_clean, outcome = False, f"FAULT: {fault}"
-                row(build, name, times, outcome)
+        for name, part, portion, least, most in PARTS:
+            row(build, name, again_and_again(part, random.Random(name), least, most, share * portion))
+        for count in (10_000, 100_000):
+            row(build, f"{count:,} records", once(long_history, count))
         # Sixty actions a second are few, so that this part keeps its share of the time on a slow machine, too.
-        actions = max(200, min(100_000, int(share * 0.15 * 60)))
-        with tempfile.TemporaryDirectory() as folder:
-            try:
-                row(build, "a monkey", 1, monkey(Home(build, folder), random.Random(7), 0, actions))
-            except (Fault, subprocess.TimeoutExpired) as fault:
-                is_clean = False
-                row(build, "a monkey", 1, f"FAULT: {fault}")
+        row(build, "a monkey", once(long_monkey, max(300, min(100_000, int(share * 0.12 * 60)))))
     return is_clean
 
 

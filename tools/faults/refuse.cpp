@@ -1,5 +1,5 @@
-// Preloaded into a process, it lets the disk refuse: from the REFUSE_AFTER-th change of a file of this
-// project's store on, every write to one fails with the error number REFUSE_WITH.
+// Preloaded into a process, it lets the disk refuse: from the REFUSE_AFTER-th change of a file with
+// REFUSE_FILE in its name on, every write to one fails with the error number REFUSE_WITH.
 
 #include <atomic>
 #include <cerrno>
@@ -22,7 +22,8 @@ bool isStore(int descriptor) {
   const ssize_t length = readlink(link, path, sizeof path - 1);
   if (length <= 0) return false;
   path[length] = '\0';
-  return std::strstr(path, ".sqlite") != nullptr;
+  static const char* const file = std::getenv("REFUSE_FILE");
+  return file != nullptr && std::strstr(path, file) != nullptr;
 }
 
 bool refuses(int descriptor) {

@@ -1,5 +1,6 @@
 // A user who throws dice: plays with the application at random, for ./dev faults. What the history holds is
-// told after each action, so that whoever ends this process knows what was acknowledged.
+// told after each action, and so are the events that were measured, so that whoever ends this process knows
+// what was acknowledged.
 
 #include <QClipboard>
 #include <QCommandLineParser>
@@ -12,6 +13,7 @@
 #include <algorithm>
 #include <chrono>
 #include <cstdio>
+#include <ctime>
 #include <random>
 
 #include <malloc.h>
@@ -20,6 +22,7 @@
 #include "number/fatal_stop.h"
 #include "platform/analytics.h"
 #include "platform/links.h"
+#include "platform/localization.h"
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
 #include "remote/analytics_events.h"
@@ -78,9 +81,9 @@ class User {
       int weight;
       void (User::*action)();
     } static constexpr actions[] = {
-        {40, &User::tapControl}, {25, &User::typeKey},  {15, &User::tapAnywhere},
-        {6, &User::drag},        {4, &User::turnWheel}, {4, &User::navigate},
-        {2, &User::paste},       {2, &User::resize},    {2, &User::changeAppearance}};
+        {40, &User::tapControl},      {25, &User::typeKey},      {15, &User::tapAnywhere}, {6, &User::drag},
+        {4, &User::turnWheel},        {4, &User::navigate},      {2, &User::paste},        {2, &User::resize},
+        {1, &User::changeAppearance}, {1, &User::changeLanguage}};
     int rest = throwDice(100);
     for (const auto& [weight, action] : actions) {
       if ((rest -= weight) < 0) {
@@ -189,6 +192,15 @@ class User {
 
   void changeAppearance() { Appearance::shared().force(throwDice(2) == 0); }
 
+  /// As the settings do it, and as a system tells of its own change; both hold from the next start on.
+  void changeLanguage() {
+    const QStringList& languages = translatedLanguages();
+    PreferenceStore::standard().setValue(preferences::language,
+                                         languages[throwDice(static_cast<int>(languages.size()))]);
+    QEvent change(QEvent::LocaleChange);
+    QCoreApplication::sendEvent(&application_, &change);
+  }
+
   Application& application_;
   std::mt19937 dice_;
   std::unique_ptr<QPointingDevice> finger_;
@@ -197,7 +209,37 @@ class User {
 struct Options {
   unsigned seed;
   int actions;
-  bool isQuiet;  ///< Tells only how it went, not what the history holds.
+  bool isQuiet;      ///< Tells only how it went, not what the history holds.
+  bool isMeasuring;  ///< Reports an event after each action.
+};
+
+/// Reports events with names of their own, and tells of them once they are kept.
+class Measured {
+ public:
+  explicit Measured(unsigned seed) : seed_(seed) {}
+
+  void report(int action) {
+    const PreferenceStore& preferences = PreferenceStore::standard();
+    if (!preferences.value(preferences::isMeasurementAccepted)) return say("withdrawn");
+    const QString name = QStringLiteral("event-%1-%2").arg(seed_).arg(action);
+    const double before = processorMilliseconds();
+    Analytics::logEvent(name);
+    longest_ = std::max(longest_, processorMilliseconds() - before);
+    say(QStringLiteral("measured ") + name);
+  }
+
+  /// The most processor time that an event took, in milliseconds.
+  double longest() const { return longest_; }
+
+ private:
+  static double processorMilliseconds() {
+    timespec time{};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return 1e3 * static_cast<double>(time.tv_sec) + static_cast<double>(time.tv_nsec) / 1e6;
+  }
+
+  unsigned seed_;
+  double longest_ = 0;
 };
 
 /// Acts until it has acted often enough. Memory is compared once everything has been opened a few times.
@@ -209,6 +251,7 @@ int play(Application& application, const Options& options) {
   if (!QTest::qWaitForWindowExposed(application.delegate().window(), 60'000)) return 1;
   say("up");
   User user(application, options.seed);
+  Measured measured(options.seed);
   const CalcManager& store = CalcManager::shared();
   QString told;
   long settled = 0;
@@ -216,6 +259,7 @@ int play(Application& application, const Options& options) {
   for (int action = 0; action < options.actions; ++action) {
     if (action == options.actions / 10) settled = user.memoryAtRest();
     longest = std::max(longest, user.act());
+    if (options.isMeasuring) measured.report(action);
     if (options.isQuiet) continue;
     const QString now = records(store.calculations());
     if (now != told) say(told = now);
@@ -223,6 +267,7 @@ int play(Application& application, const Options& options) {
   say(QStringLiteral("memory %1 %2").arg(settled).arg(user.memoryAtRest()));
   say(QStringLiteral("longest %1")
           .arg(std::chrono::duration_cast<std::chrono::milliseconds>(longest).count()));
+  if (options.isMeasuring) say(QStringLiteral("longest event %1").arg(measured.longest()));
   return 0;
 }
 
@@ -234,6 +279,8 @@ int go(int argumentCount, char** arguments) {
        {"actions", "how many; many more than one lives to do if absent", "number", "2000000000"},
        {"settings", "folder of another ProjectSettings.json", "folder"},
        {"quiet", "do not tell what the history holds"},
+       {"measure", "report an event after each action"},
+       {"language", "from the next start on", "code"},
        {"dump", "only tell what the history holds"},
        {"fill", "first put so many records into the history", "number"},
        {"agree", "first agree to everything, measurement too"}});
@@ -242,8 +289,11 @@ int go(int argumentCount, char** arguments) {
   Links::shared().setHandler({}, [](const QUrl&) { return true; });
   if (parser.isSet("dump")) {
     say(records(CalcManager::shared().calculations()));
+    if (!PreferenceStore::standard().value(preferences::isMeasurementAccepted)) say("withdrawn");
     return 0;
   }
+  if (parser.isSet("language"))
+    PreferenceStore::standard().setValue(preferences::language, parser.value("language"));
   if (parser.isSet("agree"))
     for (const auto* answer : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted,
                                &preferences::isYoutubeDsgvoAccepted, &preferences::isMeasurementAccepted})
@@ -255,8 +305,8 @@ int go(int argumentCount, char** arguments) {
   CalcManager::shared().runFirstStartStep();
   for (int record = 0; record < parser.value("fill").toInt(); ++record)
     CalcManager::shared().addCalculation({{}, QString::number(record), {}, {}});
-  return play(application,
-              {parser.value("seed").toUInt(), parser.value("actions").toInt(), parser.isSet("quiet")});
+  return play(application, {parser.value("seed").toUInt(), parser.value("actions").toInt(),
+                            parser.isSet("quiet"), parser.isSet("measure")});
 }
 
 }  // namespace

@@ -216,6 +216,57 @@ void measureFrames(Stage& stage) {
   tell("history scrolls", longestFrameOfScrolling(stage));
 }
 
+/// The most processor time that passes between two turns of the event loop while something is done: so long
+/// the user waits.
+double longestTurn(const std::function<void()>& act) {
+  double longest = 0;
+  double last = processorMilliseconds();
+  QTimer ticking;
+  QObject::connect(&ticking, &QTimer::timeout, &ticking, [&] {
+    longest = std::max(longest, processorMilliseconds() - std::exchange(last, processorMilliseconds()));
+  });
+  ticking.start(0);
+  act();
+  QTest::qWait(200);
+  return longest;
+}
+
+/// Everything that is done with a history, however long it is.
+void measureHistory(Stage& stage) {
+  tell("reading after the start", longestTurn([] { QTest::qWait(1000); }));
+  tell("adding", longestTurn([&stage] { stage.solve(Mode::power, u"-2", u"3/2"); }));
+  tell("opening", longestTurn([&stage] { stage.openHistory(); }));
+  const auto keys = [&stage](std::initializer_list<Qt::Key> wanted) {
+    for (const Qt::Key key : wanted) {
+      QTest::keyClick(&stage.window(), key);
+      QTest::qWait(100);
+    }
+  };
+  stage.item(QStringLiteral("historyTable")).forceActiveFocus();
+  tell("going from end to end", longestTurn([&keys] {
+         keys({Qt::Key_End, Qt::Key_PageUp, Qt::Key_Up, Qt::Key_Home, Qt::Key_PageDown});
+       }));
+  tell("scrolling", longestTurn([&stage] {
+         QQuickItem& table = stage.item(QStringLiteral("historyTable"));
+         for (int i = 0; i < 100; ++i) {
+           table.setProperty("contentY", table.property("contentY").toDouble() + 60);
+           QTest::qWait(10);
+         }
+       }));
+  tell("searching", longestTurn([&stage, &keys] {
+         stage.tap(QStringLiteral("historySearch"));
+         keys({Qt::Key_3, Qt::Key_Slash, Qt::Key_2, Qt::Key_Minus, Qt::Key_7, Qt::Key_Backspace});
+         stage.item(QStringLiteral("historySearch")).setProperty("text", QString());
+       }));
+  const QQuickItem* page = &stage.item(QStringLiteral("historyTable"));
+  while (!page->property("controller").isValid()) page = page->parentItem();
+  auto& history = *page->property("controller").value<HistoryTableViewController*>();
+  for (const int row : {0, history.numberOfRowsInSection(0) / 2})
+    tell("deleting from row " + std::to_string(row), longestTurn([&history, row] {
+           history.commitEditingStyle(HistoryTableViewController::EditingStyle::Delete, row);
+         }));
+}
+
 /// A minute in which nobody does anything and the caret blinks.
 void measureRest(Stage& stage) {
   stage.tap(QStringLiteral("baseField"));
@@ -237,10 +288,13 @@ int measure(int argumentCount, char** arguments) {
   struct {
     std::string_view name;
     void (*measure)(Stage& stage);
-  } static constexpr parts[] = {
-      {"use", measureUse}, {"sharing", measureSharing}, {"frames", measureFrames}, {"rest", measureRest}};
+  } static constexpr parts[] = {{"use", measureUse},
+                                {"sharing", measureSharing},
+                                {"frames", measureFrames},
+                                {"history", measureHistory},
+                                {"rest", measureRest}};
   const auto* part = std::ranges::find(parts, wanted, [](const auto& each) { return each.name; });
-  if (part == std::end(parts)) throw Failure("use, sharing, frames or rest?");
+  if (part == std::end(parts)) throw Failure("use, sharing, frames, history or rest?");
   part->measure(stage);
   return 0;
 }
