@@ -4,6 +4,7 @@
 #include <QScopeGuard>
 #include <algorithm>
 #include <array>
+#include <limits>
 
 #include <sqlite3.h>
 
@@ -33,7 +34,7 @@ constexpr auto statements = std::to_array<const char*>({
     "ON CONFLICT(key) DO UPDATE SET value = excluded.value",
     "DELETE FROM preferences WHERE key = ?1",
     "UPDATE preferences SET key = ?3 WHERE key = ?1",
-    "SELECT value, number FROM elements WHERE key = ?1 ORDER BY number DESC",
+    "SELECT value, number FROM elements WHERE key = ?1 AND number < ?2 ORDER BY number DESC",
     "INSERT INTO elements(key, value) VALUES(?1, ?3) RETURNING number",
     "INSERT INTO elements(key, number, value) VALUES(?1, ?2, ?3)",
     "UPDATE elements SET value = ?3 WHERE key = ?1 AND number = ?2",
@@ -82,6 +83,8 @@ class Run {
   QByteArray text_;
   int result_ = SQLITE_OK;
 };
+
+constexpr qlonglong highest = std::numeric_limits<qlonglong>::max();
 
 // What stands in the place of an array, whose elements are rows of their own.
 const QByteArray& arrayText() {
@@ -157,7 +160,8 @@ QVariant PreferenceStore::variant(const QString& key) const {
   if (!stored) return {};
   if (stored == arrayText()) {
     QVariantList array;
-    readElements(key, [&array](Element element) { array.append(std::move(element.value)); });
+    readElements(key, highest, highest,
+                 [&array](Element element) { array.append(std::move(element.value)); });
     return array;
   }
   const std::optional<QVariant> value = decodePreference(*stored);
@@ -165,23 +169,24 @@ QVariant PreferenceStore::variant(const QString& key) const {
   return value.value_or(QVariant());
 }
 
-bool PreferenceStore::readElements(const Preference<QVariantList>& preference,
-                                   const std::function<void(Element)>& take) const {
-  if (text(preference.key) != arrayText()) return false;
-  readElements(QString(preference.key), take);
-  return true;
+bool PreferenceStore::holdsArray(const Preference<QVariantList>& preference) const {
+  return text(preference.key) == arrayText();
 }
 
-void PreferenceStore::readElements(const QString& key, const std::function<void(Element)>& take) const {
-  Run run(statements_[elementsOf], key);
-  while (run.hasRow()) {
+std::optional<qlonglong> PreferenceStore::readElements(const QString& key, qlonglong below, qsizetype most,
+                                                       const std::function<void(Element)>& take) const {
+  Run run(statements_[elementsOf], key, {}, below);
+  for (; most > 0 && run.hasRow(); --most) {
     const QByteArray text = run.text(0);
+    below = run.number(1);
     if (std::optional<QVariant> value = decodePreference(text))
-      take({run.number(1), *std::move(value)});
+      take({below, *std::move(value)});
     else
       print("not understood is an element of", key, QString::fromUtf8(text.left(80)));
   }
+  if (most == 0) return below;
   if (run.hasFailed()) print("cannot read", key, sqlite3_errmsg(file_.database.get()));
+  return std::nullopt;
 }
 
 bool PreferenceStore::setValue(const QString& key, const QVariant& value) {

@@ -89,10 +89,16 @@ class PreferenceStore {
     QVariant value;
   };
 
-  /// Hands the elements over in their order, which is that of falling numbers; false when there is no array.
-  /// An element that is none of ours is left out, with one console line.
-  bool readElements(const Preference<QVariantList>& preference,
-                    const std::function<void(Element)>& take) const;
+  /// Hands over, in their order, which is that of falling numbers, so many of the elements with lower numbers
+  /// than the given one. The number to go on from; absent behind the last element, and where there is no
+  /// array. An element that is none of ours is left out, with one console line.
+  std::optional<qlonglong> readElements(const Preference<QVariantList>& preference, qlonglong below,
+                                        qsizetype most, const std::function<void(Element)>& take) const {
+    return readElements(QString(preference.key), below, most, take);
+  }
+
+  /// Whether an array is stored under the key.
+  bool holdsArray(const Preference<QVariantList>& preference) const;
 
   /// Replaces the array by one whose elements are made one at a time. The number of the first one, from which
   /// the others fall by one each; absent when the disk refuses, with one console line, here and below.
@@ -124,7 +130,8 @@ class PreferenceStore {
 
  private:
   std::optional<QByteArray> text(const QString& key) const;
-  void readElements(const QString& key, const std::function<void(Element)>& take) const;
+  std::optional<qlonglong> readElements(const QString& key, qlonglong below, qsizetype most,
+                                        const std::function<void(Element)>& take) const;
   std::optional<qlonglong> setArray(const QString& key, qsizetype count,
                                     const std::function<QVariant(qsizetype)>& element);
   void setAside(const QString& key);

@@ -4,6 +4,7 @@
 #include <QHash>
 #include <algorithm>
 #include <functional>
+#include <limits>
 
 #include "number/fatal_stop.h"
 #include "platform/preference_codec.h"
@@ -40,12 +41,16 @@ const Calculation& CalcManager::calculation(qsizetype index) const {
   return list().calculations[index];
 }
 
+// Does not wait for the rest of a list that is being read.
 void CalcManager::addCalculation(const Calculation& calculation) {
-  list().calculations.prepend(calculation);
-  list().numbers.prepend(list().numbers.value(0) + 1);
+  if (!list_) readAhead();
+  List& list = begun();
+  list.calculations.prepend(calculation);
+  list.numbers.prepend(list.numbers.value(0) + 1);
+  if (list.unread) ++list.added;
   save([&] {
     const auto number = userDefaults_.prependElement(preferences::calculations, calculation.properties());
-    if (number) list().numbers.front() = *number;
+    if (number) list.numbers.front() = *number;
     return number.has_value();
   });
 }
@@ -151,28 +156,44 @@ void CalcManager::runFirstStartStep() {
   addCalculation(sample());
 }
 
-CalcManager::List CalcManager::read() const {
-  List read;
+bool CalcManager::readAhead() {
+  constexpr qsizetype piece = 1000;
+  if (begun().unread) read(piece);
+  return list_->unread.has_value();
+}
+
+// The list with as much as has been read.
+CalcManager::List& CalcManager::begun() {
+  if (!list_) {
+    list_.emplace();
+    list_->isOurs = userDefaults_.holdsArray(preferences::calculations);
+    list_->unread = std::numeric_limits<qlonglong>::max();
+  }
+  return *list_;
+}
+
+void CalcManager::read(qsizetype most) {
+  List& read = *list_;
   const auto take = [&read](const PreferenceStore::Element& element) {
     read.isOurs = read.isOurs && element.value.typeId() == QMetaType::QVariantMap;
     read.calculations.append(Calculation(element.value.toMap()));
     read.numbers.append(element.number);
   };
-  read.isOurs = userDefaults_.readElements(preferences::calculations, take) && read.isOurs;
-  return read;
+  read.unread = userDefaults_.readElements(preferences::calculations, *read.unread, most, take);
+  if (read.unread || read.isOurs) return;
+  userDefaults_.setAside(preferences::calculations);
+  read.calculations.resize(read.added);
+  saveCalculations();
 }
 
 CalcManager::List& CalcManager::list() {
-  if (!list_) loadCalculations();
+  if (begun().unread) read(std::numeric_limits<qsizetype>::max());
   return *list_;
 }
 
 void CalcManager::loadCalculations() {
-  list_ = read();
-  if (list_->isOurs) return;
-  userDefaults_.setAside(preferences::calculations);
-  list_ = List();
-  saveCalculations();
+  list_.reset();
+  list();
 }
 
 void CalcManager::saveCalculations() {

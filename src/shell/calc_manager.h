@@ -42,6 +42,10 @@ class CalcManager final : public Persistable {
   /// replaced by an empty one.
   explicit CalcManager(PreferenceStore& userDefaults);
 
+  /// Reads a piece of the history, a few milliseconds long, ahead of being asked for it; whether there is
+  /// more to come.
+  bool readAhead();
+
   PreferenceStore& userDefaults() const override { return userDefaults_; }
 
   /// A name of the store; the list itself lies under "Calculations".
@@ -90,11 +94,14 @@ class CalcManager final : public Persistable {
  private:
   struct List {
     QList<Calculation> calculations;
-    QList<qlonglong> numbers;  ///< Of the same records in the store, falling.
-    bool isOurs = true;        ///< Whether what the store holds is a list of records.
+    QList<qlonglong> numbers;         ///< Of the same records in the store, falling.
+    qsizetype added = 0;              ///< The first of them, which were added while the others were read.
+    std::optional<qlonglong> unread;  ///< Where the store holds more, below this number.
+    bool isOurs = true;               ///< Whether what the store holds is a list of records.
   };
 
-  List read() const;
+  List& begun();
+  void read(qsizetype most);
   List& list();
   const List& list() const { return const_cast<CalcManager*>(this)->list(); }
   std::optional<Calculation> stored(const Preference<QVariantMap>& preference) const;

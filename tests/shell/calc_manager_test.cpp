@@ -237,6 +237,33 @@ TEST_F(CalcManagerTest, ASnapshotFromElsewhereIsRead) {
   EXPECT_EQ(CalcManager(store_).currentCalculation(), named("elsewhere"));
 }
 
+TEST_F(CalcManagerTest, ALongListIsReadInPiecesBetweenWhichRecordsAreAdded) {
+  constexpr qsizetype count = 2500;
+  QVariantList records;
+  for (qsizetype i = 0; i < count; ++i) records.append(named(QString::number(i)).properties());
+  store_.setValue("Calculations", records);
+  CalcManager manager(store_);
+  manager.addCalculation(named("first"));
+  EXPECT_TRUE(manager.readAhead());
+  manager.addCalculation(named("second"));
+  int pieces = 0;
+  while (manager.readAhead()) ASSERT_LT(++pieces, count);
+  EXPECT_FALSE(manager.readAhead());
+  ASSERT_EQ(manager.calculations().size(), count + 2);
+  EXPECT_EQ(manager.calculation(0).latexString, "second");
+  EXPECT_EQ(manager.calculation(1).latexString, "first");
+  EXPECT_EQ(manager.calculation(count + 1).latexString, QString::number(count - 1));
+  EXPECT_EQ(storedOrder(), order(manager));
+
+  // One that is asked for in between waits for the rest; what was added to a list of another shape stays.
+  records.last() = "text";
+  store_.setValue("Calculations", records);
+  CalcManager other(store_);
+  other.addCalculation(named("kept"));
+  EXPECT_EQ(order(other), "kept");
+  EXPECT_EQ(storedOrder(), "kept");
+}
+
 TEST_F(CalcManagerTest, AListOfAnotherShapeIsSetAsideAndReplacedByAnEmptyOne) {
   EXPECT_TRUE(CalcManager(store_).calculations().isEmpty());
   EXPECT_EQ(store_.variant("Calculations"), QVariant(QVariantList()));

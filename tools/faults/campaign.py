@@ -24,6 +24,7 @@ import tempfile
 import threading
 import time
 
+SETTINGS = pathlib.Path(__file__).resolve().parents[2] / "resources/ProjectSettings.json"
 PATIENCE = 120  # Seconds for a start or an end, however slow the machine is.
 
 
@@ -61,9 +62,9 @@ class Services:
         """A folder with settings that name these services."""
         address = f"http://127.0.0.1:{self.server.server_port}"
         folder.mkdir(exist_ok=True)
-        (folder / "ProjectSettings.json").write_text(json.dumps({
+        (folder / "ProjectSettings.json").write_text(json.dumps(json.loads(SETTINGS.read_text()) | {
             "remoteConfigEndpoint": address + "/values", "measurementEndpoint": address + "/v1/logs",
-            "allowsLoopbackHttp": True, "videoHost": "www.youtube.com", "videoPlayer": address}))
+            "allowsLoopbackHttp": True, "videoHost": "video.invalid", "videoPlayer": address}))
         return folder
 
     def close(self):
@@ -80,7 +81,8 @@ class Collector(Services):
 
     def take(self, path, body):
         if path.startswith("/values"):
-            texts = json.dumps({key: json.dumps(text) for key, text in TEXTS.items()}).encode()
+            # Without videos: the web view says on the console what it pleases.
+            texts = json.dumps({key: json.dumps(text) for key, text in (TEXTS | {"videoTutorials": {}}).items()}).encode()
             return 200, {"Content-Length": str(len(texts))}, texts
         status = self.dice.choice([200, 200, 200, 429, 503, 0])
         if status == 200:  # A batch counts as arrived only where that is said.
@@ -415,11 +417,11 @@ TEXTS = {
     "ads": {"QRX": [{"imageName": "summer", "linkingString": "https://c.invalid", "discountNumber": "10"}], "e": []},
     "umpReferenceData": {"purposeConsents": "1", "purposeLegitimateInterests": "2", "vendorConsents": "3",
                          "vendorLegitimateInterests": "4", "isConsentOrPayActivated": False},
-    "videoTutorials": {"QRX": {"en": ["https://www.youtube.com/watch?v=abcdefghijk"] * 2, "de": []}},
+    "videoTutorials": {"QRX": {"en": ["https://video.invalid/watch?v=abcdefghijk"] * 2, "de": []}},
 }
 MEASURED = "measurement"
 SCALARS = [None, True, False, 0, -1, 1e308, -0.5, 2**63, 17, "", "x", "\0", "http://", "javascript:alert(1)",
-           "file:///etc/passwd", "ü" * 300, "https://www.youtube.com/watch?v=" + "a" * 20, "<b>%1 %2</b>"]
+           "file:///etc/passwd", "ü" * 300, "https://video.invalid/watch?v=" + "a" * 20, "<b>%1 %2</b>"]
 KEYS = ["en", "de", "QRX", "apps", "imageName", "partialSuccess", "rejectedLogRecords"]
 
 

@@ -92,9 +92,12 @@ void AppDelegate::openWindow() {
       engine_, QStringLiteral("shell/frame/AppWindow.qml"),
       {{QStringLiteral("rootController"), QVariant::fromValue<ViewController*>(drawer_.get())}});
   windowMemory_.emplace(*window_, services_.userDefaults);
-  // A long history is read once there is something to be seen.
+  // A long history is read once there is something to be seen, piece by piece.
+  connect(&readingAhead_, &QTimer::timeout, this, [this] {
+    if (!services_.calcManager.readAhead()) readingAhead_.stop();
+  });
   connect(
-      window_.get(), &QQuickWindow::frameSwapped, this, [this] { services_.calcManager.calculations(); },
+      window_.get(), &QQuickWindow::frameSwapped, &readingAhead_, [this] { readingAhead_.start(); },
       static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
   drawer_->beginAppearance();
   windowMemory_->show();

@@ -2,6 +2,7 @@
 
 #include <QQmlEngine>
 #include <QQuickWindow>
+#include <QTimer>
 #include <functional>
 #include <memory>
 #include <optional>
@@ -68,6 +69,7 @@ class AppDelegate : public QObject {
   std::shared_ptr<AppNavigationDrawerController> drawer_;
   std::unique_ptr<QQuickWindow> window_;
   std::optional<WindowMemory> windowMemory_;
+  QTimer readingAhead_;  // in the history, from the first frame on
 };
 
 }  // namespace tavi
