@@ -186,7 +186,7 @@ Rectangle {
     Label {
         objectName: "workingHere"
         anchors.centerIn: parent
-        width: Math.min(implicitWidth, parent.width - 64)
+        width: Math.max(0, parent.width - 64)
         visible: table.count === 0
         text: qsTrId("workingHere")
         horizontalAlignment: Text.AlignHCenter

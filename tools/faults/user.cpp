@@ -100,6 +100,7 @@ class User {
     window().resize(412, 870);
     QTest::qWait(500);
     QPixmapCache::clear();
+    application_.engine().collectGarbage();
     malloc_trim(0);
     return residentMemory();
   }
