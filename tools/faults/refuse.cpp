@@ -3,9 +3,10 @@
 
 #include <atomic>
 #include <cerrno>
-#include <cstdio>
 #include <cstdlib>
-#include <cstring>
+#include <filesystem>
+#include <string>
+#include <system_error>
 
 #include <dlfcn.h>
 #include <sys/types.h>
@@ -16,19 +17,20 @@ namespace {
 std::atomic<long> changes{0};
 
 bool isStore(int descriptor) {
-  char link[64];
-  char path[4096];
-  std::snprintf(link, sizeof link, "/proc/self/fd/%d", descriptor);
-  const ssize_t length = readlink(link, path, sizeof path - 1);
-  if (length <= 0) return false;
-  path[length] = '\0';
   static const char* const file = std::getenv("REFUSE_FILE");
-  return file != nullptr && std::strstr(path, file) != nullptr;
+  std::error_code unknown;
+  const auto path = std::filesystem::read_symlink("/proc/self/fd/" + std::to_string(descriptor), unknown);
+  return file != nullptr && path.native().find(file) != std::string::npos;
+}
+
+long number(const char* name) {
+  const char* text = std::getenv(name);
+  return text == nullptr ? 0 : std::atol(text);
 }
 
 bool refuses(int descriptor) {
-  static const long after = std::atol(std::getenv("REFUSE_AFTER") ? std::getenv("REFUSE_AFTER") : "0");
-  static const int error = std::atoi(std::getenv("REFUSE_WITH") ? std::getenv("REFUSE_WITH") : "0");
+  static const long after = number("REFUSE_AFTER");
+  static const auto error = static_cast<int>(number("REFUSE_WITH"));
   if (error == 0 || !isStore(descriptor) || ++changes <= after) return false;
   errno = error;
   return true;
@@ -41,6 +43,7 @@ Function next(const char* name) {
 
 }  // namespace
 
+// NOLINTBEGIN(readability-inconsistent-declaration-parameter-name): the system's own names are reserved.
 extern "C" {
 
 ssize_t pwrite64(int descriptor, const void* bytes, size_t count, off64_t offset) {
@@ -73,3 +76,4 @@ int ftruncate64(int descriptor, off64_t length) noexcept {
   return refuses(descriptor) ? -1 : call(descriptor, length);
 }
 }
+// NOLINTEND(readability-inconsistent-declaration-parameter-name)

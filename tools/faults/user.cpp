@@ -11,10 +11,14 @@
 #include <QPixmapCache>
 #include <QTest>
 #include <algorithm>
+#include <array>
 #include <chrono>
 #include <cstdio>
 #include <ctime>
+#include <iterator>
 #include <random>
+#include <string_view>
+#include <utility>
 
 #include <malloc.h>
 
@@ -77,13 +81,17 @@ class User {
   /// One action; the time that the application took for it, until it waits for the next event.
   std::chrono::nanoseconds act() {
     const auto start = std::chrono::steady_clock::now();
-    struct {
-      int weight;
-      void (User::*action)();
-    } static constexpr actions[] = {
-        {40, &User::tapControl},      {25, &User::typeKey},      {15, &User::tapAnywhere}, {6, &User::drag},
-        {4, &User::turnWheel},        {4, &User::navigate},      {2, &User::paste},        {2, &User::resize},
-        {1, &User::changeAppearance}, {1, &User::changeLanguage}};
+    static constexpr auto actions =
+        std::to_array<std::pair<int, void (User::*)()>>({{40, &User::tapControl},
+                                                         {25, &User::typeKey},
+                                                         {15, &User::tapAnywhere},
+                                                         {6, &User::drag},
+                                                         {4, &User::turnWheel},
+                                                         {4, &User::navigate},
+                                                         {2, &User::paste},
+                                                         {2, &User::resize},
+                                                         {1, &User::changeAppearance},
+                                                         {1, &User::changeLanguage}});
     int rest = throwDice(100);
     for (const auto& [weight, action] : actions) {
       if ((rest -= weight) < 0) {
@@ -108,6 +116,9 @@ class User {
  private:
   QQuickWindow& window() { return *application_.delegate().window(); }
   int throwDice(int sides) { return std::uniform_int_distribution(0, sides - 1)(dice_); }
+  const auto& anyOf(const auto& list) {
+    return *std::next(list.begin(), throwDice(static_cast<int>(list.size())));
+  }
 
   QPoint anyPlace() { return {throwDice(window().width()), throwDice(window().height())}; }
 
@@ -129,8 +140,7 @@ class User {
     std::vector<QQuickItem*> controls;
     collect(*window().contentItem(), controls);
     if (controls.empty()) return;
-    const QQuickItem& control =
-        *controls[static_cast<std::size_t>(throwDice(static_cast<int>(controls.size())))];
+    const QQuickItem& control = *anyOf(controls);
     const QPoint place = control.mapToScene({control.width() / 2, control.height() / 2}).toPoint();
     if (throwDice(2) == 0)
       touch(place);
@@ -160,35 +170,34 @@ class User {
   }
 
   void typeKey() {
-    static constexpr char keys[] = "0123456789..//--xyp^,*+e";
-    QTest::keyClick(&window(), keys[throwDice(static_cast<int>(std::size(keys)) - 1)]);
+    constexpr std::string_view keys = "0123456789..//--xyp^,*+e";
+    QTest::keyClick(&window(), anyOf(keys));
   }
 
   void navigate() {
-    static constexpr Qt::Key keys[] = {Qt::Key_Tab,    Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter,
-                                       Qt::Key_Space,  Qt::Key_Left,    Qt::Key_Right,  Qt::Key_Up,
-                                       Qt::Key_Down,   Qt::Key_Home,    Qt::Key_End,    Qt::Key_PageUp,
-                                       Qt::Key_Escape, Qt::Key_Back,    Qt::Key_Delete, Qt::Key_Menu,
-                                       Qt::Key_Z,      Qt::Key_C,       Qt::Key_V,      Qt::Key_A};
-    static constexpr Qt::KeyboardModifier modifiers[] = {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier,
-                                                         Qt::ControlModifier, Qt::AltModifier};
-    QTest::keyClick(&window(), keys[throwDice(static_cast<int>(std::size(keys)))],
-                    modifiers[throwDice(static_cast<int>(std::size(modifiers)))]);
+    static constexpr auto keys =
+        std::to_array<Qt::Key>({Qt::Key_Tab,  Qt::Key_Backtab, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Space,
+                                Qt::Key_Left, Qt::Key_Right,   Qt::Key_Up,     Qt::Key_Down,  Qt::Key_Home,
+                                Qt::Key_End,  Qt::Key_PageUp,  Qt::Key_Escape, Qt::Key_Back,  Qt::Key_Delete,
+                                Qt::Key_Menu, Qt::Key_Z,       Qt::Key_C,      Qt::Key_V,     Qt::Key_A});
+    static constexpr auto modifiers = std::to_array<Qt::KeyboardModifier>(
+        {Qt::NoModifier, Qt::NoModifier, Qt::ShiftModifier, Qt::ControlModifier, Qt::AltModifier});
+    QTest::keyClick(&window(), anyOf(keys), anyOf(modifiers));
   }
 
   void paste() {
-    static constexpr const char* texts[] = {"",   "3/4", "−12",  "1,5",         "2·π",
-                                            "x²", "٣",   "\n\n", "2^10 = 1024", "½"};
-    QString text = QString::fromUtf8(texts[throwDice(static_cast<int>(std::size(texts)))]);
+    static constexpr auto texts =
+        std::to_array<const char*>({"", "3/4", "−12", "1,5", "2·π", "x²", "٣", "\n\n", "2^10 = 1024", "½"});
+    QString text = QString::fromUtf8(anyOf(texts));
     if (throwDice(8) == 0) text = QString(5000, u'9');
     QGuiApplication::clipboard()->setText(text);
     QTest::keyClick(&window(), Qt::Key_V, Qt::ControlModifier);
   }
 
   void resize() {
-    static constexpr QSize sizes[] = {{412, 870}, {320, 480},  {568, 320}, {360, 640},
-                                      {800, 360}, {1280, 800}, {100, 100}};
-    window().resize(sizes[throwDice(static_cast<int>(std::size(sizes)))]);
+    static constexpr auto sizes = std::to_array<QSize>(
+        {{412, 870}, {320, 480}, {568, 320}, {360, 640}, {800, 360}, {1280, 800}, {100, 100}});
+    window().resize(anyOf(sizes));
   }
 
   void changeAppearance() { Appearance::shared().force(throwDice(2) == 0); }
@@ -196,8 +205,7 @@ class User {
   /// As the settings do it, and as a system tells of its own change; both hold from the next start on.
   void changeLanguage() {
     const QStringList& languages = translatedLanguages();
-    PreferenceStore::standard().setValue(preferences::language,
-                                         languages[throwDice(static_cast<int>(languages.size()))]);
+    PreferenceStore::standard().setValue(preferences::language, anyOf(languages));
     QEvent change(QEvent::LocaleChange);
     QCoreApplication::sendEvent(&application_, &change);
   }
