@@ -76,6 +76,7 @@ void Stage::tap(const QString& name) {
   const QQuickItem& target = item(name);
   if (!target.isEnabled()) throw Failure(name.toStdString() + " is off");
   const QPoint place = middle(target);
+  if (!window().contentItem()->contains(place)) throw Failure(name.toStdString() + " is out of sight");
   QTest::touchEvent(&window(), finger_.get()).press(0, place);
   QTest::touchEvent(&window(), finger_.get()).release(0, place);
 }
@@ -176,6 +177,8 @@ QImage Stage::picture() {
   QUnifiedTimer::instance()->setSlowdownFactor(1.0 / haste);
   QUnifiedTimer::instance()->setSlowModeEnabled(true);
   QTest::qWait((longestAnimation + 100) / haste);
+  // A busy machine begins them late. What never rests, such as the spinner, is waited for no longer.
+  (void)QTest::qWaitFor([] { return QUnifiedTimer::instance()->runningAnimationCount() == 0; }, 150);
   QUnifiedTimer::instance()->setSlowModeEnabled(false);
   QImage image = window().grabWindow();
   if (image.isNull()) throw Failure("the window gives no picture");

@@ -38,6 +38,10 @@ void exactValue(Stage& stage) {
 
 void exactRoot(Stage& stage) {
   stage.solve(Mode::root, u"2", u"2");
+  const auto result = static_cast<int>(stage.solutionSteps().size()) - 1;
+  QMetaObject::invokeMethod(&stage.item(QStringLiteral("solutionTable")), "positionViewAtIndex",
+                            Q_ARG(int, result), Q_ARG(int, 2));  // ListView.End
+  stage.picture();
   stage.tap(QStringLiteral("exactButton"));
   stage.item(QStringLiteral("moreDigits"));
 }
