@@ -70,7 +70,7 @@ TableRow {
 
         x: cell.measures.edge
         y: formula.visible || messageLabel.visible ? cell.measures.padding : (parent.height - height) / 2
-        width: parent.width - 2 * x - exactButton.width
+        width: parent.width - 2 * x - (exactButton.active ? exactButton.width + 12 : 0)
         visible: cell.hasTitle
         text: cell.content.title
         textFormat: Text.PlainText
@@ -135,15 +135,29 @@ TableRow {
     Loader {
         id: exactButton
 
-        x: title.x + Math.min(title.width, title.implicitWidth)
+        x: title.x + Math.min(title.width, title.implicitWidth) + 12
         y: title.y + (title.height - height) / 2
         z: 1
         active: cell.hasExactValue
         sourceComponent: IconButton {
+            id: button
+
             objectName: "exactButton"
             text: qsTrId("exactButton")
             tintColor: cell.isMarked ? Theme.accentText : Theme.label
             onClicked: cell.exactRequested()
+
+            background: Item {
+                // Lower than what a finger hits, as it stands in a line with the title.
+                Rectangle {
+                    anchors.centerIn: parent
+                    width: parent.width
+                    height: 26
+                    radius: height / 2
+                    color: Qt.alpha(button.tintColor, button.down ? 0.2 : button.isHovered ? 0.08 : 0)
+                    border.color: Qt.alpha(button.tintColor, 0.5)
+                }
+            }
         }
     }
 
