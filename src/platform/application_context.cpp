@@ -24,6 +24,7 @@ ApplicationContext ApplicationContext::current() {
 void nameApplication() {
   QCoreApplication::setOrganizationDomain(QStringLiteral("tavi.example.org"));
   QCoreApplication::setApplicationName(QStringLiteral("tavi"));
+  QCoreApplication::setApplicationVersion(QStringLiteral(TAVI_VERSION));
   QGuiApplication::setDesktopFileName(ownIdentifier);
 }
 

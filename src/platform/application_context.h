@@ -15,7 +15,7 @@ struct ApplicationContext {
 };
 
 /// Gives Qt the names from which it derives the user's data directory and by which a desktop finds the
-/// application's entry and icon. To be called before anything is stored or shown.
+/// application's entry and icon, and the version. To be called before anything is stored or shown.
 void nameApplication();
 
 /// The folder in which the application keeps what is its user's.

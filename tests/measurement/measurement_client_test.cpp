@@ -11,6 +11,7 @@
 
 #include "measurement/collector.h"
 #include "measurement/otlp.h"
+#include "platform/application_context.h"
 #include "platform/test_support.h"
 
 namespace tavi {
@@ -65,6 +66,7 @@ TEST_F(Measurement, AWithdrawalDeletesAtOnceAlsoWhatIsOnItsWay) {
 }
 
 TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
+  nameApplication();
   Collector collector(well);
   MeasurementClient client(settings(collector.address()), path());
   client.setConsent(true);
@@ -78,6 +80,7 @@ TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
   const QJsonValue logs = collector.batches()[0]["resourceLogs"][0];
   EXPECT_EQ(logs["resource"]["attributes"][0]["key"].toString(), "service.name");
   EXPECT_EQ(logs["resource"]["attributes"][0]["value"]["stringValue"].toString(), "tavi");
+  EXPECT_FALSE(logs["resource"]["attributes"][1]["value"]["stringValue"].toString().isEmpty()) << "version";
   const QJsonValue record = logs["scopeLogs"][0]["logRecords"][0];
   EXPECT_EQ(record["eventName"].toString(), "taviAds_presented");
   EXPECT_EQ(record["body"]["stringValue"].toString(), "taviAds_presented");
