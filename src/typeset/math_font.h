@@ -67,6 +67,9 @@ struct MathConstants {
   double fractionDenominatorGapMin;
   double fractionDenomDisplayStyleGapMin;
   double fractionRuleThickness;
+  double overbarVerticalGap;
+  double overbarRuleThickness;
+  double overbarExtraAscender;
   double radicalVerticalGap;
   double radicalDisplayStyleVerticalGap;
   double radicalRuleThickness;

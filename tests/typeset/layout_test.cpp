@@ -52,6 +52,20 @@ TEST(Layout, ColoursReachEverythingInsideAndNothingBehind) {
   EXPECT_EQ(layout.rules[1].color, red);
 }
 
+// The bar's place and thickness are the font's overbar constants: 120, 40 and 40 thousandths of the em.
+TEST(Layout, APeriodStandsUnderABarAsWideAsItself) {
+  const Layout bare = set("27", 100);
+  const Layout barred = set("0.\\overline{27}", 100);
+  ASSERT_EQ(barred.rules.size(), 1U);
+  const Rule& bar = barred.rules.front();
+  EXPECT_NEAR(bar.x, barred.width - bare.width, 1e-9);
+  EXPECT_NEAR(bar.width, bare.width, 1e-9);
+  EXPECT_NEAR(bar.y, bare.height + 12, 1e-9);
+  EXPECT_NEAR(bar.height, 4, 1e-9);
+  EXPECT_NEAR(barred.height, bare.height + 20, 1e-9);
+  EXPECT_EQ(barred.glyphs.back().size, 100) << "no smaller than the digits before it";
+}
+
 TEST(Layout, ShowsABoxForWhatTheFontLacks) {
   const Layout layout = set("1+中\\text{a文}");
   ASSERT_TRUE(layout.error.has_value());

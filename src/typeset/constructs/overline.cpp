@@ -19,10 +19,10 @@ void Overline::read(Reader& reader, const CommandInLine& command, List& into) {
 Extent Overline::set(Compositor& compositor, Style style) const {
   const MathConstants& constants = compositor.constants();
   Extent box = compositor.list(content, style.cramped());
-  const double thickness = compositor.em(constants.radicalRuleThickness, style);
-  const double gap = compositor.em(constants.radicalVerticalGap, style);
+  const double thickness = compositor.em(constants.overbarRuleThickness, style);
+  const double gap = compositor.em(constants.overbarVerticalGap, style);
   compositor.addRule(0, box.height + gap, box.width, thickness);
-  box.height += gap + 2 * thickness;
+  box.height += gap + thickness + compositor.em(constants.overbarExtraAscender, style);
   return box;
 }
 
