@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <functional>
 #include <limits>
+#include <utility>
 
 #include "number/fatal_stop.h"
 #include "platform/preference_codec.h"
@@ -165,9 +166,10 @@ bool CalcManager::readAhead() {
 // The list with as much as has been read.
 CalcManager::List& CalcManager::begun() {
   if (!list_) {
-    list_.emplace();
-    list_->isOurs = userDefaults_.holdsArray(preferences::calculations);
-    list_->unread = std::numeric_limits<qlonglong>::max();
+    List begun;
+    begun.isOurs = userDefaults_.holdsArray(preferences::calculations);
+    begun.unread = std::numeric_limits<qlonglong>::max();
+    list_ = std::move(begun);
   }
   return *list_;
 }
