@@ -23,8 +23,10 @@ void SpeakerThread::run() {
   exec();
 }
 
-SystemVoice::SystemVoice(const QUrl& source, const QString& language)
-    : source_(source), language_(language), state_(source.isEmpty() ? State::Missing : State::Unknown) {}
+SystemVoice::SystemVoice(QUrl source, QString language)
+    : source_(std::move(source)),
+      language_(std::move(language)),
+      state_(source_.isEmpty() ? State::Missing : State::Unknown) {}
 
 /// A thread that is kept waiting by a service that does not answer is left behind.
 SystemVoice::~SystemVoice() {

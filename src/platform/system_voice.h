@@ -2,6 +2,7 @@
 
 #include <QThread>
 #include <QUrl>
+#include <utility>
 
 #include "platform/localization.h"
 #include "platform/voice.h"
@@ -13,7 +14,7 @@ class SpeakerThread : public QThread {
   Q_OBJECT
 
  public:
-  SpeakerThread(const QUrl& source, const QString& language) : source_(source), language_(language) {}
+  SpeakerThread(QUrl source, QString language) : source_(std::move(source)), language_(std::move(language)) {}
 
  signals:
   /// Whom texts are handed to by queued calls only; none where nothing speaks the language.
@@ -36,7 +37,7 @@ class SystemVoice : public Voice {
 
  public:
   /// The QML file of what speaks, and a language by its BCP 47 name.
-  explicit SystemVoice(const QUrl& source = installedSpeaker(), const QString& language = spokenLanguage());
+  explicit SystemVoice(QUrl source = installedSpeaker(), QString language = spokenLanguage());
   ~SystemVoice() override;
 
   State state() const override { return state_; }

@@ -1,6 +1,7 @@
 #include "typeset/mathml.h"
 
 #include <algorithm>
+#include <array>
 #include <optional>
 
 #include "typeset/utf8.h"
@@ -60,7 +61,8 @@ std::string mathmlRow(const List& atoms) {
 }
 
 std::string mathmlBase(const List& nucleus) {
-  constexpr std::string_view whole[] = {"<mi>", "<mi ", "<mn>", "<mo>", "<mo ", "<mtext>", "<mrow>"};
+  constexpr auto whole =
+      std::to_array<std::string_view>({"<mi>", "<mi ", "<mn>", "<mo>", "<mo ", "<mtext>", "<mrow>"});
   const std::string base = mathmlRow(nucleus);
   const bool isWhole =
       std::ranges::any_of(whole, [&](std::string_view tag) { return base.starts_with(tag); });

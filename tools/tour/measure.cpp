@@ -5,6 +5,7 @@
 #include <QTest>
 #include <QTimer>
 #include <algorithm>
+#include <array>
 #include <cstdio>
 #include <ctime>
 #include <functional>
@@ -285,17 +286,15 @@ int measure(int argumentCount, char** arguments) {
     PreferenceStore::standard().setValue(*answered, true);
   PreferenceStore::standard().setValue(preferences::counterForRating, 1000);  // No rating comes in between.
   Stage stage(application);
-  struct {
-    std::string_view name;
-    void (*measure)(Stage& stage);
-  } static constexpr parts[] = {{"use", measureUse},
-                                {"sharing", measureSharing},
-                                {"frames", measureFrames},
-                                {"history", measureHistory},
-                                {"rest", measureRest}};
-  const auto* part = std::ranges::find(parts, wanted, [](const auto& each) { return each.name; });
-  if (part == std::end(parts)) throw Failure("use, sharing, frames, history or rest?");
-  part->measure(stage);
+  static constexpr auto parts =
+      std::to_array<std::pair<std::string_view, void (*)(Stage & stage)>>({{"use", measureUse},
+                                                                           {"sharing", measureSharing},
+                                                                           {"frames", measureFrames},
+                                                                           {"history", measureHistory},
+                                                                           {"rest", measureRest}});
+  const auto* part = std::ranges::find(parts, wanted, [](const auto& each) { return each.first; });
+  if (part == parts.end()) throw Failure("use, sharing, frames, history or rest?");
+  part->second(stage);
   return 0;
 }
 

@@ -170,8 +170,8 @@ void keyboard(Stage& stage) {
   stage.prepare(Mode::power, u"", u"2");
   const auto focused = [&stage] {
     const QQuickItem* item = stage.window().activeFocusItem();
-    while (item && item->objectName().isEmpty()) item = item->parentItem();
-    return item ? item->objectName() : QString();
+    while (item != nullptr && item->objectName().isEmpty()) item = item->parentItem();
+    return item != nullptr ? item->objectName() : QString();
   };
   constexpr qsizetype patience = 20;
   QStringList round;
