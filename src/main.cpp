@@ -2,10 +2,6 @@
 #include <cstdlib>
 #include <exception>
 
-#ifdef __GLIBC__
-#include <malloc.h>
-#endif
-
 #include "number/fatal_stop.h"
 #include "shell/launch/application.h"
 #include "shell/launch/command_line.h"
@@ -24,18 +20,9 @@ namespace {
   std::abort();
 }
 
-/// One heap for all threads, unless the environment says otherwise: one for each of those that take turns in
-/// a start grows page by page, a call of the kernel for each.
-void shareHeap() {
-#ifdef __GLIBC__
-  if (std::getenv("MALLOC_ARENA_MAX") == nullptr) mallopt(M_ARENA_MAX, 1);
-#endif
-}
-
 }  // namespace
 
 int main(int argumentCount, char** arguments) {
-  shareHeap();
   std::set_terminate(endWithReason);
   if (argumentCount > 1)
     if (const auto answer = tavi::answerToOption(arguments[1])) {

@@ -12,6 +12,10 @@
 
 #include <QtQml/qqmlextensionplugin.h>
 
+#ifdef __GLIBC__
+#include <malloc.h>
+#endif
+
 #include "appearance/appearance.h"
 #include "appearance/formula_scale.h"
 #include "appearance/interface_fonts.h"
@@ -32,7 +36,7 @@ namespace {
 // Without graphics hardware Qt Quick would draw with OpenGL in software, which costs a start 1.6 times the
 // time, 2.4 times the memory and twice the processor time of its own software renderer. What the user's
 // environment says about it holds. A web view can show what it draws with graphics hardware only in contexts
-// that share. To be called before anything of the application object is made.
+// that share.
 void chooseRenderer() {
 #ifdef Q_OS_LINUX
   constexpr std::array variables{"QT_QUICK_BACKEND", "QMLSCENE_DEVICE", "QSG_RHI_BACKEND",
@@ -50,7 +54,17 @@ void drawAtOnce() {
   if (!qEnvironmentVariableIsSet(variable)) qputenv(variable, "0");
 }
 
-int& withRenderer(int& argumentCount) {
+/// One heap for all threads, unless the environment says otherwise: one for each of those that take turns in
+/// a start grows page by page, a call of the kernel for each, and a long use leaves each of them in pieces.
+void shareHeap() {
+#ifdef __GLIBC__
+  if (!qEnvironmentVariableIsSet("MALLOC_ARENA_MAX")) mallopt(M_ARENA_MAX, 1);
+#endif
+}
+
+/// What holds before anything of the application object is made.
+int& withProcessReady(int& argumentCount) {
+  shareHeap();
   chooseRenderer();
   drawAtOnce();
   return argumentCount;
@@ -99,7 +113,7 @@ QString namedDataFolder() {
 }  // namespace
 
 Application::Application(int& argumentCount, char** arguments)
-    : QGuiApplication(withRenderer(argumentCount), arguments), instance_(namedDataFolder()) {
+    : QGuiApplication(withProcessReady(argumentCount), arguments), instance_(namedDataFolder()) {
   if (messageHandler == nullptr) messageHandler = qInstallMessageHandler(passMessageOn);
   setWindowIcon(ownIcon());
   InterfaceFont::icons(16);  // Loaded before there is any text, as what comes later lays out all of it anew.
