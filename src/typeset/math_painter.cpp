@@ -27,7 +27,7 @@ constexpr std::size_t glyphsPerRun = 32;
 constexpr double widestGlyph = 1.5;
 
 // The bundled font at the sizes in use. What Qt rasterised stays with it, so it is used under the mutex
-// alone, and it goes when the application object does.
+// alone, and it goes when the application object does. Qt takes a font away with the thread that read it.
 class SharedFont {
  public:
   static SharedFont& instance() {
@@ -37,18 +37,29 @@ class SharedFont {
 
   std::mutex mutex;
 
-  QRawFont at(double size) { return sized(sizes_, size, base()); }
+  void read() {
+    if (base_.isValid()) return;
+    base_ = load(QFont::PreferNoHinting);
+    hinted_ = load(QFont::PreferVerticalHinting);
+    qAddPostRoutine([] { instance().clear(); });
+  }
+
+  QRawFont at(double size) {
+    read();
+    return sized(sizes_, size, base_);
+  }
 
   /// With its horizontal stems on whole pixels and its advances as they are.
   QRawFont hintedAt(double size) {
-    if (!hinted_.isValid()) hinted_ = load(QFont::PreferVerticalHinting);
+    read();
     return sized(hintedSizes_, size, hinted_);
   }
 
   QPainterPath outline(std::uint32_t glyph, double size, const QPointF& place) {
+    read();
     const double scale = size / outlineSize;
     const QTransform toPlace(scale, 0, 0, scale, place.x(), place.y());
-    return toPlace.map(base().pathForGlyph(glyph));
+    return toPlace.map(base_.pathForGlyph(glyph));
   }
 
  private:
@@ -72,14 +83,6 @@ class SharedFont {
                                                 static_cast<qsizetype>(font.size())),
                         outlineSize, hinting);
     return loaded;
-  }
-
-  const QRawFont& base() {
-    if (!base_.isValid()) {
-      base_ = load(QFont::PreferNoHinting);
-      qAddPostRoutine([] { instance().clear(); });
-    }
-    return base_;
   }
 
   void clear() {
@@ -151,6 +154,12 @@ QColor legibleColor(const QColor& color, const QColor& background) {
     if (lightness == 0 || lightness == 255) break;
   }
   return fitted.toRgb();
+}
+
+void readMathFont() {
+  SharedFont& shared = SharedFont::instance();
+  const std::scoped_lock lock(shared.mutex);
+  shared.read();
 }
 
 MathPicture::MathPicture(const Layout& layout) {

@@ -25,6 +25,10 @@ struct Ink {
 /// appearance.
 QColor legibleColor(const QColor& color, const QColor& background);
 
+/// Reads the font that formulas are drawn with, unless that was done. The first picture does it too, but the
+/// thread must outlive all drawing: before another one draws, the main thread reads it.
+void readMathFont();
+
 /// A layout made ready to be drawn any number of times and on any device: item, image, SVG or PDF. Needs a
 /// QGuiApplication and must not outlive it; making and drawing may happen in different threads.
 ///

@@ -3,6 +3,7 @@
 #include <QElapsedTimer>
 #include <QPainter>
 #include <QTest>
+#include <QThread>
 #include <QTimer>
 
 #include <gtest/gtest.h>
@@ -36,6 +37,7 @@ class ColoredRow : public RowPainter {
 
   double height(double) const override { return height_; }
   void paint(QPainter& painter, QSizeF size, const RowPalette&) const override {
+    EXPECT_NE(QThread::currentThread(), qApp->thread()) << "the interface waits for it";
     painter.fillRect(QRectF({}, size), color_);
   }
   std::chrono::milliseconds settlingTime() const override { return settling_; }

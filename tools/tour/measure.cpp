@@ -170,6 +170,7 @@ void share(Stage& stage, const SolutionSteps& steps, const std::string& name) {
   tell(name, milliseconds(timer));
   tell(name + " block", longest);
   tell(name + " memory", statusMegabytes("VmHWM") - before);
+  stage.picture();  // once the sheet has risen
   stage.tap(QStringLiteral("closeSheet"));
   waitUntil([&stage] { return stage.sharedPicture().isNull(); }, "the sheet is closed");
 }

@@ -41,7 +41,8 @@ void drawText(QPainter& painter, const QString& text, const QFont& font, const Q
 }
 
 typeset::Layout setFormula(std::string_view latex, double size) {
-  static typeset::MathFont font = typeset::MathFont::open(typeset::bundledMathFont()).value();
+  // Pictures that are shared are painted beside the main thread.
+  thread_local typeset::MathFont font = typeset::MathFont::open(typeset::bundledMathFont()).value();
   return typeset::typeset(latex, font, size);
 }
 

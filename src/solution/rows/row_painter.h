@@ -35,7 +35,7 @@ struct RowTarget {
 };
 
 /// One row of a table as a picture, on any painter and without a screen. Lengths are device-independent
-/// pixels. Main thread only.
+/// pixels. Made and measured in the main thread; painted in any, one at a time.
 class RowPainter {
  public:
   RowPainter() = default;

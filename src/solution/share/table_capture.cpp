@@ -10,7 +10,7 @@
 #include <cmath>
 #include <utility>
 
-#include "appearance/interface_colors.h"
+#include "typeset/math_painter.h"
 
 namespace tavi {
 
@@ -134,18 +134,17 @@ QCoro::Task<QImage> tableViewScreenshot(PicturedTable table, CaptureOptions opti
   const double margin = options.margin;
   const double scale = pictureScale(content.grownBy({margin, margin, margin, margin}),
                                     std::max(leastScale, qGuiApp->devicePixelRatio()));
-  const RowPalette palette = RowPalette::current();
-  std::vector<QImage> pictures;
-  for (Piece& piece : pieces) {
+  for (const Piece& piece : pieces)
     if (piece.painter && piece.painter->settlingTime().count() > 0)
       co_await QCoro::sleepFor(piece.painter->settlingTime());
-    pictures.push_back(picture(piece, scale, palette));
-    piece.painter.reset();
-    co_await pace.breath();
-  }
-  const QFuture<QImage> whole = QtConcurrent::run(
-      [pictures = std::move(pictures), frame = static_cast<int>(margin * scale),
-       ground = palette.page]() mutable { return framed(mergedImage(std::move(pictures)), frame, ground); });
+  typeset::readMathFont();
+  const QFuture<QImage> whole =
+      QtConcurrent::run([pieces = std::move(pieces), scale, frame = static_cast<int>(margin * scale),
+                         palette = RowPalette::current()]() mutable {
+        std::vector<QImage> pictures;
+        for (Piece& piece : pieces) pictures.push_back(picture(std::exchange(piece, {}), scale, palette));
+        return framed(mergedImage(std::move(pictures)), frame, palette.page);
+      });
   co_return co_await whole;
 }
 

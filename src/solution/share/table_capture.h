@@ -64,8 +64,8 @@ QImage framed(const QImage& image, int margin, const QColor& ground);
 
 /// One long picture of the whole table, rows that are out of sight included: from the top the table's header,
 /// then each section's header, rows and footer. All rows are as wide as the widest needs to be shown whole,
-/// and each is given the time it asks for. The table on the screen is not touched. Events are handled between
-/// the rows; main thread only. Null for an empty table.
+/// and each is given the time it asks for. The table on the screen is not touched. Called in the main thread,
+/// which handles events between making two rows and while all are painted. Null for an empty table.
 QCoro::Task<QImage> tableViewScreenshot(PicturedTable table, CaptureOptions options = {});
 
 }  // namespace tavi
