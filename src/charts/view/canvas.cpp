@@ -61,10 +61,7 @@ void drawCrispLine(QPainter& painter, QPointF from, QPointF to, double width, co
                       isLevel ? corner.y() + thickness : std::round(device.bottom()));
     exact = toDevice.inverted().mapRect(QRectF(corner, end));
   }
-  const bool isSmooth = painter.testRenderHint(QPainter::Antialiasing);
-  painter.setRenderHint(QPainter::Antialiasing, false);
   painter.fillRect(exact, color);
-  painter.setRenderHint(QPainter::Antialiasing, isSmooth);
 }
 
 void drawJoined(QPainter& painter, std::span<const QPointF> points, const QColor& color, double width) {
