@@ -156,6 +156,8 @@ DTTextFieldItem {
         Rectangle {
             id: caret
 
+            objectName: "caret"
+
             readonly property rect place: input.cursorRectangle
 
             x: place.x
@@ -169,6 +171,7 @@ DTTextFieldItem {
 
             function show() {
                 opacity = 1;
+                blinking.beatsLeft = 20;
                 if (visible && blinking.interval > 0)
                     blinking.restart();
                 else
@@ -176,13 +179,20 @@ DTTextFieldItem {
             }
         }
 
-        // A timer and no animation, which would draw sixty times a second to change something twice.
+        // A timer and no animation, which would draw sixty times a second to change something twice. Ten seconds
+        // after the last key it stands still, so that the processor can sleep.
         Timer {
             id: blinking
 
+            property int beatsLeft
+
             interval: Application.styleHints.cursorFlashTime / 2
             repeat: true
-            onTriggered: caret.opacity = 1 - caret.opacity
+            onTriggered: {
+                caret.opacity = 1 - caret.opacity;
+                if (--beatsLeft === 0)
+                    stop();
+            }
         }
     }
 

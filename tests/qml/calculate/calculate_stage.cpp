@@ -1,8 +1,6 @@
 #include "calculate_stage.h"
 
-#include <QGuiApplication>
 #include <QQmlContext>
-#include <QStyleHints>
 
 #include <QtQml/qqmlextensionplugin.h>
 #include <QtQuickTest/quicktest.h>

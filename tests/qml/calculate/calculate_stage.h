@@ -1,9 +1,11 @@
 #pragma once
 
+#include <QGuiApplication>
 #include <QObject>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QStringList>
+#include <QStyleHints>
 #include <QTemporaryDir>
 #include <memory>
 
@@ -27,6 +29,9 @@ class CalculateStage : public QObject {
   Q_INVOKABLE QString drawing(const QString& name) {
     return QString::fromUtf8(ResourceBundle::main().picture(name).value_or(QByteArray()));
   }
+
+  /// How long a caret takes to go and come back, in milliseconds.
+  Q_INVOKABLE void setCaretFlashTime(int time) { QGuiApplication::styleHints()->setCursorFlashTime(time); }
 
   QStringList toasts() const { return toasts_; }
   int records() const { return static_cast<int>(store_.calculations().size()); }

@@ -188,6 +188,25 @@ Item {
             compare(caretPixels(), 0);
         }
 
+        // A caret that blinked for ever would keep the processor awake.
+        function test_caret_blinks_for_a_while() {
+            const flashTime = Qt.styleHints.cursorFlashTime;
+            stage.setCaretFlashTime(20);
+            tap("baseField");
+            const caret = findChild(item("baseField"), "caret");
+            let beats = 0;
+            const count = () => ++beats;
+            caret.opacityChanged.connect(count);
+            tryVerify(() => beats >= 19);
+            wait(300);
+            tryCompare(caret, "opacity", 1);
+            const before = beats;
+            wait(100);
+            compare(beats, before);
+            caret.opacityChanged.disconnect(count);
+            stage.setCaretFlashTime(flashTime);
+        }
+
         // The manual explains this keypad, so its drawing has the same keys in the same places.
         function test_the_manual_draws_the_keys_as_they_are() {
             const drawn = stage.drawing("qrx_info").match(/font-size="18"[^>]*>.</g).map(key => key.slice(-2, -1).replace("\u2212", "-"));
