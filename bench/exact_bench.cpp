@@ -132,18 +132,25 @@ std::string shown(const std::string& text) {
   return text.size() <= longest ? text : text.substr(0, longest) + "...";
 }
 
-// The dearest of many tasks, and what all of them take of memory.
+double timeOf(const Example& task) {
+  const double start = processorMilliseconds();
+  benchmark::DoNotOptimize(exact::exactValue(task.mode, task.first, task.second));
+  return processorMilliseconds() - start;
+}
+
+// The dearest of many tasks, and what all of them take of memory. The least time of several runs of each that
+// seems dear is that of the task itself.
 void dearest(benchmark::State& state) {
   constexpr int tasks = 2000;
+  constexpr int furtherRuns = 4;
   const double before = peakMegabytes();
   double most = 0;
   for (auto _ : state) {
     Hostile hostile;
     for (int count = 0; count < tasks; ++count) {
       const Example task = hostile.task();
-      const double start = processorMilliseconds();
-      benchmark::DoNotOptimize(exact::exactValue(task.mode, task.first, task.second));
-      const double time = processorMilliseconds() - start;
+      double time = timeOf(task);
+      for (int run = 0; run < furtherRuns && time > most; ++run) time = std::min(time, timeOf(task));
       if (time > most)
         state.SetLabel(shown(task.first) + (task.mode == Mode::power ? " of " : " root of ") +
                        shown(task.second));

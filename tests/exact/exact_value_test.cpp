@@ -90,12 +90,13 @@ TEST(ExactValue, TellsTheEndsOfLargeWholeNumbers) {
 }
 
 TEST(PowerText, IsTheSameInDecimalAsConverted) {
-  const std::string limbs = "1" + std::string(32, '0');  // ends in zeros at the edges of the limbs
-  for (const auto& [base, exponent] : std::vector<std::pair<std::string, slong>>{{"2", 100'001},
-                                                                                 {"9999999999999999", 4'001},
-                                                                                 {limbs, 3'000},
-                                                                                 {limbs + "1", 2'000},
-                                                                                 {"7", 131'071}}) {
+  const std::string places = "1" + std::string(300, '0');  // ends in zeros at the edge of a place
+  for (const auto& [base, exponent] :
+       std::vector<std::pair<std::string, slong>>{{"2", 100'001},
+                                                  {std::string(300, '9'), 201},
+                                                  {places, 300},
+                                                  {places + std::string(300, '0') + "1", 200},
+                                                  {"7", 131'071}}) {
     std::array<Factor, 2> factors{Factor{0, exponent}, Factor{11, 513}};
     fmpz_set_str(factors[0].base, base.c_str(), 10);
     Integer product(1);
