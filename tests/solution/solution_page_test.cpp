@@ -279,6 +279,27 @@ TEST_F(SolutionPageTest, TheLastRowCanBeScrolledClearOfTheButtons) {
   EXPECT_LE(last->mapToScene({0, last->height()}).y(), button->mapToScene({}).y());
 }
 
+TEST_F(SolutionPageTest, OnlyRowsThatAreInSightOrNextToItAreThere) {
+  constexpr int rows = 60;
+  constexpr double rowHeight = 206;
+  constexpr double prepared = 320;  // above and below what is in sight
+  show({formulaStep("Step", "1")}, ChartRows(rows, {std::make_shared<UnitCircleChartData>(
+                                                       450, 7.853981633974483, 90, 1, Quadrant::first)}));
+  auto* content = table().property("contentItem").value<QQuickItem*>();
+  qsizetype most = 0;
+  for (double y = 0; y < rows * rowHeight; y += table().height() / 2) {
+    table().setProperty("contentY", y);
+    window.grabWindow();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    qsizetype charts = 0;
+    for (const QQuickItem* row : content->childItems())
+      charts += row->findChild<QQuickItem*>("chart") ? 1 : 0;
+    most = std::max(most, charts);
+  }
+  EXPECT_GE(most, table().height() / rowHeight);
+  EXPECT_LE(most, (table().height() + 2 * prepared) / rowHeight + 2);
+}
+
 TEST_F(SolutionPageTest, AChartIsAsHighAsItsRatioSaysAndStartsHalfASecondAfterItComesIntoSight) {
   // Seven rows are 700 high: the chart begins under the edge of the table, where the list has prepared it.
   show(SolutionSteps(7, formulaStep("Step", "1")),
