@@ -121,6 +121,45 @@ TEST(ExactSheet, ShowsAsManyDigitsAsWanted) {
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\\sqrt{2}"));
 }
 
+TEST_F(SolutionPageTest, TheExactSheetIsGoneThroughByKey) {
+  const SolutionSteps steps{formulaStep("Result", "\\sqrt{2} = 1.41421356237")};
+  const exact::AccountQuestion question{Mode::root, "", "2", {}};
+  SolutionViewController::showSolution(tabs.get(), steps, ChartRows{}, QStringLiteral("qrx_info"),
+                                       std::nullopt, 100, question);
+  ASSERT_TRUE(QTest::qWaitFor([this] {
+    window.grabWindow();
+    return solution->hasExactValue();
+  }));
+  window.grabWindow();
+  auto* button = cells().back()->findChild<QQuickItem*>("exactButton");
+  ASSERT_TRUE(button);
+  button->forceActiveFocus();
+  QTest::keyClick(&window, Qt::Key_Space);
+  const auto focused = [this] {
+    return window.activeFocusItem() ? window.activeFocusItem()->objectName() : QString();
+  };
+  const auto press = [this](Qt::Key key) { QTest::keyClick(&window, key); };
+  ASSERT_TRUE(QTest::qWaitFor([&] { return focused() == "copyExactLatex"; }));
+  for (const char* next : {"copyExactText", "closeExactSheet", "moreDigits", "copyExactLatex"}) {
+    press(Qt::Key_Tab);
+    EXPECT_EQ(focused(), QLatin1String(next));
+  }
+
+  // The button that leads no further hands on to the one that leads back.
+  press(Qt::Key_Backtab);
+  const auto* sheet = qobject_cast<ExactSheetController*>(root->presentedController());
+  for (int i = 0; i < 6; ++i) press(Qt::Key_Space);
+  EXPECT_FALSE(sheet->hasMoreDigits());
+  EXPECT_EQ(focused(), "fewerDigits");
+  for (int i = 0; i < 6; ++i) press(Qt::Key_Return);
+  EXPECT_FALSE(sheet->hasFewerDigits());
+  EXPECT_EQ(focused(), "moreDigits");
+
+  press(Qt::Key_Escape);
+  EXPECT_TRUE(QTest::qWaitFor([&] { return focused() == "exactButton"; }));
+  EXPECT_FALSE(root->presentedController());
+}
+
 TEST_F(SolutionPageTest, AWideFormulaScrollsSidewaysByKeyToItsEnd) {
   std::string copies;
   for (int i = 0; i < 60; ++i) copies += "\\left( 12 \\right) ";

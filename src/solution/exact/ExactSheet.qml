@@ -31,23 +31,36 @@ Column {
         x: 16
         visible: page.controller.hasMoreDigits || page.controller.hasFewerDigits
 
+        // Where one leads no further the keyboard goes on with the other.
         IconButton {
+            id: fewerDigits
+
             objectName: "fewerDigits"
             enabled: page.controller.hasFewerDigits
             opacity: enabled ? 1 : 0.4
             text: qsTrId("exactFewerDigits")
             tintColor: Theme.accentText
             groundColor: Theme.groupedBackground
-            onClicked: page.controller.showFewerDigits()
+            onClicked: {
+                page.controller.showFewerDigits();
+                if (!enabled)
+                    moreDigits.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
         IconButton {
+            id: moreDigits
+
             objectName: "moreDigits"
             enabled: page.controller.hasMoreDigits
             opacity: enabled ? 1 : 0.4
             text: qsTrId("exactMoreDigits")
             tintColor: Theme.accentText
             groundColor: Theme.groupedBackground
-            onClicked: page.controller.showMoreDigits()
+            onClicked: {
+                page.controller.showMoreDigits();
+                if (!enabled)
+                    fewerDigits.forceActiveFocus(Qt.TabFocusReason);
+            }
         }
     }
 
@@ -58,6 +71,10 @@ Column {
             id: sentence
 
             required property var modelData
+
+            // How far its pieces reach above and below the line that they stand on.
+            readonly property real ascent: Math.max(...Array.from(children, piece => piece.ascent ?? 0))
+            readonly property real descent: Math.max(...Array.from(children, piece => piece.descent ?? 0))
 
             objectName: "sentence"
             x: 24
@@ -72,15 +89,18 @@ Column {
                     id: piece
 
                     required property var modelData
+                    readonly property Item content: modelData.word ? word : formula
+                    readonly property real ascent: content.baselineOffset
+                    readonly property real descent: content.implicitHeight - ascent
 
-                    width: word.text ? word.implicitWidth : Math.min(formula.implicitWidth, sentence.width)
-                    height: Math.max(24, word.text ? word.implicitHeight : formula.implicitHeight)
+                    width: Math.min(content.implicitWidth, sentence.width)
+                    height: Math.max(24, sentence.ascent + sentence.descent)
                     clip: formula.implicitWidth > sentence.width
 
                     Text {
                         id: word
 
-                        anchors.verticalCenter: parent.verticalCenter
+                        y: sentence.ascent - baselineOffset
                         text: piece.modelData.word ?? ""
                         textFormat: Text.PlainText
                         font: Theme.book(16)
@@ -90,7 +110,7 @@ Column {
                     MathLabel {
                         id: formula
 
-                        anchors.verticalCenter: parent.verticalCenter
+                        y: sentence.ascent - baselineOffset
                         width: implicitWidth
                         height: implicitHeight
                         latex: piece.modelData.formula ?? ""

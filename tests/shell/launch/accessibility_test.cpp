@@ -11,6 +11,8 @@
 
 #include "shell/frame/alert_controller.h"
 #include "shell/launch/launch_fixture.h"
+#include "solution/exact/account_library.h"
+#include "solution/exact/exact_sheet_controller.h"
 
 namespace tavi {
 namespace {
@@ -103,6 +105,26 @@ TEST_F(AccessibilityTest, AMessageIsAModalDialogWithNothingBehindIt) {
       Button "Yes")");
   delegate->drawer()->dismissPresented();
   EXPECT_TRUE(QTest::qWaitFor([this] { return has("ListItem \"History\""); })) << "the menu is there again";
+}
+
+TEST_F(AccessibilityTest, AnExactValueIsReadInWords) {
+  const exact::AccountQuestion question{Mode::root, "3", "2", {}};
+  auto sheet = std::make_shared<ExactSheetController>(question, *accountOf(question));
+  sheet->setPage(engine, "solution/exact/ExactSheet.qml");
+  delegate->drawer()->present(sheet);
+  ASSERT_TRUE(QTest::qWaitFor([this] { return has("Button \"copyAsLatex\" focused"); }));
+  EXPECT_EQ(tree().join('\n').toStdString(), R"(Window "Tavi Solver"
+  Pane ""
+  Dialog "exactTitle" modal
+    Pane ""
+      Heading "exactTitle"
+      StaticText "cube root of 2"
+      StaticText "is approximately 1.25992104989487 …"
+      Button "exactFewerDigits" disabled
+      Button "exactMoreDigits"
+      Button "copyAsLatex" focused
+      Button "copyAsText"
+      Button "Cancel")");
 }
 
 TEST_F(AccessibilityTest, EachPartKnowsItsPlace) {
