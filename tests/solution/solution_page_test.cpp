@@ -68,40 +68,6 @@ TEST_F(SolutionPageTest, TheResultOffersTheExactValueAndFalseLinesAreMarked) {
   EXPECT_TRUE(solution->marks().isEmpty() && !solution->hasExactValue());
 }
 
-TEST_F(SolutionPageTest, TheSheetOfTheExactValueNeedsNoPointer) {
-  const SolutionSteps steps{formulaStep("Your Input", "\\sqrt{2}"),
-                            formulaStep("Result", "\\sqrt{2} = 1.41421")};
-  SolutionViewController::showSolution(tabs.get(), steps, ChartRows{}, QStringLiteral("qrx_info"),
-                                       std::nullopt, 100, exact::AccountQuestion{Mode::root, "", "2", {}});
-  ASSERT_TRUE(QTest::qWaitFor([this] {
-    window.grabWindow();
-    return solution->hasExactValue() && cells().back()->findChild<QQuickItem*>("exactButton");
-  }));
-  cells().back()->findChild<QQuickItem*>("exactButton")->forceActiveFocus();
-  QTest::keyClick(&window, Qt::Key_Return);
-  auto* sheet = qobject_cast<ExactSheetController*>(root->presentedController());
-  ASSERT_TRUE(sheet);
-  const auto focused = [this] {
-    const QQuickItem* item = window.activeFocusItem();
-    return item ? item->objectName() : QString();
-  };
-  ASSERT_TRUE(QTest::qWaitFor([&] { return focused() == QLatin1StringView("copyExactLatex"); }));
-  const auto reach = [&](const QString& name) {
-    for (int i = 0; i < 8 && focused() != name; ++i) QTest::keyClick(&window, Qt::Key_Tab);
-    return focused() == name;
-  };
-  for (const char* name : {"copyExactText", "closeExactSheet", "moreDigits"})
-    EXPECT_TRUE(reach(QLatin1StringView(name))) << name;
-  // What has shown all digits is off, and the way goes on from there.
-  for (int i = 0; i < 8 && sheet->hasMoreDigits(); ++i) QTest::keyClick(&window, Qt::Key_Space);
-  EXPECT_FALSE(sheet->hasMoreDigits());
-  EXPECT_TRUE(reach(QStringLiteral("fewerDigits"))) << focused().toStdString();
-  QTest::keyClick(&window, Qt::Key_Space);
-  EXPECT_TRUE(sheet->hasMoreDigits());
-  QTest::keyClick(&window, Qt::Key_Escape);
-  EXPECT_TRUE(QTest::qWaitFor([this] { return root->presentedController() == nullptr; }));
-}
-
 TEST(ExactSheet, ShowsAsManyDigitsAsWanted) {
   const exact::AccountQuestion question{Mode::root, "", "2", {}};
   ExactSheetController sheet(question, *accountOf(question));
