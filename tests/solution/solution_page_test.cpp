@@ -78,11 +78,15 @@ TEST(ExactSheet, ShowsAsManyDigitsAsWanted) {
   EXPECT_FALSE(sheet.hasMoreDigits());
   for (int i = 0; i < 6; ++i) sheet.showFewerDigits();
   EXPECT_EQ(sheet.decimal(), QStringLiteral("\\approx 1.41421356237310\\ldots"));
-  // The note has its three formulas among its words.
-  int formulas = 0;
+  // The note has its three formulas among its words, the last in one piece with the full stop behind it.
+  QStringList formulas;
   const QVariantList pieces = sheet.sentences().constFirst().toMap()["pieces"].toList();
-  for (const QVariant& piece : pieces) formulas += piece.toMap().contains("formula") ? 1 : 0;
-  EXPECT_EQ(formulas, 3);
+  for (const QVariant& piece : pieces)
+    if (const QVariantMap part = piece.toList().constFirst().toMap(); part.contains("formula"))
+      formulas.append(part["formula"].toString());
+  EXPECT_EQ(formulas, QStringList({"x^{2} = 2", "\\sqrt{2}", "-\\sqrt{2}"}));
+  EXPECT_EQ(pieces.constLast().toList().constLast().toMap(), (QVariantMap{{"word", "."}}));
+  EXPECT_EQ(pieces.constLast().toList().size(), 2);
   sheet.copyLatex();
   EXPECT_EQ(QGuiApplication::clipboard()->text(), QStringLiteral("\\sqrt{2}"));
 }

@@ -72,9 +72,9 @@ Column {
 
             required property var modelData
 
-            // How far its pieces reach above and below the line that they stand on.
-            readonly property real ascent: Math.max(...Array.from(children, piece => piece.ascent ?? 0))
-            readonly property real descent: Math.max(...Array.from(children, piece => piece.descent ?? 0))
+            // How far it reaches above and below the line that all of it stands on.
+            readonly property real ascent: Math.max(0, ...Array.from(children, piece => piece.ascent ?? 0))
+            readonly property real descent: Math.max(0, ...Array.from(children, piece => piece.descent ?? 0))
 
             objectName: "sentence"
             x: 24
@@ -85,39 +85,52 @@ Column {
             Repeater {
                 model: sentence.modelData.pieces
 
-                Item {
+                // What stands in one line.
+                Row {
                     id: piece
 
                     required property var modelData
-                    readonly property Item content: modelData.word ? word : formula
-                    readonly property real ascent: content.baselineOffset
-                    readonly property real descent: content.implicitHeight - ascent
+                    readonly property real ascent: Math.max(0, ...Array.from(children, part => part.ascent ?? 0))
+                    readonly property real descent: Math.max(0, ...Array.from(children, part => part.descent ?? 0))
 
-                    width: Math.min(content.implicitWidth, sentence.width)
-                    height: Math.max(24, sentence.ascent + sentence.descent)
-                    clip: formula.implicitWidth > sentence.width
+                    Repeater {
+                        model: piece.modelData
 
-                    Text {
-                        id: word
+                        Item {
+                            id: part
 
-                        y: sentence.ascent - baselineOffset
-                        text: piece.modelData.word ?? ""
-                        textFormat: Text.PlainText
-                        font: Theme.book(16)
-                        color: Theme.label
-                        Accessible.ignored: true
-                    }
-                    MathLabel {
-                        id: formula
+                            required property var modelData
+                            readonly property Item content: modelData.word ? word : formula
+                            readonly property real ascent: content.baselineOffset
+                            readonly property real descent: content.implicitHeight - ascent
 
-                        y: sentence.ascent - baselineOffset
-                        width: implicitWidth
-                        height: implicitHeight
-                        latex: piece.modelData.formula ?? ""
-                        fontSize: 18
-                        textColor: Theme.label
-                        backgroundColor: Theme.groupedBackground
-                        Accessible.ignored: true
+                            width: Math.min(content.implicitWidth, sentence.width)
+                            height: Math.max(24, sentence.ascent + sentence.descent)
+                            clip: content.implicitWidth > width
+
+                            Text {
+                                id: word
+
+                                y: sentence.ascent - baselineOffset
+                                text: part.modelData.word ?? ""
+                                textFormat: Text.PlainText
+                                font: Theme.book(16)
+                                color: Theme.label
+                                Accessible.ignored: true
+                            }
+                            MathLabel {
+                                id: formula
+
+                                y: sentence.ascent - baselineOffset
+                                width: implicitWidth
+                                height: implicitHeight
+                                latex: part.modelData.formula ?? ""
+                                fontSize: 18
+                                textColor: Theme.label
+                                backgroundColor: Theme.groupedBackground
+                                Accessible.ignored: true
+                            }
+                        }
                     }
                 }
             }

@@ -2,8 +2,10 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QTextBoundaryFinder>
 #include <algorithm>
 #include <array>
+#include <map>
 #include <utility>
 
 #include "exact/sentences.h"
@@ -36,36 +38,46 @@ QString wordsOf(std::string_view key) {
   return words == qString(key) ? qString(exact::englishWords(key)) : words;
 }
 
-/// Words that a line may be broken between. Scripts without blanks may be broken at every character.
-void appendWords(QVariantList& pieces, const QString& text) {
-  constexpr char16_t firstIdeograph = 0x2E80;
-  QString word;
-  const auto end = [&] {
-    if (!word.isEmpty()) pieces.append(QVariantMap{{QStringLiteral("word"), std::exchange(word, {})}});
-  };
-  for (const QChar character : text) {
-    word += character == u' ' ? QChar(QChar::Nbsp) : character;
-    if (character == u' ' || character.unicode() >= firstIdeograph) end();
-  }
-  end();
-}
-
+/// A sentence as it is spoken, and as it is set in pieces between which a line may be broken.
 QVariantMap shown(const exact::Sentence& sentence) {
+  constexpr QChar standIn = u'x';  // A line is broken beside a formula where it would be beside a letter.
   const QString words = wordsOf(sentence.key);
-  QVariantList pieces;
+  QString text;
   QString spoken;
-  qsizetype from = 0;
-  for (qsizetype at = words.indexOf(u'%'); at >= 0; at = words.indexOf(u'%', from)) {
+  std::map<qsizetype, QString> formulas;  // by their places in the text
+  for (qsizetype at = 0; at < words.size(); ++at) {
     const auto place = static_cast<std::size_t>(words.mid(at + 1, 1).toInt() - 1);
-    if (place >= sentence.formulas.size()) break;
-    const QString formula = qString(sentence.formulas[place]);
-    appendWords(pieces, words.mid(from, at - from));
-    pieces.append(QVariantMap{{QStringLiteral("formula"), formula}});
-    spoken += words.mid(from, at - from) + typeset::spokenText(formula);
-    from = at + 2;
+    if (words[at] == u'%' && place < sentence.formulas.size()) {
+      const QString& formula = formulas[text.size()] = qString(sentence.formulas[place]);
+      text += standIn;
+      spoken += typeset::spokenText(formula);
+      ++at;
+    } else {
+      text += words[at];
+      spoken += words[at];
+    }
   }
-  appendWords(pieces, words.mid(from));
-  spoken += words.mid(from);
+
+  QVariantList pieces;
+  QVariantList piece;
+  QString word;
+  const auto endWord = [&] {
+    if (!word.isEmpty()) piece.append(QVariantMap{{QStringLiteral("word"), std::exchange(word, {})}});
+  };
+  QTextBoundaryFinder breaks(QTextBoundaryFinder::Line, text);
+  for (qsizetype at = 0; at < text.size(); ++at) {
+    if (const auto formula = formulas.find(at); formula != formulas.end()) {
+      endWord();
+      piece.append(QVariantMap{{QStringLiteral("formula"), formula->second}});
+    } else {
+      // A blank at the end of a text has no width.
+      word += text[at] == u' ' ? QChar(QChar::Nbsp) : text[at];
+    }
+    breaks.setPosition(at + 1);
+    if (!breaks.isAtBoundary()) continue;
+    endWord();
+    pieces.append(QVariant(std::exchange(piece, {})));
+  }
   return {{QStringLiteral("spoken"), spoken}, {QStringLiteral("pieces"), pieces}};
 }
 

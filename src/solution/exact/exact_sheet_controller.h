@@ -33,7 +33,8 @@ class ExactSheetController : public tavi::ViewController {
   bool hasMoreDigits() const;
   bool hasFewerDigits() const;
 
-  /// What there is to say, each sentence as {"spoken": text, "pieces": [{"word"} or {"formula"}, …]}.
+  /// What there is to say, each sentence as {"spoken": text, "pieces": [[{"word"} or {"formula"}, …], …]},
+  /// with pieces between which a line may be broken.
   QVariantList sentences() const;
 
   Q_INVOKABLE void showMoreDigits();
