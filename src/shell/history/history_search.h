@@ -1,15 +1,35 @@
 #pragma once
 
+#include <QHash>
 #include <QList>
 #include <QString>
 #include <QStringList>
 #include <chrono>
 #include <string>
-#include <unordered_map>
 
 #include "shell/calc_manager.h"
 
 namespace tavi {
+
+/// Tasks as they are spoken in the user's language, folded for a search. Those that differ in nothing but
+/// their longer numbers share what was worked out for the first of them.
+class SpokenTasks {
+ public:
+  /// Appends how the line is spoken.
+  void append(const QString& latex, std::u16string& text);
+
+ private:
+  /// Words, with a number of the line behind them or, at the end, none.
+  struct Piece {
+    QString words;
+    qsizetype number;
+  };
+
+  static QList<Piece> piecesOf(const QString& line, qsizetype numbers);
+
+  QHash<QString, QList<Piece>> known_;  ///< By the line with placeholders; empty for one that is not shared.
+  QString line_;
+};
 
 /// Finds tasks of the history by words that all stand in what was typed, or in how the task is spoken in the
 /// user's language; signs of print and plain text, letters of either case and brackets or none are the same.
@@ -36,14 +56,16 @@ class HistorySearch {
   void forget();
 
  private:
-  QString wordsOf(const Calculation& calculation);
+  void append(const Calculation& calculation);
+  qsizetype begin(qsizetype index) const { return index == 0 ? 0 : ends_[index - 1]; }
 
   const CalcManager& store_;
   QStringList words_;
-  qsizetype next_ = 0;  ///< The first record that was not looked at.
-  QStringList texts_;   ///< Of the records as far as they are worked out.
+  qsizetype next_ = 0;     ///< The first record that was not looked at.
+  std::u16string text_;    ///< Of the records as far as they are worked out, one behind the other.
+  QList<qsizetype> ends_;  ///< Of each of them in it.
   QList<qsizetype> found_;
-  std::unordered_map<std::string_view, std::string> phrases_;  ///< By their keys.
+  SpokenTasks spoken_;
 };
 
 }  // namespace tavi

@@ -1,5 +1,6 @@
 #include "shell/history/typed_text.h"
 
+#include <QStringBuilder>
 #include <algorithm>
 
 #include "input/mode.h"
@@ -8,20 +9,20 @@
 namespace tavi {
 namespace {
 
-bool isDigits(const QString& text) {
-  return std::ranges::all_of(text, [](QChar each) { return u'0' <= each && each <= u'9'; });
+bool isDigit(QChar each) {
+  return u'0' <= each && each <= u'9';
 }
 
 /// In brackets where a sign of calculation or a factor would part it from the power.
 QString bracketed(const QString& number) {
-  const bool isWhole = number.size() == 1 || isDigits(QString(number).remove(u'.'));
-  return isWhole ? number : u'(' + number + u')';
+  const auto isOfNumber = [](QChar each) { return isDigit(each) || each == u'.'; };
+  return number.size() == 1 || std::ranges::all_of(number, isOfNumber) ? number : u'(' % number % u')';
 }
 
 QString raised(const QString& digits) {
   constexpr QStringView signs = u"⁰¹²³⁴⁵⁶⁷⁸⁹";
-  QString result;
-  for (const QChar digit : digits) result += signs[digit.unicode() - u'0'];
+  QString result = digits;
+  for (QChar& digit : result) digit = signs[digit.unicode() - u'0'];
   return result;
 }
 
@@ -32,8 +33,9 @@ QString typedText(const Calculation& calculation) {
   const QString second = calculation.inputParameters.value(QStringLiteral("xTextField"));
   if (first.isEmpty() && second.isEmpty()) return {};
   const int mode = calculation.setupParameter.value(CalculateViewController::modeKey).toInt();
-  if (modeOf(mode) != Mode::root) return bracketed(second) + u'^' + bracketed(first);
-  const QString sign = isDigits(first) ? raised(first) + u'√' : QStringLiteral("√[") + first + u']';
+  if (modeOf(mode) != Mode::root) return bracketed(second) % u'^' % bracketed(first);
+  const QString sign =
+      std::ranges::all_of(first, isDigit) ? raised(first) + u'√' : QStringLiteral("√[") + first + u']';
   return sign + bracketed(second);
 }
 

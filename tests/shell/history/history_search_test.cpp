@@ -10,6 +10,7 @@
 #include "shell/frame/view_manager.h"
 #include "shell/history/history_fixture.h"
 #include "shell/history/typed_text.h"
+#include "typeset/math_label.h"
 
 namespace tavi {
 namespace {
@@ -56,6 +57,32 @@ TEST_F(HistoryScreenTest, FindsWhatWasTypedOrIsSpoken) {
     search.begin(each.query);
     while (!search.isThrough()) search.goOn(std::chrono::milliseconds(1));
     EXPECT_EQ(search.found(), each.found) << each.query;
+  }
+}
+
+TEST_F(HistoryScreenTest, FindsEachTaskAsItIsSpokenThoughTasksShareWords) {
+  store.clearCalculations();
+  const QString many = QStringLiteral("10+11+12+13+14+15+16+17+18+19+").repeated(2);
+  const QStringList lines{R"(\frac{12}{34}^{-56})",
+                          R"(\frac{34}{12}^{-56})",
+                          R"(\frac{404}{40}^{-41})",
+                          R"(\sqrt[12]{\frac{345}{4}})",
+                          R"(\sqrt[3]{41\,40})",
+                          R"(x^30 \cdot 4_{77})",
+                          R"(\left( 2,75\pi \right)^{0.125})",
+                          many + u'1',
+                          many + QStringLiteral("98")};
+  for (const QString& each : lines) store.addCalculation(Calculation({}, each, {}, {}));
+  for (const char* language : {"de", "ja", "hi"}) {
+    ASSERT_TRUE(loadTranslations({language}));
+    HistorySearch search(store);
+    for (qsizetype i = 0; i < lines.size(); ++i) {
+      search.begin(typeset::spokenText(lines[i]));
+      while (!search.isThrough()) search.goOn(std::chrono::milliseconds(1));
+      EXPECT_TRUE(search.found().contains(lines.size() - 1 - i)) << language << lines[i].toStdString();
+    }
+    search.remove(0);
+    EXPECT_FALSE(search.found().contains(0));
   }
 }
 
