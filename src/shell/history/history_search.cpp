@@ -52,10 +52,6 @@ QString folded(const QString& text) {
   return QString::fromStdU16String(result);
 }
 
-bool isDigit(QChar each) {
-  return u'0' <= each && each <= u'9';
-}
-
 std::u16string_view asView(QStringView text) {
   return {text.utf16(), static_cast<std::size_t>(text.size())};
 }

@@ -7,11 +7,12 @@
 #include "shell/calculate_view_controller.h"
 
 namespace tavi {
-namespace {
 
 bool isDigit(QChar each) {
   return u'0' <= each && each <= u'9';
 }
+
+namespace {
 
 /// In brackets where a sign of calculation or a factor would part it from the power.
 QString bracketed(const QString& number) {
