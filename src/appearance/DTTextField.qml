@@ -156,10 +156,9 @@ DTTextFieldItem {
         Rectangle {
             id: caret
 
-            objectName: "caret"
-
             readonly property rect place: input.cursorRectangle
 
+            objectName: "caret"
             x: place.x
             y: place.y
             width: 2
@@ -179,8 +178,8 @@ DTTextFieldItem {
             }
         }
 
-        // A timer and no animation, which would draw sixty times a second to change something twice. Ten seconds
-        // after the last key it stands still, so that the processor can sleep.
+        // A timer and no animation, which would draw sixty times a second to change something twice. After so many
+        // beats, ten seconds as most desktops have it, the caret stands still and the processor can sleep.
         Timer {
             id: blinking
 

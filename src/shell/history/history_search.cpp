@@ -2,7 +2,6 @@
 
 #include <QDeadlineTimer>
 #include <QMap>
-#include <QStringBuilder>
 #include <QVarLengthArray>
 #include <algorithm>
 
@@ -122,7 +121,7 @@ void HistorySearch::goOn(std::chrono::milliseconds time) {
   for (; next_ < calculations.size(); ++next_) {
     if (next_ % stride == stride - 1 && deadline.hasExpired()) return;
     if (next_ == ends_.size()) append(calculations[next_]);
-    const QStringView text = QStringView(text_).sliced(begin(next_), ends_[next_] - begin(next_));
+    const QStringView text = QStringView(text_).sliced(startOf(next_), ends_[next_] - startOf(next_));
     const auto isThere = [text](const QString& word) { return text.contains(word); };
     if (isOn() && std::ranges::all_of(words_, isThere)) found_.append(next_);
   }
@@ -130,8 +129,8 @@ void HistorySearch::goOn(std::chrono::milliseconds time) {
 
 void HistorySearch::remove(qsizetype index) {
   if (index < ends_.size()) {
-    const qsizetype length = ends_[index] - begin(index);
-    text_.erase(begin(index), length);
+    const qsizetype length = ends_[index] - startOf(index);
+    text_.erase(startOf(index), length);
     ends_.removeAt(index);
     for (qsizetype each = index; each < ends_.size(); ++each) ends_[each] -= length;
   }

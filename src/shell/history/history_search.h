@@ -57,7 +57,7 @@ class HistorySearch {
 
  private:
   void append(const Calculation& calculation);
-  qsizetype begin(qsizetype index) const { return index == 0 ? 0 : ends_[index - 1]; }
+  qsizetype startOf(qsizetype index) const { return index == 0 ? 0 : ends_[index - 1]; }
 
   const CalcManager& store_;
   QStringList words_;
