@@ -3,9 +3,13 @@
 #include <QImage>
 #include <QList>
 #include <QPainter>
+#include <QQuickWindow>
+#include <QSGImageNode>
+#include <algorithm>
 #include <cmath>
+#include <deque>
+#include <memory>
 #include <numeric>
-#include <optional>
 #include <utility>
 
 namespace tavi {
@@ -93,16 +97,44 @@ QImage drawn(const Look& look, double inset) {
   return colored;
 }
 
-/// The last one again where it looks the same: a keypad has the shadow of one key many times.
-QImage lastOrDrawn(const Look& look, double inset) {
-  static thread_local std::optional<std::pair<Look, QImage>> last;
-  if (!last || last->first != look) last.emplace(look, drawn(look, inset));
-  return last->second;
+/// The whole picture of a shadow, pieced together from a smaller one.
+QImage pieced(const Look& look, double extent) {
+  const int end = static_cast<int>(std::ceil((2 * extent + look.cornerRadius) * look.ratio));
+  const Axis across(look.size.width(), end);
+  const Axis down(look.size.height(), end);
+  const QSize smallSize(across.smallLength(), down.smallLength());
+  const QImage small = drawn({look.shadow, look.cornerRadius, look.ratio, smallSize}, extent);
+  if (small.isNull() || smallSize == look.size) return small;
+
+  QImage picture(look.size, small.format());
+  QPainter painter(&picture);
+  painter.setCompositionMode(QPainter::CompositionMode_Source);
+  for (int row = 0; row < down.partCount(); ++row) {
+    const auto [y, height] = down.part(row, look.size.height());
+    const auto [sourceY, sourceHeight] = down.part(row, smallSize.height());
+    for (int column = 0; column < across.partCount(); ++column) {
+      const auto [x, width] = across.part(column, look.size.width());
+      const auto [sourceX, sourceWidth] = across.part(column, smallSize.width());
+      painter.drawImage(QRect(x, y, width, height), small,
+                        QRect(sourceX, sourceY, sourceWidth, sourceHeight));
+    }
+  }
+  return picture;
+}
+
+/// One of the last again where it looks the same: all keys of a keypad share the pixels of their shadow.
+QImage shared(const Look& look, double extent) {
+  static thread_local std::deque<std::pair<Look, QImage>> last;
+  const auto known = std::ranges::find(last, look, &std::pair<Look, QImage>::first);
+  if (known != last.end()) return known->second;
+  if (last.size() == 4) last.pop_front();
+  return last.emplace_back(look, pieced(look, extent)).second;
 }
 
 }  // namespace
 
-ShadowItem::ShadowItem(QQuickItem* parent) : QQuickPaintedItem(parent) {
+ShadowItem::ShadowItem(QQuickItem* parent) : QQuickItem(parent) {
+  setFlag(ItemHasContents);
   connect(this, &ShadowItem::changed, this, [this] { update(); });
 }
 
@@ -123,27 +155,32 @@ double ShadowItem::extent() const {
   return std::ceil(3 * shadow_.radius + offset);
 }
 
-void ShadowItem::paint(QPainter* painter) {
-  const double ratio = painter->device()->devicePixelRatio();
+QImage ShadowItem::picture(double ratio) const {
   const QSize pixels = (size() * ratio).toSize();
-  const int end = static_cast<int>(std::ceil((2 * extent() + cornerRadius_) * ratio));
-  const Axis across(pixels.width(), end);
-  const Axis down(pixels.height(), end);
-  const QSize smallSize(across.smallLength(), down.smallLength());
-  const QImage image = lastOrDrawn({shadow_, cornerRadius_, ratio, smallSize}, extent());
-  if (image.isNull()) return;
+  return pixels.isEmpty() ? QImage() : shared({shadow_, cornerRadius_, ratio, pixels}, extent());
+}
 
-  painter->scale(1 / ratio, 1 / ratio);
-  for (int row = 0; row < down.partCount(); ++row) {
-    const auto [y, height] = down.part(row, pixels.height());
-    const auto [sourceY, sourceHeight] = down.part(row, smallSize.height());
-    for (int column = 0; column < across.partCount(); ++column) {
-      const auto [x, width] = across.part(column, pixels.width());
-      const auto [sourceX, sourceWidth] = across.part(column, smallSize.width());
-      painter->drawImage(QRect(x, y, width, height), image,
-                         QRect(sourceX, sourceY, sourceWidth, sourceHeight));
-    }
+QSGNode* ShadowItem::updatePaintNode(QSGNode* previous, UpdatePaintNodeData* /*data*/) {
+  const QImage image = picture(window()->effectiveDevicePixelRatio());
+  std::unique_ptr<QSGImageNode> node(static_cast<QSGImageNode*>(previous));
+  if (image.isNull()) return nullptr;
+  if (!node) {
+    node.reset(window()->createImageNode());
+    node->setOwnsTexture(true);
   }
+  node->setTexture(window()->createTextureFromImage(image));
+  node->setRect(boundingRect());
+  return node.release();
+}
+
+void ShadowItem::geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) {
+  QQuickItem::geometryChange(newGeometry, oldGeometry);
+  if (newGeometry.size() != oldGeometry.size()) update();
+}
+
+void ShadowItem::itemChange(ItemChange change, const ItemChangeData& value) {
+  QQuickItem::itemChange(change, value);
+  if (change == ItemDevicePixelRatioHasChanged) update();
 }
 
 }  // namespace tavi

@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QQuickPaintedItem>
+#include <QImage>
+#include <QQuickItem>
 
 #include "appearance/view.h"
 
 namespace tavi {
 
 /// Paints the shadow of a rounded rectangle: put behind an item and given its size, it reaches over the
-/// item's edges as far as the shadow does. It paints with both renderers, unlike layer effects.
+/// item's edges as far as the shadow does. It shows with both renderers, unlike layer effects.
 ///
 ///     Shadow { target: button; shadow: button.View.shadow; cornerRadius: 8 }
-class ShadowItem : public QQuickPaintedItem {
+class ShadowItem : public QQuickItem {
   Q_OBJECT
   QML_NAMED_ELEMENT(Shadow)
   Q_PROPERTY(tavi::LayerShadow shadow READ shadow WRITE setShadow NOTIFY changed)
@@ -27,10 +28,16 @@ class ShadowItem : public QQuickPaintedItem {
   void setCornerRadius(double radius);
   double extent() const;
 
-  void paint(QPainter* painter) override;
+  /// The shadow at so many pixels for a unit; null where nothing is to be seen.
+  QImage picture(double ratio) const;
 
  signals:
   void changed();
+
+ protected:
+  QSGNode* updatePaintNode(QSGNode* previous, UpdatePaintNodeData* data) override;
+  void geometryChange(const QRectF& newGeometry, const QRectF& oldGeometry) override;
+  void itemChange(ItemChange change, const ItemChangeData& value) override;
 
  private:
   LayerShadow shadow_;
