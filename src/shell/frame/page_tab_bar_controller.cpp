@@ -1,8 +1,10 @@
 #include "shell/frame/page_tab_bar_controller.h"
 
+#include <QEvent>
 #include <QPointer>
 #include <QQuickWindow>
-#include <QTimer>
+#include <algorithm>
+#include <array>
 #include <utility>
 
 #include "number/fatal_stop.h"
@@ -82,11 +84,22 @@ void AppPageTabBarController::tapTab(int index) {
   if (tabItems().at(index)->isEnabled()) select(index);
 }
 
+// The other pages are made once the user begins, after the frame that answers this, so that neither the start
+// nor opening them takes the time.
 void AppPageTabBarController::viewDidAppear() {
-  // The other pages are made while the user looks at the open one, so that opening them takes no time.
-  QTimer::singleShot(0, this, [this] {
+  if (view() && view()->window()) view()->window()->installEventFilter(this);
+}
+
+bool AppPageTabBarController::eventFilter(QObject* watched, QEvent* event) {
+  constexpr std::array beginnings{QEvent::KeyPress, QEvent::MouseButtonPress, QEvent::TouchBegin};
+  if (std::ranges::find(beginnings, event->type()) == beginnings.end()) return false;
+  watched->removeEventFilter(this);
+  const auto makePages = [this] {
     for (const auto& page : viewControllers_) page->view();
-  });
+  };
+  connect(qobject_cast<QQuickWindow*>(watched), &QQuickWindow::frameSwapped, this, makePages,
+          static_cast<Qt::ConnectionType>(Qt::QueuedConnection | Qt::SingleShotConnection));
+  return false;
 }
 
 }  // namespace tavi

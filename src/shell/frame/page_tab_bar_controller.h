@@ -41,6 +41,7 @@ class AppPageTabBarController : public tavi::ViewController {
 
  protected:
   void viewDidAppear() override;
+  bool eventFilter(QObject* watched, QEvent* event) override;
   std::vector<ViewController*> visibleChildren() const override;
 
  private:

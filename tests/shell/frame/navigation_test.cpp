@@ -1,4 +1,5 @@
 #include <QCoreApplication>
+#include <QQuickWindow>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -42,9 +43,22 @@ class NavigationTest : public testing::Test {
   std::shared_ptr<AppNavigationDrawerController> drawer;
 };
 
-TEST_F(NavigationTest, BringsUpTheOpenPageAndMakesTheOtherOneMeanwhile) {
-  buildTree();
+TEST_F(NavigationTest, BringsUpTheOpenPageAndMakesTheOtherOneOnceTheUserBegins) {
+  QQuickWindow window;
+  tabs = std::make_shared<AppPageTabBarController>(
+      std::vector<std::shared_ptr<ViewController>>{page("input"), page("solution")});
+  tabs->setView(std::make_unique<QQuickItem>());
+  tabs->view()->setParentItem(window.contentItem());
+  tabs->beginAppearance();
+  tabs->endAppearance();
   EXPECT_EQ(takeEvents(), QStringList({"input loads", "input will appear", "input did appear"}));
+  emit window.frameSwapped();
+  QCoreApplication::processEvents();
+  EXPECT_EQ(takeEvents(), QStringList());
+
+  QTest::keyClick(&window, Qt::Key_2);
+  EXPECT_EQ(takeEvents(), QStringList()) << "the frame that answers the key comes first";
+  emit window.frameSwapped();
   QCoreApplication::processEvents();
   EXPECT_EQ(takeEvents(), QStringList({"solution loads"}));
 }
