@@ -51,7 +51,8 @@ QString spokenLanguage() {
 }
 
 QStringList translatedLanguages() {
-  QStringList languages = QDir(folder).entryList({namePrefix + u'*'}, QDir::Files, QDir::Name);
+  QStringList languages = QDir(folder).entryList(QDir::Files, QDir::Name);
+  languages.removeIf([](const QString& name) { return !name.startsWith(namePrefix); });
   for (QString& name : languages) name = name.mid(namePrefix.size()).section(u'.', 0, 0).replace(u'_', u'-');
   return languages;
 }
