@@ -12,5 +12,5 @@ Rectangle {
     visible: control && control.activeFocus && KeyboardUse.isCurrent
     color: "transparent"
     border.width: 2
-    border.color: Theme.legible(Theme.focus, ground)
+    border.color: visible ? Theme.legible(Theme.focus, ground) : "transparent"
 }

@@ -28,7 +28,7 @@ SegmentedControl {
                 anchors.centerIn: parent
                 anchors.horizontalCenterOffset: -5
                 text: "x"
-                font: Theme.medium(26)
+                font: Theme.medium(22)
                 color: power.segment.color
             }
             Text {
@@ -36,7 +36,7 @@ SegmentedControl {
                 anchors.bottom: powerBase.verticalCenter
                 anchors.leftMargin: 1
                 text: "n"
-                font: Theme.medium(16)
+                font: Theme.medium(14)
                 color: powerBase.color
             }
         }
@@ -75,7 +75,7 @@ SegmentedControl {
                 anchors.baseline: sign.bottom
                 anchors.baselineOffset: -3
                 text: "x"
-                font: Theme.medium(24)
+                font: Theme.medium(22)
                 color: sign.color
             }
         }
