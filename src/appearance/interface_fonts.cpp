@@ -55,7 +55,7 @@ QFont InterfaceFont::heavy(int size) {
 }
 
 QFont InterfaceFont::icons(int size) {
-  static const QFont font = loaded(QStringLiteral("materialdesignicons-webfont.ttf"), QFont::Normal);
+  static const QFont font = loaded(QStringLiteral("icons.ttf"), QFont::Normal);
   return sized(font, size);
 }
 
