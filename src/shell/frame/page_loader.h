@@ -2,13 +2,17 @@
 
 #include <QQmlEngine>
 #include <QString>
+#include <QUrl>
 #include <QVariantMap>
 #include <memory>
 
 namespace tavi {
 
-/// Makes the root object of a QML file of the module, such as "shell/frame/AppWindow.qml", with its required
-/// properties. A file that does not load is a fatal stop.
+/// Where a QML file of the module is, such as "shell/frame/AppWindow.qml".
+QUrl pageUrl(const QString& page);
+
+/// Makes the root object of a QML file of the module with its required properties. A file that does not load
+/// is a fatal stop.
 std::unique_ptr<QObject> loadPageObject(QQmlEngine& engine, const QString& page,
                                         const QVariantMap& properties);
 

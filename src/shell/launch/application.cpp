@@ -4,6 +4,7 @@
 #include <QIcon>
 #include <QLocale>
 #include <QPainter>
+#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QSvgRenderer>
 #include <algorithm>
@@ -25,6 +26,7 @@
 #include "platform/motion.h"
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
+#include "shell/frame/page_loader.h"
 #include "shell/launch/command_line.h"
 #include "shell/settings/settings_view_controller.h"
 
@@ -42,7 +44,8 @@ void chooseRenderer() {
   constexpr std::array variables{"QT_QUICK_BACKEND", "QMLSCENE_DEVICE", "QSG_RHI_BACKEND",
                                  "LIBGL_ALWAYS_SOFTWARE"};
   const bool isChosen = std::any_of(variables.begin(), variables.end(), qEnvironmentVariableIsSet);
-  const bool isHardware = !QDir("/dev/dri").entryList({"renderD*"}, QDir::System).isEmpty();
+  const auto isRenderer = [](const QString& name) { return name.startsWith(QLatin1StringView("renderD")); };
+  const bool isHardware = std::ranges::any_of(QDir("/dev/dri").entryList(QDir::System), isRenderer);
   if (!isChosen && !isHardware) return QQuickWindow::setSceneGraphBackend("software");
 #endif
   QCoreApplication::setAttribute(Qt::AA_ShareOpenGLContexts);
@@ -62,11 +65,25 @@ void shareHeap() {
 #endif
 }
 
+// Where a session names no message bus, Qt would have one started that nobody speaks on, and wait for it. It
+// looks once, in the usual place alone; what the application starts finds the environment as it was.
+constexpr const char* busVariable = "DBUS_SESSION_BUS_ADDRESS";
+constexpr const char* usualBus = "unix:runtime=yes";
+
+void nameUsualBus() {
+  if (!qEnvironmentVariableIsSet(busVariable)) qputenv(busVariable, usualBus);
+}
+
+void forgetUsualBus() {
+  if (qgetenv(busVariable) == usualBus) qunsetenv(busVariable);
+}
+
 /// What holds before anything of the application object is made.
 int& withProcessReady(int& argumentCount) {
   shareHeap();
   chooseRenderer();
   drawAtOnce();
+  nameUsualBus();
   return argumentCount;
 }
 
@@ -104,6 +121,11 @@ void passMessageOn(QtMsgType type, const QMessageLogContext& context, const QStr
     messageHandler(type, context, message);
 }
 
+/// Lets the thread that reads pages go on: now and then it waits for the main one to set up a module.
+void letReadingGoOn() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::User);
+}
+
 /// Everything that is named after the application comes after this.
 QString namedDataFolder() {
   nameApplication();
@@ -114,20 +136,33 @@ QString namedDataFolder() {
 
 Application::Application(int& argumentCount, char** arguments)
     : QGuiApplication(withProcessReady(argumentCount), arguments), instance_(namedDataFolder()) {
+  readFirstPages();
   if (messageHandler == nullptr) messageHandler = qInstallMessageHandler(passMessageOn);
   setWindowIcon(ownIcon());
+  letReadingGoOn();
   InterfaceFont::icons(16);  // Loaded before there is any text, as what comes later lays out all of it anew.
+  letReadingGoOn();
   setFont(InterfaceFont::book(16));
+  letReadingGoOn();
   speakStoredLanguage();
   Appearance::shared().followSystem();
   applyStoredAppearance(PreferenceStore::standard());
   FormulaScale::shared().load(PreferenceStore::standard());
   FormulaScale::shared().followSystem();
   Motion::shared().followSystem();
+  forgetUsualBus();
+  letReadingGoOn();
 }
 
 Application::~Application() {
   Analytics::setSink({});
+}
+
+void Application::readFirstPages() {
+  for (const char* page : {"shell/frame/AppWindow.qml", "shell/frame/DrawerPage.qml",
+                           "shell/frame/TabsPage.qml", "shell/CalculatePage.qml"})
+    firstPages_.push_back(std::make_unique<QQmlComponent>(&engine_, pageUrl(QString::fromLatin1(page)),
+                                                          QQmlComponent::Asynchronous));
 }
 
 std::optional<int> Application::launch(const QStringList& arguments) {

@@ -1,8 +1,11 @@
 #pragma once
 
 #include <QGuiApplication>
+#include <QQmlComponent>
 #include <QQmlEngine>
+#include <memory>
 #include <optional>
+#include <vector>
 
 #include "measurement/measurement_client.h"
 #include "platform/single_instance.h"
@@ -29,12 +32,15 @@ class Application : public QGuiApplication {
   QQmlEngine& engine() { return engine_; }
 
  private:
+  /// Begins to read the pages of a start, in a thread of Qt's own, while the main one gets ready.
+  void readFirstPages();
   void startMeasuring();
   void show(const QStringList& arguments);
 
   SingleInstance instance_;
   std::unique_ptr<MeasurementClient> measurement_;  // none where no collector is named
   QQmlEngine engine_;
+  std::vector<std::unique_ptr<QQmlComponent>> firstPages_;
   std::optional<AppDelegate> delegate_;
 };
 
