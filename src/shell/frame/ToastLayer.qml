@@ -2,7 +2,8 @@ import QtQuick
 import QtQuick.Templates as T
 import Tavi
 
-// A short message near the foot of the window, over all that is open in it. It fades by itself and goes at a tap.
+// A short message near the foot of the window, over all that is open in it. It fades by itself and goes at a tap,
+// which, if the mouse makes it and the toast offers nothing itself, also does what it would do without it.
 T.Popup {
     id: toast
 
@@ -34,6 +35,11 @@ T.Popup {
     // Of a popup's touches the background gets none.
     contentItem: MouseArea {
         implicitHeight: Math.max(label.implicitHeight + 12, action.visible ? action.height : 0)
+        onPressed: mouse => {
+            mouse.accepted = action.visible;
+            if (!mouse.accepted)
+                ViewManager.hideToast();
+        }
         onClicked: ViewManager.hideToast()
 
         Text {

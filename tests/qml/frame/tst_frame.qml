@@ -427,6 +427,18 @@ Item {
             tryVerify(() => !isShown("toast"), 60000);
         }
 
+        function test_a_toast_over_the_pages_lets_the_mouse_through() {
+            const area = createTemporaryQmlObject("import QtQuick; MouseArea { property int presses; anchors.fill: parent; onPressed: ++presses }", root);
+            stage.toast("Over a key");
+            mouseClick(item("toast"));
+            verify(!isShown("toast"));
+            compare(area.presses, 1);
+            stage.toast("Over a key", "Undo");
+            mouseClick(item("toast"));
+            verify(!isShown("toast"));
+            compare(area.presses, 1, "beside what is offered");
+        }
+
         function test_a_toast_offers_an_action_to_finger_and_key() {
             stage.toast("Gone", "Undo");
             tap(item("toastAction"));
