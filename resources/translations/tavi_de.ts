@@ -419,6 +419,10 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <source>This is not a number yet</source>
         <translation>Das ist noch keine Zahl</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>Es kann nur einen Dezimalpunkt geben</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>Es kann nur einen Bruchstrich geben</translation>
@@ -432,8 +436,8 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>π passt nur einmal in eine Zahl</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π und Buchstaben stehen hinter der Zahl</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>Hinter die Zahl kommt π oder ein Buchstabe</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>Das Ergebnis ist zu groß und erscheint als ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>Hier wird durch null geteilt; es erscheint ∞</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Hier gehen nur Ziffern und π x y z . / −</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

@@ -419,6 +419,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>This is not a number yet</source>
         <translation>This is not a number yet</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>There can be only one decimal point</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>There can be only one fraction bar</translation>
@@ -432,8 +436,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>π goes only once into a number</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π and letters go behind a number</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>π or one letter goes behind a number</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>The result is too large and will show as ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>This divides by zero and will show as ∞</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Only digits and π x y z . / − go here</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

@@ -419,6 +419,10 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <source>This is not a number yet</source>
         <translation>Esto aún no es un número</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>Solo puede haber un punto decimal</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>Solo puede haber una barra de fracción</translation>
@@ -432,8 +436,8 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <translation>π solo cabe una vez en un número</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π y las letras van detrás del número</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>Detrás del número va π o una letra</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>El resultado es muy grande: se verá como ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>Aquí se divide entre cero: se verá como ∞</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Aquí solo van cifras y π x y z . / −</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

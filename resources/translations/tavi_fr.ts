@@ -419,6 +419,10 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <source>This is not a number yet</source>
         <translation>Ce n’est pas encore un nombre</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>Un seul point décimal est possible</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>Une seule barre de fraction est possible</translation>
@@ -432,8 +436,8 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <translation>π une seule fois par nombre</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π et les lettres vont après le nombre</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>Après le nombre : π ou une lettre</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>Résultat trop grand : il s’affichera comme ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>Division par zéro : ∞ s’affichera</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Ici, seulement des chiffres et π x y z . / −</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

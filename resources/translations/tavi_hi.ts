@@ -419,6 +419,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>This is not a number yet</source>
         <translation>यह अभी संख्या नहीं है</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>दशमलव बिंदु केवल एक हो सकता है</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>भिन्न रेखा केवल एक हो सकती है</translation>
@@ -432,8 +436,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>एक संख्या में π केवल एक बार</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π और अक्षर संख्या के बाद आते हैं</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>संख्या के बाद π या एक अक्षर आता है</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>उत्तर बहुत बड़ा है, ∞ दिखेगा</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>यहाँ शून्य से भाग है, ∞ दिखेगा</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>यहाँ केवल अंक और π x y z . / − आते हैं</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

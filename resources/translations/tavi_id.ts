@@ -419,6 +419,10 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <source>This is not a number yet</source>
         <translation>Ini belum merupakan bilangan</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>Hanya boleh ada satu titik desimal</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>Hanya boleh ada satu garis pecahan</translation>
@@ -432,8 +436,8 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <translation>π hanya boleh sekali dalam bilangan</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π dan huruf ada di belakang bilangan</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>Di belakang bilangan: π atau satu huruf</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>Hasil terlalu besar, ditampilkan sebagai ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>Ini membagi dengan nol, ditampilkan sebagai ∞</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Di sini hanya angka dan π x y z . / −</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

@@ -419,6 +419,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>This is not a number yet</source>
         <translation>まだ数になっていません</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>小数点は1つだけです</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>分数の線は1本だけです</translation>
@@ -432,8 +436,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>πは1つの数に1回だけです</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>πと文字は数の後ろに書きます</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>数の後ろにπか文字を1つ書きます</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>答えが大きすぎるため、∞と表示されます</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>0で割ることになり、∞と表示されます</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>使えるのは数字と π x y z . / − だけです</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

@@ -419,6 +419,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>This is not a number yet</source>
         <translation>아직 수가 아닙니다</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>소수점은 하나만 쓸 수 있습니다</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>분수의 가로선은 하나만 쓸 수 있습니다</translation>
@@ -432,8 +436,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>π는 한 수에 한 번만 씁니다</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π와 문자는 수 뒤에 씁니다</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>수 뒤에 π나 문자 하나를 씁니다</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>결과가 너무 커서 ∞로 표시됩니다</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>0으로 나누게 되어 ∞로 표시됩니다</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>숫자와 π x y z . / −만 쓸 수 있습니다</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

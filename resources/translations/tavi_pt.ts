@@ -419,6 +419,10 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <source>This is not a number yet</source>
         <translation>Isto ainda não é um número</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>Só pode haver um ponto decimal</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>Só pode haver uma barra de fração</translation>
@@ -432,8 +436,8 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <translation>π só cabe uma vez em um número</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π e letras ficam depois do número</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>Depois do número vem π ou uma letra</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>O resultado é muito grande: aparecerá como ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>Aqui se divide por zero: aparecerá como ∞</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Aqui só cabem algarismos e π x y z . / −</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

@@ -419,6 +419,10 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <source>This is not a number yet</source>
         <translation>Это ещё не число</translation>
     </message>
+    <message id="hintOnePoint">
+        <source>There can be only one decimal point</source>
+        <translation>Десятичная точка может быть только одна</translation>
+    </message>
     <message id="hintOneBar">
         <source>There can be only one fraction bar</source>
         <translation>Дробная черта может быть только одна</translation>
@@ -432,8 +436,8 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>π входит в число только один раз</translation>
     </message>
     <message id="hintOrder">
-        <source>π and letters go behind a number</source>
-        <translation>π и буквы пишутся после числа</translation>
+        <source>π or one letter goes behind a number</source>
+        <translation>После числа пишут π или одну букву</translation>
     </message>
     <message id="hintOneLetter">
         <source>Only one letter goes into a number</source>
@@ -450,6 +454,14 @@ Where an address for it is set, the app fetches its list of videos and apps from
     <message id="hintInfinite">
         <source>The result is too large and will show as ∞</source>
         <translation>Ответ слишком велик, будет показан как ∞</translation>
+    </message>
+    <message id="hintDividesByZero">
+        <source>This divides by zero and will show as ∞</source>
+        <translation>Здесь деление на ноль, будет показано ∞</translation>
+    </message>
+    <message id="hintKey">
+        <source>Only digits and π x y z . / − go here</source>
+        <translation>Здесь только цифры и π x y z . / −</translation>
     </message>
     <message id="hintPaste">
         <source>What was copied is not one clear number</source>

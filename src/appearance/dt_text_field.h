@@ -90,6 +90,7 @@ class DTTextField : public QQuickItem {
 
   /// Marks the field, for the eye and, with the words, for assistive technology.
   void setFault(Fault fault, const QString& words);
+  bool isFaulty() const { return fault_.has_value(); }
   QString faultWords() const { return faultWords_; }
   void clearFault();
 

@@ -3,8 +3,12 @@
 #include <variant>
 
 #include "appearance/interface_colors.h"
+#include "input/typed_task.h"
+#include "input/typing_hint.h"
 #include "number/fatal_stop.h"
+#include "output/tavi_error.h"
 #include "platform/analytics.h"
+#include "platform/localization.h"
 #include "remote/analytics_events.h"
 #include "shell/calculate_view_controller.h"
 #include "shell/frame/is_calculating.h"
@@ -62,8 +66,16 @@ bool CalculateViewController::rejectCalculation(std::string_view key,
     }
   }
   errorManager_.reportInputError(qString(key), fieldsAtFault);
+  // That a text is no number says too little of what is wrong with it.
+  if (key == TaviError::inputParameterError) {
+    const TypedTask typed =
+        typedTask(modeOf(mode()), visibleText(elementAt(allIds, 0)), visibleText(elementAt(allIds, 1)));
+    const QString words = localized(std::string(faultHint(modeOf(mode()), typed)).c_str());
+    for (DTTextField* field : fieldsAtFault) field->setFault(DTTextField::Fault::wrong, words);
+  }
   isCalculating = false;
   goToFault(fieldsAtFault);
+  emit taskChanged();
   return false;
 }
 

@@ -30,8 +30,15 @@ struct TypedAlias {
   QChar typed;
   QChar title;
 };
-constexpr std::array<TypedAlias, 6> typedAliases{
-    {{u',', u'.'}, {u'p', u'π'}, {u'P', u'π'}, {u'X', u'x'}, {u'Y', u'y'}, {u'Z', u'z'}}};
+constexpr std::array<TypedAlias, 9> typedAliases{{{u',', u'.'},
+                                                  {u'p', u'π'},
+                                                  {u'P', u'π'},
+                                                  {u'X', u'x'},
+                                                  {u'Y', u'y'},
+                                                  {u'Z', u'z'},
+                                                  {u':', u'/'},
+                                                  {u'÷', u'/'},
+                                                  {u'−', u'-'}}};
 constexpr QStringView keypadTitles = u"0123456789./-πxyz";
 
 struct Command {
@@ -44,20 +51,37 @@ constexpr std::array commands{Command{QKeySequence::Copy, &CalculateViewControll
                               Command{QKeySequence::SelectAll, &CalculateViewController::selectAll},
                               Command{QKeySequence::Undo, &CalculateViewController::undo},
                               Command{QKeySequence::Redo, &CalculateViewController::redo}};
+// What redoes on other systems, and so in many a user's fingers.
+const QKeySequence otherRedo{Qt::CTRL | Qt::Key_Y};
+
+// The key of the keypad that a typed character stands for.
+std::optional<QChar> titleOf(QChar typed) {
+  if (typed.isDigit()) return QChar(u'0' + typed.digitValue());
+  const auto* const alias = std::ranges::find(typedAliases, typed, &TypedAlias::typed);
+  const QChar title = alias == typedAliases.end() ? typed : alias->title;
+  return keypadTitles.contains(title) ? std::optional(title) : std::nullopt;
+}
 
 QString without(const QString& text, TextRange range) {
   return QString(text).remove(range.start, range.end - range.start);
 }
 
+// Such a root, or power, has a zero under its fraction bar sooner or later.
+bool isDividingByZero(Mode mode, const TypedTask& typed) {
+  const auto isZero = [&typed](std::size_t field) { return elementAt(typed.numbers, field)->value() == 0.0; };
+  return isZero(1) || (mode == Mode::root && isZero(0));
+}
+
 // What there is to know before a task that can be read is worked out.
-std::string_view outcomeHint(const Task& task) {
+std::string_view outcomeHint(const Task& task, const TypedTask& typed) {
   const Rehearsal rehearsal = rehearse(task);
   if (std::holds_alternative<ExpansionTooLong>(rehearsal)) return "hintTooLong";
   const auto* outcome = std::get_if<CalculationOutcome>(&rehearsal);
   if (!outcome || !outcome->solutionSteps) return "hintOutOfRange";
   const bool isInfinite =
       outcome->solutionSteps->back().latexString.value_or("").find("\\infty") != std::string::npos;
-  return isInfinite ? "hintInfinite" : "";
+  if (!isInfinite) return "";
+  return isDividingByZero(*task.mode, typed) ? "hintDividesByZero" : "hintInfinite";
 }
 
 }  // namespace
@@ -82,7 +106,10 @@ void CalculateViewController::goToFault(const QList<DTTextField*>& fields) {
       std::ranges::find_if(fields, [](const DTTextField* field) { return field->isVisible(); });
   if (first == fields.end()) return;
   (*first)->forceActiveFocus();
-  (*first)->setSelectedTextRange({(*first)->text().size(), (*first)->text().size()});
+  const QByteArray text = (*first)->text().toUtf8();
+  const auto place = static_cast<qsizetype>(faultPlace({text.data(), static_cast<std::size_t>(text.size())}));
+  const qsizetype caret = QString::fromUtf8(text.first(place)).size();
+  (*first)->setSelectedTextRange({caret, caret});
 }
 
 bool CalculateViewController::textFieldShouldBeginEditing(DTTextField* field) {
@@ -119,9 +146,11 @@ TaskPreview CalculateViewController::preview() const {
   const std::string first = firstField->text().toStdString();
   const std::string second = secondField->text().toStdString();
   const TypedTask typed = typedTask(mode, first, second);
+  const bool isRejected = firstField->isFaulty() || secondField->isFaulty();
   const bool isUntouched = first.empty() && second.empty() && !isTypingPossible();
-  const std::string_view hint = !typed.errorKey ? outcomeHint({mode, first, second})
+  const std::string_view hint = !typed.errorKey ? outcomeHint({mode, first, second}, typed)
                                 : isUntouched   ? "hintTapField"
+                                : isRejected    ? faultHint(mode, typed)
                                                 : typingHint(mode, typed);
   return {.latex = QString::fromStdString(displayLatex(typedLatex(typed))),
           .hint = hint.empty() ? QString() : localized(std::string(hint).c_str()),
@@ -174,7 +203,8 @@ bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const Q
   const auto held = Qt::KeyboardModifiers::fromInt(modifiers) & ~Qt::KeypadModifier;
   const QKeySequence pressed(QKeyCombination(held, static_cast<Qt::Key>(key)));
   for (const Command& command : commands) {
-    if (!QKeySequence::keyBindings(command.key).contains(pressed)) continue;
+    const bool isOtherRedo = command.key == QKeySequence::Redo && pressed == otherRedo;
+    if (!isOtherRedo && !QKeySequence::keyBindings(command.key).contains(pressed)) continue;
     (this->*command.run)();
     return true;
   }
@@ -193,13 +223,27 @@ bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const Q
     default:
       break;
   }
+  const bool isRaising = text == u"^" || key == Qt::Key_Dead_Circumflex;
+  if (isRaising && beginExponent()) return true;
   if (text.size() != 1) return false;
-  QChar title = text.front();
-  for (const TypedAlias& alias : typedAliases) {
-    if (alias.typed == title) title = alias.title;
+  const std::optional<QChar> title = titleOf(text.front());
+  const QString keyNotice = localized("hintKey");
+  if (!title) {
+    if (isTypingPossible() && text.front().isPrint() && !text.front().isSpace()) setNotice(keyNotice);
+    return false;
   }
-  if (!keypadTitles.contains(title)) return false;
-  if (beginTyping() && (title != minus || isMinusKeyEnabled())) tappedKeypadButton(title);
+  // Quick fingers are beyond the key that typed nothing before its words are read.
+  const bool isKeyNoticeKept = notice_ == keyNotice;
+  if (beginTyping() && (title != minus || isMinusKeyEnabled())) tappedKeypadButton(*title);
+  if (isKeyNoticeKept) setNotice(keyNotice);
+  return true;
+}
+
+// The sign for a power leads from its base to its exponent; false where there is no such way.
+bool CalculateViewController::beginExponent() {
+  DTTextField* exponent = visibleField("aTextField");
+  if (modeOf(mode()) != Mode::power || !exponent || exponent->isFirstResponder()) return false;
+  exponent->forceActiveFocus();
   return true;
 }
 
@@ -295,18 +339,30 @@ void CalculateViewController::selectAll() {
 void CalculateViewController::paste() {
   if (isCalculating || !beginTyping()) return;
   errorManager_.withdrawMessage();
-  const auto pasted = readPasted(QGuiApplication::clipboard()->text().toStdString());
-  if (!pasted) return setNotice(localized("hintPaste"));
-  const QString number = QString::fromStdString(pasted->number);
-  if (pasted->exponent) return pastePower(number, QString::fromStdString(*pasted->exponent));
-
   const TextRange selection = *currentTextField->selectedTextRange();
-  const QString text = without(currentTextField->text(), selection).insert(selection.start, number);
+  const auto inPlace = [&](const QString& text) {
+    return without(currentTextField->text(), selection).insert(selection.start, text);
+  };
+  const QString copied = QGuiApplication::clipboard()->text();
+  auto pasted = readPasted(copied.toStdString());
+  const QString number = QString::fromStdString(pasted ? pasted->number : "");
+  QString text = inPlace(number);
+  qsizetype caret = selection.start + number.size();
+  // What stands around it may belong to it, as the 2 to the half of "2½".
+  const auto whole = readPasted(inPlace(copied).toStdString());
+  if (whole && (!pasted || (!pasted->exponent && whole->number != text.toStdString()))) {
+    pasted = whole;
+    text = QString::fromStdString(whole->number);
+    caret = text.size();
+  }
+  if (!pasted) return setNotice(localized("hintPaste"));
+  if (pasted->exponent) {
+    return pastePower(QString::fromStdString(pasted->number), QString::fromStdString(*pasted->exponent));
+  }
   if (text.lastIndexOf(minus) > 0) return setNotice(localized("hintPasteMinus"));
   if (text.count(u'/') > 1) return setNotice(localized("hintOneBar"));
   keepForUndo();
   setText(text);
-  const qsizetype caret = selection.start + number.size();
   currentTextField->setSelectedTextRange({caret, caret});
   errorManager_.refreshFields();
 }

@@ -129,7 +129,7 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   /// The task as it stands typed in the visible fields.
   TaskPreview preview() const;
 
-  /// Why the last paste did nothing; empty once something has changed since.
+  /// Why the last paste or key did nothing; empty once something has changed since.
   QString notice() const { return notice_; }
 
   /// Whether keys have a field to type into, Delete something to delete.
@@ -192,6 +192,7 @@ class CalculateViewController : public tavi::AdHandlingViewController {
   };
   void watch(DTTextField& field);
   bool beginTyping();
+  bool beginExponent();
   static void goToFault(const QList<DTTextField*>& fields);
   void deleteRange(TextRange range);
   void setText(const QString& text);

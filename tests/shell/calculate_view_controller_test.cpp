@@ -160,10 +160,29 @@ TEST_F(CalculateViewControllerTest, HardwareKeysActAsKeypadKeys) {
   EXPECT_EQ(page_.field("baseField").text(), u"-1..3/πxy");
   for (const QChar typed : u"(+e ä"_s) {
     EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_unknown, Qt::NoModifier, QString(typed)));
+    EXPECT_EQ(controller().notice(), "hintKey");
   }
   EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_Y, Qt::AltModifier, "y"));
   EXPECT_FALSE(controller().pressedHardwareKey(Qt::Key_Tab, Qt::NoModifier, "\t"));
   EXPECT_EQ(page_.field("baseField").text(), u"-1..3/πxy");
+}
+
+TEST_F(CalculateViewControllerTest, AKeyThatTypesNothingIsTold) {
+  const auto type = [this](QStringView text) {
+    for (const QChar typed : text) controller().pressedHardwareKey(Qt::Key_unknown, {}, QString(typed));
+  };
+  type(u"3+4");
+  EXPECT_EQ(controller().notice(), "hintKey");
+  controller().tappedDeleteButton();
+  EXPECT_EQ(controller().notice(), "");
+  type(u"÷२３^-5");
+  EXPECT_EQ(page_.field("baseField").text(), "3/23");
+  EXPECT_EQ(marked(page_.field("exponentField")), "-5|");
+  EXPECT_EQ(controller().notice(), "");
+  controller().pressedHardwareKey(Qt::Key_Dead_Circumflex, {}, "");
+  EXPECT_EQ(controller().notice(), "");
+  type(u"^");
+  EXPECT_EQ(controller().notice(), "hintKey");
 }
 
 TEST_F(CalculateViewControllerTest, TypingBeginsInTheFirstFieldWithoutADefault) {
@@ -185,10 +204,18 @@ TEST_F(CalculateViewControllerTest, WhatIsPastedIsReadAsANumberOrANoticeTellsWhy
     const char* notice;
   };
   const Case cases[] = {
-      {"|", "2×10^3", "2000|", ""},          {"1|2|3", "45", "145|3", ""},
-      {"|12|", "−3⁄4", "-3/4|", ""},         {"|1", "-2", "-2|1", ""},
-      {"1|", "-2", "1|", "hintPasteMinus"},  {"|-1", "2", "|-1", "hintPasteMinus"},
-      {"1/2|", "3/4", "1/2|", "hintOneBar"}, {"7|", "some words", "7|", "hintPaste"},
+      {"|", "2×10^3", "2000|", ""},
+      {"1|2|3", "45", "145|3", ""},
+      {"|12|", "−3⁄4", "-3/4|", ""},
+      {"|1", "-2", "-2|1", ""},
+      {"1|", "-2", "1|", "hintPasteMinus"},
+      {"|-1", "2", "|-1", "hintPasteMinus"},
+      {"1/2|", "3/4", "1/2|", "hintOneBar"},
+      {"7|", "some words", "7|", "hintPaste"},
+      {"2|", "½", "5/2|", ""},
+      {"|3|7", "π/2", "π/2|7", ""},
+      {"3|", "/4", "3/4|", ""},
+      {"/|", "4", "/4|", ""},
   };
   for (const Case& each : cases) {
     QString text = QString::fromUtf8(each.before);
@@ -256,7 +283,7 @@ TEST_F(CalculateViewControllerTest, EveryChangeCanBeUndoneAndRedone) {
     controller().pressedHardwareKey(Qt::Key_Z, Qt::ControlModifier | Qt::ShiftModifier, "");
     EXPECT_EQ(state(), states[i]);
   }
-  controller().redo();
+  controller().pressedHardwareKey(Qt::Key_Y, Qt::ControlModifier, "");
   EXPECT_EQ(state(), last);
   controller().tappedKeypadButton("7");
   controller().redo();
@@ -282,6 +309,8 @@ TEST_F(CalculateViewControllerTest, WhatStandsTypedIsPreviewedWithAHint) {
       {0, "2", "1.000001/3", R"(\frac{1.000001}{3}^{2})", "hintOutOfRange"},
       {0, "40", "2", "2^{40}", "hintInfinite"},
       {0, "39", "2", "2^{39}", ""},
+      {0, "-2", "0", "0^{-2}", "hintDividesByZero"},
+      {1, "0", "4", R"(\sqrt[0]{4})", "hintDividesByZero"},
       {7, "2", "2", "", ""},
   };
   for (const Case& each : cases) {
@@ -355,13 +384,16 @@ TEST_F(CalculateViewControllerTest, RejectedInputIsToldAndLeavesTheHistory) {
     const char* second;
     const char* key;
     const char* marked;  // Which of exponent, base, index and radicand.
-    char caret;          // In which of them the user goes on.
+    char caret;          // In which of them the user goes on,
+    int place = -1;      // and where, if not at the end of its text.
   };
   const Case cases[] = {
       {0, "", "", "notEnoughInputValues", "ebir", 'b'},
       {0, "", "3", "notEnoughInputValues", "e i ", 'e'},
       {1, "", "", "notEnoughInputValues", " b r", 'r'},
       {0, "1/", "3", "fractionIncomplete", "e i ", 'e'},
+      {0, "2", "/3", "fractionIncomplete", " b r", 'b', 0},
+      {0, "2", "π/3/4", "inputParameterError", " b r", 'b', 4},
       {0, "2", "1/0", "inputZeroInDenominator", " b r", 'b'},
       {0, "2", "π2", "naturalConstantInWrongPositionOfSubstring", " b r", 'b'},
       {0, "10001", "1.5", "calculationTooLong", "e i ", 'e'},
@@ -378,6 +410,9 @@ TEST_F(CalculateViewControllerTest, RejectedInputIsToldAndLeavesTheHistory) {
       page_.field(name).setText(QString::fromUtf8(each.second));
     EXPECT_FALSE(controller().performCalculation()) << each.key;
     EXPECT_EQ(controller().currentTextField->objectName().front(), each.caret) << each.key;
+    const DTTextField& current = *controller().currentTextField;
+    EXPECT_EQ(current.selectedTextRange()->start, each.place < 0 ? current.text().size() : each.place)
+        << each.key;
     EXPECT_EQ(page_.toasts.size(), 1) << each.key;
     std::string marked;
     for (const char* name : {"exponentField", "baseField", "indexField", "radicandField"}) {
@@ -419,6 +454,9 @@ TEST_F(CalculateViewControllerTest, AssistiveTechnologyIsToldModeFieldsAndFaults
                                 "Base (Invalid entry: fractionIncomplete)",
                                 "Exponent"};
   EXPECT_EQ(told(*QAccessible::queryAccessibleInterface(&page_.window)).first(expected.size()), expected);
+  page_.type("baseField", u"1/");
+  EXPECT_FALSE(controller().performCalculation());
+  EXPECT_EQ(page_.field("baseField").faultWords(), "hintOneBar") << "more than that it is no number";
 }
 
 TEST_F(CalculateViewControllerTest, AnEmptyRootIndexIsASquareRootAndStoredEmpty) {
