@@ -46,6 +46,7 @@ Item {
             tell(true);
         }
         onAboutToHide: tell(false)
+        onClosed: ViewManager.restoreFocus()
 
         enter: slide
         exit: slide

@@ -26,6 +26,7 @@ Item {
         height: page.isLow ? Theme.lowBarHeight : page.toolbar.height
         color: page.toolbar.backgroundColor
         Accessible.role: Accessible.ToolBar
+        Keys.forwardTo: Array.from(content.children) // so that keys for the page, such as Back, mean the same here
 
         Item {
             id: strip
@@ -97,6 +98,8 @@ Item {
     }
 
     ControllerHost {
+        id: content
+
         anchors.top: bar.bottom
         anchors.bottom: parent.bottom
         width: parent.width

@@ -78,6 +78,16 @@ Item {
             compare(stage.selectedIndex, 1);
         }
 
+        function test_escape_leads_back_from_the_page_and_its_toolbar() {
+            for (const place of ["tab1", "menuButton"]) {
+                mouseClick(item("tab1"));
+                compare(stage.selectedIndex, 1);
+                item(place).forceActiveFocus();
+                keyClick(Qt.Key_Escape);
+                compare(stage.selectedIndex, 0, place);
+            }
+        }
+
         function test_touch_targets_are_large_enough() {
             for (const name of ["menuButton", "tab0", "tab1"]) {
                 verify(item(name).width >= 48, name);
@@ -191,7 +201,8 @@ Item {
         }
 
         function test_the_keyboard_goes_through_the_menu_and_shows_where_it_is() {
-            openMenu();
+            item("menuButton").forceActiveFocus();
+            keyClick(Qt.Key_Return);
             tryVerify(() => item("menuRow 0 0").activeFocus, 5000, "so that Return opens it and a screen reader says where it is");
             keyClick(Qt.Key_Up);
             verify(isRinged("menuRow 0 0"));
@@ -209,6 +220,7 @@ Item {
             verify(isRinged("menuRow 0 3"));
             keyClick(Qt.Key_Escape);
             verify(!stage.isDrawerOpen);
+            tryVerify(() => item("menuButton").activeFocus, 5000, "so that the next key has somewhere to go");
         }
 
         function test_a_sheet_holds_the_menu_off_until_it_is_closed() {
