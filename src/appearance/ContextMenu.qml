@@ -8,6 +8,16 @@ T.Menu {
 
     property Item focusBefore
 
+    // By key it begins at the first entry, which is thereby told.
+    function begin() {
+        for (let i = 0; i < count; ++i) {
+            if (!itemAt(i).enabled)
+                continue;
+            currentIndex = i;
+            return;
+        }
+    }
+
     implicitWidth: 240
     implicitHeight: contentItem.implicitHeight + topPadding + bottomPadding
     topPadding: 8
@@ -16,6 +26,8 @@ T.Menu {
     modal: true
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside
     onAboutToShow: focusBefore = parent.Window.activeFocusItem
+    onOpened: if (KeyboardUse.isCurrent)
+        begin()
     onClosed: if (focusBefore)
         focusBefore.forceActiveFocus(Qt.PopupFocusReason)
 
