@@ -101,7 +101,7 @@ Item {
     Connections {
         target: bar.controller
         function onSearchChanged() {
-            if (bar.controller.isSearchThrough)
+            if (bar.controller.isSearchThrough || !bar.controller.isSearching)
                 pause.restart();
         }
     }
