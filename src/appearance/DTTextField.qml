@@ -60,6 +60,11 @@ DTTextFieldItem {
         text: field.label
     }
 
+    // The border is of the field, too.
+    TapHandler {
+        onTapped: field.forceActiveFocus()
+    }
+
     TextInput {
         id: input
 

@@ -24,8 +24,12 @@ FocusScope {
     readonly property int previewRoom: 84
     readonly property bool isPreviewBelow: columnRoom >= leastColumnHeight + previewRoom
 
-    // From 0, where the rest of the column is as low as it can be, to 1.
-    readonly property real ease: Math.max(0, Math.min(1, (columnRoom - leastColumnHeight - (isPreviewBelow ? previewRoom : 0)) / (mostColumnHeight - leastColumnHeight)))
+    // The first of the spare room makes the switch easy to touch, the rest goes from 0, where all of the column is as
+    // low as it can be, to 1.
+    readonly property real spare: Math.max(0, columnRoom - leastColumnHeight - (isPreviewBelow ? previewRoom : 0))
+    readonly property int mostGrowth: 8
+    readonly property real switchHeight: Theme.touchTarget - mostGrowth + Math.min(mostGrowth, spare)
+    readonly property real ease: Math.max(0, Math.min(1, (spare - mostGrowth) / (mostColumnHeight - leastColumnHeight - mostGrowth)))
 
     readonly property real columnGap: Math.max(margin, Math.min(64, width - 2 * margin - 2 * columnWidth))
     readonly property real column: Math.floor(Math.min(columnWidth, isWide ? (width - 2 * margin - columnGap) / 2 : width - 2 * margin))
@@ -100,7 +104,7 @@ FocusScope {
             x: page.columnX
             y: fillInLabel.y + fillInLabel.height + page.between(2, 8)
             width: Math.floor((page.column - manualButton.width) * (page.isPreviewBelow ? 1 : 0.45))
-            height: page.between(40, 48)
+            height: page.switchHeight
             onValueChanged: index => page.controller.segmentedControlValueChanged(index)
         }
 
@@ -109,7 +113,7 @@ FocusScope {
 
             objectName: "manualButton"
             x: page.columnX + page.column - width + 12 // its icon ends where the column does
-            anchors.verticalCenter: modeSwitch.verticalCenter
+            y: modeSwitch.y
             height: modeSwitch.height
             text: qsTrId("manualButton")
             iconText: Icons.manual

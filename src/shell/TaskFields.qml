@@ -16,8 +16,8 @@ Item {
     readonly property alias radicandField: radicandField
 
     readonly property real ease: (height - 76) / 28
-    readonly property int largeHeight: Math.round(44 + ease * 20)
-    readonly property int smallHeight: Math.round(40 + ease * 12)
+    readonly property int largeHeight: Math.round(48 + ease * 16)
+    readonly property int smallHeight: Math.round(48 + ease * 4)
     readonly property int raise: height - largeHeight
 
     // Of those that are seen, the first one with something wrong.

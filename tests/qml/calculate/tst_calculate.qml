@@ -251,7 +251,7 @@ Item {
                 page.width = width;
                 page.height = height;
                 const all = places(row.tag);
-                const isLow = height < 560;
+                const isLow = height < 500;
                 for (let index = 0; index < all.length; ++index) {
                     const name = all[index].name;
                     const place = all[index].place;
