@@ -43,7 +43,7 @@ T.Popup {
     dim: isCard || isSheet
     focus: true
     visible: true
-    closePolicy: T.Popup.NoAutoClose
+    closePolicy: style === ViewController.ActionSheet && !controller.presentedController ? T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose
     enter: !controller.isPresentationAnimated ? null : isCard || style === ViewController.OverCurrentContext ? fadeIn : rise
     exit: !controller.isPresentationAnimated || isCard ? null : style === ViewController.OverCurrentContext ? fadeOut : sink
     Component.onCompleted: {
@@ -52,16 +52,13 @@ T.Popup {
     }
     onClosed: {
         ViewManager.restoreFocus();
+        if (!controller.isLeaving)
+            controller.cancel();
         controller.presentationGone();
     }
 
     T.Overlay.modal: Veil {
     }
-    T.Overlay.onPressed: {
-        if (style === ViewController.ActionSheet && !controller.presentedController)
-            controller.cancel();
-    }
-
     background: Rectangle {
         objectName: "sheet"
         visible: popup.isCard || popup.isSheet || popup.style === ViewController.FullScreen

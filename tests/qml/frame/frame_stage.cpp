@@ -104,6 +104,7 @@ void FrameStage::present(int style, bool isAnimated) {
   controller->setPage(*engine_, {});  // the view stands already
   auto view = std::make_unique<QQuickItem>();
   view->setObjectName("presented");
+  view->setImplicitHeight(200);
   controller->setView(std::move(view));
   controller->setPresentationStyle(static_cast<ViewController::PresentationStyle>(style));
   isDismissed_ = false;

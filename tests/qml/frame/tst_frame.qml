@@ -395,6 +395,20 @@ Item {
             tryVerify(() => stage.isDismissed);
         }
 
+        function test_only_a_tap_beside_an_action_sheet_cancels_it() {
+            for (const touch of [mouseClick, tap]) {
+                for (const isAnimated of [false, true]) {
+                    stage.present(ViewController.ActionSheet, isAnimated);
+                    tryVerify(() => item("presented").mapToItem(root, 0, 0).y === root.height - 200);
+                    touch(item("presented"));
+                    wait(200); // as long as it would take to go
+                    verify(isShown("presented"));
+                    touch(item("tab0"));
+                    tryVerify(() => !isShown("presented"));
+                }
+            }
+        }
+
         function test_the_menu_follows_the_finger() {
             const finger = touchEvent(root);
             const edge = () => isShown("sideMenu") ? item("sideMenu").mapToItem(root, 304, 0).x : 0;
