@@ -74,6 +74,16 @@ Rectangle {
             }
         }
 
+        // A button in a row, which the keyboard may go to out of sight.
+        readonly property Item focused: activeFocus ? Window.activeFocusItem : null
+
+        onFocusedChanged: {
+            if (!focused || !KeyboardUse.isCurrent || focused === this || focused.parent === contentItem)
+                return;
+            const top = focused.mapToItem(contentItem, 0, 0).y - contentY;
+            scrollBy(Math.min(0, top) + Math.max(0, top + focused.height - height));
+        }
+
         readonly property int wantedPercent: Theme.formulaPercent
 
         // What stands at the top stays there.

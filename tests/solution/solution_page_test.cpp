@@ -8,6 +8,7 @@
 #include "appearance/formula_scale.h"
 #include "platform/localization.h"
 #include "platform/preferences.h"
+#include "shell/frame/view_manager.h"
 #include "solution/exact/account_library.h"
 #include "solution/exact/exact_sheet_controller.h"
 #include "solution/solution_stage.h"
@@ -357,6 +358,52 @@ TEST_F(SolutionPageTest, TheRowOfVideosSaysWhatItIs) {
   ASSERT_TRUE(interface);
   EXPECT_EQ(interface->role(), QAccessible::Grouping);
   EXPECT_EQ(interface->text(QAccessible::Name), localized("recommendedVideoIfUnclear"));
+}
+
+TEST_F(SolutionPageTest, TheKeyboardGoesFromTheLockToOneVideoAfterTheOther) {
+  const QString watch = "https://" + ProjectSettings::shared().videoHost + "/watch?v=";
+  const QJsonObject links{{"en", QJsonArray{watch + "abcdefghi_1", watch + "abcdefghi_2", watch + "short"}}};
+  RemoteConfigSettings settings;
+  settings.defaults = {{"videoTutorials", QJsonObject{{"QRX", links}}}};
+  remoteConfigManager.loadVideoTutorials(RemoteConfigService(settings, folder.filePath("known.sqlite")));
+  solution->videos()->setPlayerSource(QUrl("qrc:/no/such/player.qml"));
+  show({formulaStep("Result", "1")});
+  const auto named = [this] {
+    QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(window.activeFocusItem());
+    return interface ? interface->text(QAccessible::Name) : QString();
+  };
+  const auto press = [this](Qt::Key key) { QTest::keyClick(&window, key); };
+  const auto presented = [this] { return root->presentedController(); };
+
+  ViewManager::shared();  // Keeps in mind where the focus is, as it does from the start of the application.
+  shownItem(table(), "unlockButton")->forceActiveFocus(Qt::TabFocusReason);
+  press(Qt::Key_Return);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return named() == localized("dsgvoDecline"); }));
+  press(Qt::Key_Backtab);
+  press(Qt::Key_Return);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return named() == localized("next"); })) << "the guide follows";
+  press(Qt::Key_Escape);
+  ASSERT_TRUE(QTest::qWaitFor([&] { return !presented() && named() == localized("videoGuide"); }));
+
+  const QString outside = localized("videoOutside");
+  const QString missing = localized("videoMissing");
+  const auto isInSight = [&](const QQuickItem* item) {
+    const double left = item->mapToItem(&table(), {}).x();
+    return left >= 0 && left + item->width() <= table().width();
+  };
+  const std::pair<Qt::Key, QString> steps[] = {
+      {Qt::Key_Tab, "1: " + outside},     {Qt::Key_Tab, "2: " + outside},
+      {Qt::Key_Right, "3: " + missing},   {Qt::Key_Left, "2: " + outside},
+      {Qt::Key_Left, "1: " + outside},    {Qt::Key_Right, "2: " + outside},
+      {Qt::Key_Backtab, "1: " + outside}, {Qt::Key_Backtab, localized("videoGuide")}};
+  for (const auto& [key, name] : steps) {
+    press(key);
+    // A video that was out of sight has its button only once it is there.
+    EXPECT_TRUE(QTest::qWaitFor([&] { return named() == name && isInSight(window.activeFocusItem()); }))
+        << name.toStdString() << " but " << named().toStdString();
+  }
+  press(Qt::Key_Up);
+  EXPECT_EQ(window.activeFocusItem(), cells().front()) << "of the row and its button only one has the focus";
 }
 
 }  // namespace

@@ -10,6 +10,8 @@ WebView {
     readonly property bool isFailed: title === "failed" || isLoadFailed
     property bool isLoadFailed: false
 
+    focus: true
+
     function play(page, address) {
         loadHtml(page, address);
     }

@@ -3,11 +3,12 @@ import Tavi
 
 // One video: covered until its player is ready. Without a player a tap opens it in the browser; a link to no video
 // stays an empty tile.
-Item {
+FocusScope {
     id: tile
 
     required property VideoRowController controller
     required property string link
+    property int number: 1 // Of those side by side, which would all be called the same.
     property bool isInSight: false
     readonly property bool isVideo: controller.isVideo(link)
     readonly property bool isPlaying: isVideo && isInSight && !controller.isLocked
@@ -17,8 +18,9 @@ Item {
     property bool isGivenUp: false
 
     objectName: "videoTile"
+    activeFocusOnTab: isInSight && !isReady && !opensOutside
     Accessible.role: Accessible.Grouping
-    Accessible.name: qsTrId(!isVideo ? "videoMissing" : isReady ? "videoReady" : "videoCovered")
+    Accessible.name: number + ": " + qsTrId(!isVideo ? "videoMissing" : isReady ? "videoReady" : "videoCovered")
     Accessible.ignored: opensOutside
     onIsPlayingChanged: isGivenUp = false
 
@@ -43,6 +45,7 @@ Item {
 
         anchors.fill: parent
         anchors.margins: 6
+        focus: tile.isReady
         active: tile.playerComponent !== null && !tile.isGivenUp
         sourceComponent: tile.playerComponent
         onLoaded: page.play(tile.controller.page(tile.link), tile.controller.pageAddress())
@@ -68,7 +71,9 @@ Item {
         anchors.fill: parent
         visible: !tile.isReady
         enabled: tile.opensOutside
+        focus: tile.opensOutside
         text: qsTrId("videoOutside")
+        Accessible.name: tile.number + ": " + text
         Accessible.ignored: !tile.opensOutside
         onClicked: tile.controller.openOutside(tile.link)
 
@@ -109,11 +114,10 @@ Item {
                 Accessible.ignored: true
             }
         }
-
-        FocusRing {
-            control: coveringView
-            ground: Theme.page
-            radius: 12
-        }
+    }
+    FocusRing {
+        control: tile
+        ground: Theme.page
+        radius: 12
     }
 }

@@ -12,7 +12,6 @@ Item {
     required property real viewWidth
     property bool isRead: false // Aloud, at the moment.
     readonly property ListView table: ListView.view as ListView
-    readonly property bool isCurrent: ListView.isCurrentItem && table !== null && table.activeFocus
 
     signal menuRequested(point place)
 
@@ -21,7 +20,7 @@ Item {
     }
 
     Accessible.focusable: true
-    Accessible.focused: isCurrent
+    Accessible.focused: activeFocus
 
     TapHandler {
         gesturePolicy: TapHandler.DragThreshold
@@ -45,7 +44,7 @@ Item {
         }
     }
     FocusRing {
-        control: row.isCurrent ? row.table : null
+        control: row
         z: 1
     }
 }

@@ -72,54 +72,7 @@ TableRow {
             Component.onCompleted: row.videos.applyStyle(manualButton)
         }
 
-        ListView {
-            id: collection
-
-            objectName: "videoCollection"
-            y: 64
-            width: parent.width
-            height: parent.height - y - 8
-            orientation: ListView.Horizontal
-            leftMargin: row.measures.edge
-            rightMargin: row.measures.edge
-            spacing: 16
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-            interactive: !row.videos.isLocked
-            activeFocusOnTab: !row.videos.isLocked || activeFocus
-            keyNavigationEnabled: true
-            highlightMoveDuration: 200
-            visible: !row.videos.isLocked
-            model: row.content.videoUrlStringArray
-            Accessible.role: Accessible.List
-            Accessible.name: titleLabel.text
-
-            delegate: Item {
-                id: cell
-
-                required property string modelData
-
-                width: tile.width
-                height: collection.height
-
-                VideoTile {
-                    id: tile
-
-                    anchors.verticalCenter: parent.verticalCenter
-                    width: 0.95 * collection.height
-                    height: width
-                    controller: row.videos
-                    link: cell.modelData
-                    isInSight: row.isInSight && cell.x + cell.width > collection.contentX && cell.x < collection.contentX + collection.width
-                }
-            }
-        }
-        FocusRing {
-            anchors.fill: collection
-            visible: collection.activeFocus
-            ground: card.color
-        }
-
+        // Before the videos, so that the focus is on a button above them once it is gone.
         Rectangle {
             id: lockingView
 
@@ -153,6 +106,54 @@ TableRow {
                     font: Theme.medium(17)
                     onClicked: row.videos.tappedLockingViewButton()
                     Component.onCompleted: row.videos.applyStyle(unlockButton)
+                }
+            }
+        }
+        ListView {
+            id: collection
+
+            objectName: "videoCollection"
+            y: 64
+            width: parent.width
+            height: parent.height - y - 8
+            orientation: ListView.Horizontal
+            leftMargin: row.measures.edge
+            rightMargin: row.measures.edge
+            spacing: 16
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            interactive: !row.videos.isLocked
+            keyNavigationEnabled: true
+            highlightMoveDuration: 200
+            visible: !row.videos.isLocked
+            model: row.content.videoUrlStringArray
+            Accessible.role: Accessible.List
+            Accessible.name: titleLabel.text
+
+            delegate: FocusScope {
+                id: cell
+
+                required property int index
+                required property string modelData
+
+                width: tile.width
+                height: collection.height
+                onActiveFocusChanged: {
+                    if (activeFocus)
+                        collection.currentIndex = index;
+                }
+
+                VideoTile {
+                    id: tile
+
+                    focus: true
+                    anchors.verticalCenter: parent.verticalCenter
+                    width: 0.95 * collection.height
+                    height: width
+                    controller: row.videos
+                    number: cell.index + 1
+                    link: cell.modelData
+                    isInSight: row.isInSight && cell.x + cell.width > collection.contentX && cell.x < collection.contentX + collection.width
                 }
             }
         }
