@@ -84,6 +84,15 @@ Rectangle {
             scrollBy(Math.min(0, top) + Math.max(0, top + focused.height - height));
         }
 
+        // Who comes back goes through the rows and their buttons again.
+        onActiveFocusChanged: {
+            if (activeFocus || !Window.active)
+                return;
+            const next = currentItem ?? contentItem;
+            next.focus = true;
+            next.focus = next === currentItem;
+        }
+
         readonly property int wantedPercent: Theme.formulaPercent
 
         // What stands at the top stays there.

@@ -404,6 +404,11 @@ TEST_F(SolutionPageTest, TheKeyboardGoesFromTheLockToOneVideoAfterTheOther) {
   }
   press(Qt::Key_Up);
   EXPECT_EQ(window.activeFocusItem(), cells().front()) << "of the row and its button only one has the focus";
+
+  shownItem(table(), "coveringView")->forceActiveFocus(Qt::TabFocusReason);
+  shownItem(*root->view(), "shareButton")->forceActiveFocus(Qt::TabFocusReason);
+  table().forceActiveFocus(Qt::TabFocusReason);
+  EXPECT_EQ(window.activeFocusItem(), cells().front()) << "who comes back begins at the row";
 }
 
 }  // namespace
