@@ -18,7 +18,7 @@ import sys
 import tempfile
 from pathlib import Path
 
-from start import Display, start
+from start import Display, answer_first_start, start
 
 SIZES = {"1": 1, "10,000": 10_000, "100,000": 100_000}
 
@@ -37,10 +37,9 @@ class Machine:
 
     @staticmethod
     def fill(home, count):
-        """Everything that a first start asks is answered, and the history has so many records."""
+        """A home as on a day after the first, whose history has so many records."""
+        answer_first_start(home)
         store = sqlite3.connect(home / ".local/share/tavi/preferences.sqlite")
-        answers = {"isOnboardingFinished": "[true]", "isDsgvoAccepted": "[true]", "counterForRating": "[100000]"}
-        store.executemany("INSERT OR REPLACE INTO preferences VALUES(?, ?)", answers.items())
         [(record,)] = store.execute("SELECT value FROM elements WHERE key = 'Calculations'")
         store.executemany("INSERT INTO elements(key, value) VALUES('Calculations', ?)", [(record,)] * (count - 1))
         store.commit()
