@@ -103,7 +103,7 @@ QImage pieced(const Look& look, double extent) {
   const Axis across(look.size.width(), end);
   const Axis down(look.size.height(), end);
   const QSize smallSize(across.smallLength(), down.smallLength());
-  const QImage small = drawn({look.shadow, look.cornerRadius, look.ratio, smallSize}, extent);
+  QImage small = drawn({look.shadow, look.cornerRadius, look.ratio, smallSize}, extent);
   if (small.isNull() || smallSize == look.size) return small;
 
   QImage picture(look.size, small.format());

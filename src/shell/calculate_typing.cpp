@@ -242,7 +242,7 @@ bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const Q
 // The sign for a power leads from its base to its exponent; false where there is no such way.
 bool CalculateViewController::beginExponent() {
   DTTextField* exponent = visibleField("aTextField");
-  if (modeOf(mode()) != Mode::power || !exponent || exponent->isFirstResponder()) return false;
+  if (modeOf(mode()) != Mode::power || exponent == nullptr || exponent->isFirstResponder()) return false;
   exponent->forceActiveFocus();
   return true;
 }
