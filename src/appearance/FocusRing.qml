@@ -12,5 +12,6 @@ Rectangle {
     visible: control && control.activeFocus && KeyboardUse.isCurrent
     color: "transparent"
     border.width: 2
+    // Worked out for the one that is seen only, of which a page has many.
     border.color: visible ? Theme.legible(Theme.focus, ground) : "transparent"
 }

@@ -4,7 +4,6 @@
 #include <QIcon>
 #include <QLocale>
 #include <QPainter>
-#include <QQmlComponent>
 #include <QQuickWindow>
 #include <QSvgRenderer>
 #include <algorithm>
