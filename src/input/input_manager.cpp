@@ -17,6 +17,12 @@ TaviInputManager& TaviInputManager::shared() {
 }
 
 TermAnalysisResult TaviInputManager::analyse(TypedTask task) {
+  TermAnalysisResult result = collect(std::move(task));
+  if (!result.errorKey) result.solutionSteps = outputHelper.solutionSteps;
+  return result;
+}
+
+TermAnalysisResult TaviInputManager::collect(TypedTask task) {
   AnalysisRequest& request = task.request;
   isAnyNumberChanged = false;
   isWithFraction = task.isWithFraction;
@@ -45,7 +51,6 @@ TermAnalysisResult TaviInputManager::analyse(TypedTask task) {
   TermAnalysisResult result;
   result.allInputs = allInputs;
   result.isWithFraction = isWithFraction;
-  result.solutionSteps = outputHelper.solutionSteps;
   return result;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <memory>
 #include <optional>
@@ -38,6 +39,9 @@ class TaviInputManager {
   /// The same for a task that is read already.
   TermAnalysisResult analyse(TypedTask task);
 
+  /// The same without a copy of the steps, which are in the collector.
+  TermAnalysisResult collect(TypedTask task);
+
   TaviStringOutput& outputHelper;
   std::vector<std::string> stringInputs;
   bool isTagUsed = false;
@@ -66,9 +70,13 @@ class TaviInputManager {
   void cancelInputs();
   void moveDenominatorSigns();
 
-  void writeExpansions(const std::vector<std::string>& lines);
-  void rewriteVariableSteps(const std::vector<std::string>& lines,
-                            const std::vector<std::size_t>& changedIndices);
+  // A field whose decimals became a fraction, and what says so.
+  struct DecimalElimination {
+    std::size_t field;
+    std::string latex;
+  };
+  void writeExpansions(std::vector<DecimalElimination> eliminations);
+  void rewriteVariableSteps(const std::vector<DecimalElimination>& eliminations);
   std::string unitLatex(std::size_t field) const;
 
   TaviMathOperation& operation_;

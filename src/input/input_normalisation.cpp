@@ -2,6 +2,7 @@
 #include <cmath>
 #include <span>
 #include <string_view>
+#include <utility>
 
 #include "input/input_manager.h"
 #include "number/digit_analyser.h"
@@ -13,8 +14,6 @@
 namespace tavi {
 
 namespace {
-
-constexpr std::string_view changedMark = " changed";
 
 std::string latexWithSigns(const Digit& number, bool keepSigns) {
   return TaviStringOutput::digitLatex(number, {.keepSigns = keepSigns});
@@ -38,15 +37,10 @@ void TaviInputManager::outputInput(bool keepSigns) {
 }
 
 void TaviInputManager::eliminateDecimals() {
-  std::vector<std::string> lines;
-  std::vector<std::size_t> changedIndices;
+  std::vector<DecimalElimination> eliminations;
   for (std::size_t i = 0; i < allInputs.size(); ++i) {
+    if (allTextFieldTexts[i].empty()) continue;
     Digit& number = *allInputs[i];
-    if (allTextFieldTexts[i].empty()) {
-      lines.emplace_back();
-      continue;
-    }
-    std::string oldLatex = latexWithSigns(number, false);
     const double z = required(number.z, "a field without a number");
     // Six significant digits are what counts from here on.
     const std::string zText = generalText(z);
@@ -54,11 +48,9 @@ void TaviInputManager::eliminateDecimals() {
     const double places = TaviDigitAnalyser::decimalPlaces(zText, nText);
     const bool isFractionWanted =
         (isWithFraction && isAllFractionIfOccuredOnce) || isDecimalEliminationForced || number.n != 1.0;
-    if (!(places > 0) || !isFractionWanted) {
-      lines.push_back(std::move(oldLatex));
-      continue;
-    }
+    if (!(places > 0) || !isFractionWanted) continue;
 
+    const std::string oldLatex = latexWithSigns(number, false);
     const double factor = std::pow(10.0, places);
     const std::string factorText = generalText(factor);
     const std::string fractionLatex =
@@ -66,37 +58,32 @@ void TaviInputManager::eliminateDecimals() {
     number.z = std::round(factor * readGeneralText(zText));
     number.n = std::round(factor * readGeneralText(nText));
     const std::string change = joined({fractionLatex, " = ", latexWithSigns(number, false)});
-    lines.push_back(inputFormatMode == FormatMode::formula ? joined({oldLatex, " = ", change, changedMark})
-                                                           : change);
-    changedIndices.push_back(i);
+    const bool isLine = inputFormatMode == FormatMode::formula;
+    eliminations.push_back({i, isLine ? joined({oldLatex, " = ", change}) : change});
     isAnyNumberChanged = true;
     isWithFraction = true;
   }
-
-  if (changedIndices.empty()) return;
   if (inputFormatMode == FormatMode::formula) {
-    writeExpansions(lines);
+    writeExpansions(std::move(eliminations));
   } else {
-    rewriteVariableSteps(lines, changedIndices);
+    rewriteVariableSteps(eliminations);
   }
 }
 
-void TaviInputManager::writeExpansions(const std::vector<std::string>& lines) {
+void TaviInputManager::writeExpansions(std::vector<DecimalElimination> eliminations) {
   std::string_view title = LocalizedString::expand.text();
-  for (const std::string& line : lines) {
-    if (!line.ends_with(changedMark)) continue;
-    outputHelper.addStep(title, replacedAll(line, changedMark, ""));
+  for (DecimalElimination& elimination : eliminations) {
+    outputHelper.addStep(title, std::move(elimination.latex));
     title = "";
   }
 }
 
-void TaviInputManager::rewriteVariableSteps(const std::vector<std::string>& lines,
-                                            const std::vector<std::size_t>& changedIndices) {
-  for (const std::size_t i : changedIndices) {
-    const std::string prefix = replacedAll(elementAt(inputFormat, i), "%0", "");
+void TaviInputManager::rewriteVariableSteps(const std::vector<DecimalElimination>& eliminations) {
+  for (const auto& [field, latex] : eliminations) {
+    const std::string prefix = replacedAll(elementAt(inputFormat, field), "%0", "");
     for (SolutionStep& step : outputHelper.solutionSteps) {
       if (!step.latexString || !step.latexString->starts_with(prefix)) continue;
-      step.latexString = joined({replacedAll(*step.latexString, "\n", " = "), lines[i], " ", unitLatex(i)});
+      step.latexString = joined({replacedAll(*step.latexString, "\n", " = "), latex, " ", unitLatex(field)});
     }
   }
 }

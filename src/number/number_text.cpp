@@ -21,6 +21,19 @@ using Buffer = std::array<char, 32>;
 // Below it the shortest digits of a whole number are all of its digits.
 constexpr double exactIntegers = 1e15;
 
+// Below it six significant digits are all digits of a whole number.
+constexpr double sixDigits = 1e6;
+
+// Most numbers here are whole ones, whose digits cost a tenth of those of a fraction. Zero may have a sign
+// and is none of them.
+bool isWholeBelow(double limit, double value) {
+  return std::abs(value) < limit && value == std::trunc(value) && value != 0;
+}
+
+std::string wholeText(double value) {
+  return std::to_string(static_cast<std::int64_t>(value));
+}
+
 std::string_view written(const Buffer& buffer, std::to_chars_result result) {
   return {buffer.data(), static_cast<std::size_t>(result.ptr - buffer.data())};
 }
@@ -96,6 +109,7 @@ std::string doubleText(double value) {
 }
 
 std::string generalText(double value) {
+  if (isWholeBelow(sixDigits, value)) return wholeText(value);
   Buffer buffer;
   const auto result =
       std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, std::chars_format::general, 6);
@@ -120,12 +134,10 @@ std::optional<double> readNumber(const std::string& text) {
 }
 
 std::string decimalText(double value, int maximumFractionDigits) {
+  if (isWholeBelow(exactIntegers, value)) return wholeText(value);
   if (std::isnan(value)) return "NaN";
   std::string text(std::signbit(value) ? "-" : "");
   if (std::isinf(value)) return text + "∞";
-  if (std::abs(value) < exactIntegers && value == std::trunc(value)) {
-    return text + std::to_string(static_cast<std::int64_t>(std::abs(value)));
-  }
   ShortestDigits number;
   if (value != 0) {
     number = shortestDigits(std::abs(value));

@@ -50,8 +50,8 @@ std::string numericPart(const Digit& digit, double z, const DigitStyle& style) {
   const bool isNegative = !style.keepSigns && ((z < 0 && n > 0) || (z > 0 && n < 0));
   const std::string_view sign = isNegative ? "-" : "";
 
-  const std::string numerator = side(decimalText(shown(z), style.maximumFractionDigits), digit.zConstants);
-  if (n == 1 && digit.nConstants.empty() && !style.forceFraction) return joined({sign, numerator});
+  std::string numerator = side(decimalText(shown(z), style.maximumFractionDigits), digit.zConstants);
+  if (n == 1 && digit.nConstants.empty() && !style.forceFraction) return numerator.insert(0, sign);
   const double shortened = readGeneralText(generalText(shown(n)));
   if (!std::isfinite(shortened)) fatalStop("a denominator that is no finite number");
   const std::string denominator = side(decimalText(shortened, style.maximumFractionDigits), digit.nConstants);

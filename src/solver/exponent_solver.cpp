@@ -25,7 +25,7 @@ CalculationOutcome TaviExponentSolver::collect(const std::optional<std::string>&
                                                std::string_view secondId, std::optional<Mode> mode) {
   TypedTask typed = typedTask(mode, firstText.value_or(""), secondText.value_or(""));
   typed.request.ids = {std::string(firstId), std::string(secondId)};
-  TermAnalysisResult analysis = TaviInputManager(output, operation).analyse(std::move(typed));
+  TermAnalysisResult analysis = TaviInputManager(output, operation).collect(std::move(typed));
 
   allInputs = std::move(analysis.allInputs);
   if (!allInputs) {

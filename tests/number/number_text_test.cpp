@@ -85,6 +85,9 @@ TEST(NumberText, DecimalTextRoundsHalfToEvenOnTheShortestDigits) {
 
 TEST(NumberText, GeneralTextKeepsSixDigitsAndReadsBack) {
   EXPECT_EQ(generalText(123456.7), "123457");
+  EXPECT_EQ(generalText(-999999), "-999999");
+  EXPECT_EQ(generalText(1e6), "1e+06");
+  EXPECT_EQ(generalText(-0.0), "-0");
   EXPECT_EQ(generalText(1234567.5), "1.23457e+06");
   EXPECT_EQ(generalText(1e-7), "1e-07");
   EXPECT_EQ(readGeneralText("1e+06"), 1000000.0);

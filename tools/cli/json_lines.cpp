@@ -65,10 +65,15 @@ class LineFilter {
   std::string out_;
 };
 
-// The letter behind the backslash of what JSON escapes: 'u' for four digits, 0 for what stands as it is.
-constexpr std::array<char, 128> escapes = [] {
-  std::array<char, 128> letters{};
+// Beyond ASCII; such a text is left to the library.
+constexpr char beyond = '?';
+
+// By byte, the letter behind the backslash of what JSON escapes: 'u' for four digits, 0 for what stands as it
+// is.
+constexpr std::array<char, 256> escapes = [] {
+  std::array<char, 256> letters{};
   std::fill(letters.begin(), letters.begin() + ' ', 'u');
+  std::fill(letters.begin() + 128, letters.end(), beyond);
   letters['\b'] = 'b';
   letters['\f'] = 'f';
   letters['\n'] = 'n';
@@ -121,17 +126,17 @@ void appendJsonText(std::string& out, std::string_view text) {
   *at++ = '"';
   for (const char character : text) {
     const auto code = static_cast<unsigned char>(character);
-    if (code >= escapes.size()) {
-      // Beyond ASCII the library checks and repairs.
-      out.resize(begin);
-      using nlohmann::json;
-      out += json(text).dump(-1, ' ', false, json::error_handler_t::replace);
-      return;
-    }
     const char letter = escapes[code];
     if (letter == 0) {
       *at++ = character;
       continue;
+    }
+    if (letter == beyond) {
+      // The library checks and repairs.
+      out.resize(begin);
+      using nlohmann::json;
+      out += json(text).dump(-1, ' ', false, json::error_handler_t::replace);
+      return;
     }
     *at++ = '\\';
     *at++ = letter;

@@ -21,7 +21,7 @@ qsizetype appendPlain(QStringView text, std::u16string& result) {
   for (const QChar& each : text) {
     const char16_t sign = each.unicode();
     if (u'A' <= sign && sign <= u'Z') {
-      result += sign + u'a' - u'A';
+      result += static_cast<char16_t>(sign + u'a' - u'A');
     } else if (sign < 0x80) {
       if (sign != u'(' && sign != u')') result += sign == u',' ? u'.' : sign;
     } else {
@@ -86,8 +86,8 @@ void SpokenTasks::append(const QString& latex, std::u16string& text) {
   constexpr qsizetype mostKnown = 2'000;
   QVarLengthArray<QStringView, mostNumbers> numbers;
   line_.resize(0);
-  for (auto from = latex.begin(); from != latex.end() && line_.size() < longest;) {
-    const auto to = std::find_if_not(from, latex.end(), isDigit);
+  for (const QChar* from = latex.begin(); from != latex.end() && line_.size() < longest;) {
+    const QChar* const to = std::find_if_not(from, latex.end(), isDigit);
     if (to - from < 2) {
       line_ += *from++;
     } else {
