@@ -122,8 +122,13 @@ static_assert(std::ranges::is_sorted(commands, {}, &Command::name));
 }  // namespace
 
 const Command* findCommand(std::string_view name) {
-  const auto* const command = std::ranges::lower_bound(commands, name, {}, &Command::name);
-  return command != commands.end() && command->name == name ? &*command : nullptr;
+  if (name.empty()) return nullptr;
+  // Few have the same first letter, and of these few the same length.
+  const auto firstLetter = [](const Command& command) { return command.name.front(); };
+  const auto* const first = std::ranges::lower_bound(commands, name.front(), {}, firstLetter);
+  const auto* const last = std::ranges::upper_bound(first, commands.end(), name.front(), {}, firstLetter);
+  const auto* const command = std::ranges::find(first, last, name, &Command::name);
+  return command != last ? command : nullptr;
 }
 
 }  // namespace tavi::typeset
