@@ -339,25 +339,25 @@ constexpr auto darkSizeSteps =
                          {"40-dark-input-800x360", typingAt<Mode::power, 800, 360>},
                          {"41-dark-input-1280x800", typingAt<Mode::root, 1280, 800>},
                          {"42-dark-input-412x870", typingAt<Mode::power, 412, 870>}});
-constexpr auto wideSteps = std::to_array<Step>({{"130-wide-input-1000x700", at<typing, 1000, 700>},
-                                                {"131-wide-1000x700", at<manySteps, 1000, 700>},
-                                                {"132-wide-1280x800", at<manySteps, 1280, 800>},
-                                                {"133-wide-drawer-1280x800", openDrawer},
-                                                {"134-wide-1920x1080", cleared<at<manySteps, 1920, 1080>>},
-                                                {"135-narrow-again", at<manySteps, 412, 870>}});
-constexpr auto darkWideSteps = std::to_array<Step>({{"136-dark-wide-input-1000x700", at<typing, 1000, 700>},
-                                                    {"137-dark-wide-1280x800", at<manySteps, 1280, 800>},
-                                                    {"138-dark-wide-1920x1080", at<manySteps, 1920, 1080>}});
-constexpr auto scaleSteps = std::to_array<Step>({{"140-small-formulas", scaledFormulas<70>},
-                                                 {"141-large-formulas", scaledFormulas<250>},
-                                                 {"142-usual-formulas", usualFormulas}});
+constexpr auto wideSteps = std::to_array<Step>({{"151-wide-input-1000x700", at<typing, 1000, 700>},
+                                                {"152-wide-1000x700", at<manySteps, 1000, 700>},
+                                                {"153-wide-1280x800", at<manySteps, 1280, 800>},
+                                                {"154-wide-drawer-1280x800", openDrawer},
+                                                {"155-wide-1920x1080", cleared<at<manySteps, 1920, 1080>>},
+                                                {"156-narrow-again", at<manySteps, 412, 870>}});
+constexpr auto darkWideSteps = std::to_array<Step>({{"157-dark-wide-input-1000x700", at<typing, 1000, 700>},
+                                                    {"158-dark-wide-1280x800", at<manySteps, 1280, 800>},
+                                                    {"159-dark-wide-1920x1080", at<manySteps, 1920, 1080>}});
+constexpr auto scaleSteps = std::to_array<Step>({{"160-small-formulas", scaledFormulas<70>},
+                                                 {"161-large-formulas", scaledFormulas<250>},
+                                                 {"162-usual-formulas", usualFormulas}});
 constexpr auto startSteps = std::to_array<Step>({{"51-first-consent", firstConsent},
                                                  {"52-introduction-1", introductionPage1},
                                                  {"53-introduction-2", introductionPage2},
                                                  {"54-introduction-3", introductionPage3},
                                                  {"55-introduction-4", introductionPage4},
                                                  {"56-introduction-5", introductionPage5}});
-constexpr auto aroundSteps = std::to_array<Step>({{"43-settings", settings},
+constexpr auto aroundSteps = std::to_array<Step>({{"163-settings", settings},
                                                   {"57-manual", inputManual},
                                                   {"58-locked-videos", lockedVideos},
                                                   {"59-video-consent", videoConsent},
@@ -366,7 +366,7 @@ constexpr auto aroundSteps = std::to_array<Step>({{"43-settings", settings},
                                                   {"62-unknown-video", unknownVideo},
                                                   {"63-advertisement", advertisement},
                                                   {"64-rating", rating}});
-constexpr auto darkAroundSteps = std::to_array<Step>({{"44-dark-settings", settings},
+constexpr auto darkAroundSteps = std::to_array<Step>({{"164-dark-settings", settings},
                                                       {"65-dark-introduction", menuIntroduction},
                                                       {"66-dark-manual", solutionManual},
                                                       {"67-dark-locked-videos", lockedVideos},
@@ -374,7 +374,7 @@ constexpr auto darkAroundSteps = std::to_array<Step>({{"44-dark-settings", setti
                                                       {"69-dark-ready-videos", readyVideos},
                                                       {"70-dark-advertisement", advertisement},
                                                       {"71-dark-rating", rating}});
-constexpr auto tabletAroundSteps = std::to_array<Step>({{"45-tablet-settings", settings},
+constexpr auto tabletAroundSteps = std::to_array<Step>({{"165-tablet-settings", settings},
                                                         {"72-tablet-introduction", menuIntroduction},
                                                         {"73-tablet-manual", inputManual},
                                                         {"74-tablet-locked-videos", lockedVideos},
@@ -413,7 +413,7 @@ constexpr auto narrowSteps = std::to_array<Step>({{"100-narrow-consent", firstCo
                                                   {"124-narrow-clear-history", clearHistory},
                                                   {"125-narrow-empty-history", emptyHistory},
                                                   {"126-narrow-settings", cleared<settings>}});
-constexpr auto lowSteps = std::to_array<Step>({{"47-low-settings", settings},
+constexpr auto lowSteps = std::to_array<Step>({{"166-low-settings", settings},
                                                {"84-low-introduction", menuIntroduction},
                                                {"85-low-manual", inputManual},
                                                {"86-low-videos", lockedVideos},
