@@ -46,7 +46,9 @@ Item {
             tell(true);
         }
         onAboutToHide: tell(false)
-        onClosed: ViewManager.restoreFocus()
+        onOpened: if (!modal && KeyboardUse.isCurrent)
+            forceActiveFocus(Qt.TabFocusReason)
+        onClosed: ViewManager.restoreFocus(page.nextItemInFocusChain())
 
         enter: slide
         exit: slide

@@ -62,9 +62,12 @@ void ViewManager::hideSpinner() {
   QMetaObject::invokeMethod(&shared(), [] { shared().setSpinnerVisible(false); });
 }
 
-void ViewManager::restoreFocus() {
+void ViewManager::restoreFocus(QQuickItem* otherwise) {
   QQuickItem* last = shared().pageFocus_;
-  if (!last || !last->window() || isInPopup(last->window()->activeFocusItem())) return;
+  const bool isGone = !last || !last->window();
+  if (isGone) last = otherwise;
+  if (!last || isInPopup(last->window()->activeFocusItem())) return;
+  if (isGone && last->window()->activeFocusItem() != last->window()->contentItem()) return;
   // What was answered may have hidden it, as it does the lock over the videos.
   if (!last->isVisible() || !last->isEnabled()) last = last->nextItemInFocusChain(false);
   last->forceActiveFocus(Qt::PopupFocusReason);

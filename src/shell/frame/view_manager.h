@@ -48,8 +48,9 @@ class ViewManager : public QObject {
   static void hideSpinner();
 
   /// Gives the focus back to what had it before anything came over the pages, unless something that still
-  /// stands over them has it. For what has just gone.
-  Q_INVOKABLE static void restoreFocus();
+  /// stands over them has it. For what has just gone. Where the page that had it has gone, too, and nothing
+  /// has it, `otherwise` gets it.
+  Q_INVOKABLE static void restoreFocus(QQuickItem* otherwise = nullptr);
 
   /// Lets the pictures in all segmented controls below the item keep their proportions.
   static void prepareSegmentedControls(const QQuickItem& item);

@@ -100,5 +100,21 @@ TEST_F(SideBySideTest, WhatHasTheKeyboardStaysWhenTheRoomGoesAndComes) {
   EXPECT_TRUE(input().xTextField.front()->isFirstResponder());
 }
 
+TEST_F(SideBySideTest, APageThatTheMenuOpensByKeyHasTheKeyboard) {
+  const auto focus = [this] {
+    const QQuickItem* item = window()->activeFocusItem();
+    return item != nullptr ? item->objectName() : QString();
+  };
+  for (const QSize size : {QSize(1280, 800), QSize(412, 870)}) {
+    resize(size.width(), size.height());
+    for (int i = 0; i < 40 && focus() != "menuButton"; ++i) QTest::keyClick(window(), Qt::Key_Tab);
+    QTest::keyClick(window(), Qt::Key_Return);
+    ASSERT_TRUE(waitUntil([&] { return focus().startsWith("menuRow"); })) << qPrintable(focus());
+    for (int i = 0; i < 3 && focus() != "menuRow 0 1"; ++i) QTest::keyClick(window(), Qt::Key_Tab);
+    QTest::keyClick(window(), Qt::Key_Return);
+    EXPECT_TRUE(waitUntil([&] { return focus() == "menuButton"; })) << qPrintable(focus());
+  }
+}
+
 }  // namespace
 }  // namespace tavi
