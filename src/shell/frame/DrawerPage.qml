@@ -27,6 +27,9 @@ Item {
         // The menu is made when it is first seen.
         property bool isMade: false
 
+        // Beside the pages it takes the keyboard only where a key opened it.
+        property bool isByKey: false
+
         function tell(isOpened) {
             isTelling = true;
             page.controller.isLeftViewOpened = isOpened;
@@ -43,10 +46,11 @@ Item {
         Component.onCompleted: contentItem.parent.Accessible.name = qsTrId("menuButton")
         onAboutToShow: {
             isMade = true;
+            isByKey = !modal && KeyboardUse.isCurrent;
             tell(true);
         }
         onAboutToHide: tell(false)
-        onOpened: if (!modal && KeyboardUse.isCurrent)
+        onOpened: if (isByKey)
             forceActiveFocus(Qt.TabFocusReason)
         onClosed: ViewManager.restoreFocus(page.nextItemInFocusChain())
 
