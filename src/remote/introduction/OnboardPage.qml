@@ -24,6 +24,7 @@ Rectangle {
         snapMode: ListView.SnapOneItem
         highlightRangeMode: ListView.StrictlyEnforceRange
         highlightMoveDuration: 200
+        highlightResizeDuration: 0 // It is not seen, but would go on for two seconds, a frame after the other.
         boundsBehavior: Flickable.StopAtBounds
         clip: true
         model: page.controller.pages

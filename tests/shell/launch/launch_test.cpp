@@ -76,6 +76,17 @@ TEST_F(LaunchTest, ShowsTheIntroductionAndThePrivacyTextUntilEachIsDone) {
   }
 }
 
+// What moves unseen has the window drawn again and again.
+TEST_F(LaunchTest, NothingMovesUnseenInTheIntroduction) {
+  preferences.setValue("isDsgvoAccepted", true);
+  launch();
+  ASSERT_TRUE(QTest::qWaitForWindowExposed(delegate->window()));
+  ViewController* introduction = delegate->drawer()->presentedController();
+  ASSERT_TRUE(introduction);
+  const auto* pages = introduction->view()->findChild<QQuickItem*>("onboardPages");
+  EXPECT_EQ(pages->property("highlightItem").value<QQuickItem*>()->width(), pages->width());
+}
+
 TEST_F(LaunchTest, AsksForARatingOnTheFifthVisitOfTheInputPage) {
   preferences.setValue("isOnboardingFinished", true);
   preferences.setValue("isDsgvoAccepted", true);
