@@ -32,4 +32,10 @@ QString unusedFile(const QDir& folder, const QString& name, QLatin1StringView en
   return file;
 }
 
+QString withEnding(const QString& path, QLatin1StringView ending) {
+  if (path.endsWith(ending, Qt::CaseInsensitive)) return path;
+  const QFileInfo file(path);
+  return unusedFile(file.dir(), file.fileName(), ending);
+}
+
 }  // namespace tavi

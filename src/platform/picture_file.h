@@ -27,4 +27,8 @@ QDir userFolder(QStandardPaths::StandardLocation location);
 /// The path of a file of about that name that is not in the folder yet. The ending begins with its point.
 QString unusedFile(const QDir& folder, const QString& name, QLatin1StringView ending);
 
+/// The path with that ending. One that is given it here is of no file that is there, as the dialog in which
+/// it was chosen asked about the path without.
+QString withEnding(const QString& path, QLatin1StringView ending);
+
 }  // namespace tavi

@@ -138,6 +138,18 @@ TEST_F(ShareSheetTest, SavesThePictureAsItIs) {
   EXPECT_EQ(QImage(folder.filePath("mine.png")).convertToFormat(QImage::Format_RGB32), picture);
 }
 
+TEST_F(ShareSheetTest, ReplacesNoFileThatTheDialogDidNotAskAbout) {
+  for (const auto& [chosen, written] :
+       {std::pair{"mine", "mine.png"}, {"mine", "mine (2).png"}, {"mine.jpg", "mine.jpg.png"}}) {
+    ShareSheetController sheet({.picture = picture, .subject = "2 to the power of 3"});
+    sheet.saveAs(QUrl::fromLocalFile(folder.filePath(chosen)));
+    waitUntilWritten(sheet);
+    EXPECT_EQ(QImage(folder.filePath(written)).size(), picture.size()) << written;
+    picture = QImage(3, 3, QImage::Format_RGB32);
+  }
+  EXPECT_EQ(QImage(folder.filePath("mine.png")).size(), QSize(200, 200));
+}
+
 TEST_F(ShareSheetTest, SaysWhenAFolderCannotBeWrittenTo) {
   for (const QUrl& file :
        {QUrl::fromLocalFile("/proc/no folder/x.png"), QUrl::fromLocalFile(folder.filePath("none/x.png")),

@@ -53,10 +53,8 @@ QUrl HistoryTransfer::proposedFile() {
 }
 
 void HistoryTransfer::exportTo(const QUrl& file) {
-  QString path = file.toLocalFile();
-  if (path.isEmpty()) return say(localized("sharingNotWritable"));
-  if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
-  detached(write(path));
+  if (file.toLocalFile().isEmpty()) return say(localized("sharingNotWritable"));
+  detached(write(withEnding(file.toLocalFile(), ending)));
 }
 
 void HistoryTransfer::importFrom(const QUrl& file) {

@@ -84,10 +84,8 @@ void ShareSheetController::save() {
 }
 
 void ShareSheetController::saveAs(const QUrl& file) {
-  QString path = file.toLocalFile();
-  if (path.isEmpty()) return setState(false, localized("sharingNotWritable"));
-  const QLatin1StringView ending = fileKind(format_).ending;
-  if (!path.endsWith(ending, Qt::CaseInsensitive)) path += ending;
+  if (file.toLocalFile().isEmpty()) return setState(false, localized("sharingNotWritable"));
+  const QString path = withEnding(file.toLocalFile(), fileKind(format_).ending);
   detached(write(path, [this, path] {
     const auto show = [&links = links_, path] {
       if (!links.openFile(path)) ViewManager::showToast(localized("sharingNoViewer"));

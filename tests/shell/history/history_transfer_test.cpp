@@ -99,6 +99,15 @@ TEST_F(HistoryTransferTest, ABadFileChangesNothingAndIsToldOf) {
   EXPECT_EQ(alert()->message(), localized("historyUnreadable"));
 }
 
+TEST_F(HistoryTransferTest, ReplacesNoFileThatTheDialogDidNotAskAbout) {
+  const QString former = exported();
+  store.clearCalculations();
+  history->transfer()->exportTo(QUrl::fromLocalFile(QString(former).remove(".json")));
+  ASSERT_TRUE(waitUntil([] { return !toast().isEmpty(); }));
+  import(former);
+  EXPECT_EQ(stored(), QStringList({"A", "B", "C"}));
+}
+
 TEST_F(HistoryTransferTest, AFileThatCannotBeWrittenIsToldOf) {
   history->transfer()->exportTo(QUrl::fromLocalFile("/dev/full/history"));
   ASSERT_TRUE(waitUntil([this] { return alert() != nullptr; }));
