@@ -66,7 +66,8 @@ void ViewManager::restoreFocus(QQuickItem* otherwise) {
   QQuickItem* last = shared().pageFocus_;
   const bool isGone = !last || !last->window();
   if (isGone) last = otherwise;
-  if (!last || isInPopup(last->window()->activeFocusItem())) return;
+  // A window behind another has no active item, but knows what is to have the focus in it.
+  if (!last || isInPopup(last->window()->contentItem()->scopedFocusItem())) return;
   if (isGone && last->window()->activeFocusItem() != last->window()->contentItem()) return;
   // What was answered may have hidden it, as it does the lock over the videos.
   if (!last->isVisible() || !last->isEnabled()) last = last->nextItemInFocusChain(false);

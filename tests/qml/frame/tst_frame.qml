@@ -19,6 +19,14 @@ Item {
     ToastLayer {
     }
 
+    Component {
+        id: otherWindow
+
+        Window {
+            visible: true
+        }
+    }
+
     TestCase {
         name: "Frame"
         when: windowShown
@@ -332,6 +340,21 @@ Item {
             item("tab1").visible = false;
             keyClick(Qt.Key_Return);
             tryVerify(() => focused() === "tab0");
+        }
+
+        function test_a_toast_that_goes_behind_another_window_leaves_the_focus_in_what_is_presented() {
+            item("tab1").forceActiveFocus(Qt.TabFocusReason);
+            stage.ask(["OK"]);
+            tryVerify(() => focused() === "alertAction0");
+            stage.toast("Gone");
+            const other = createTemporaryObject(otherWindow, root);
+            other.requestActivate();
+            tryVerify(() => !root.Window.activeFocusItem);
+            stage.toast("");
+            verify(!isShown("toast"));
+            root.Window.window.requestActivate();
+            tryVerify(() => root.Window.activeFocusItem);
+            compare(focused(), "alertAction0");
         }
 
         function test_what_is_presented_lies_over_the_menu_and_waits_its_turn() {
