@@ -19,7 +19,7 @@ NAMES = {1: FAMILY, 2: "Regular", 3: FAMILY, 4: FAMILY, 6: FAMILY.replace(" ", "
 def main():
     source, icons, output = sys.argv[1:]
     points = {int(digits, 16) for digits in re.findall(r'"\\u([0-9a-f]{4})"', Path(icons).read_text())}
-    font = TTFont(source)
+    font = TTFont(source, recalcBBoxes=False)
     missing = points - font.getBestCmap().keys()
     if missing:
         sys.exit(f"{source} has no icon for " + ", ".join(f"U+{point:04X}" for point in sorted(missing)))
