@@ -16,7 +16,17 @@
 namespace tavi {
 namespace {
 
-class SolutionPageTest : public SolutionStage {};
+class SolutionPageTest : public SolutionStage {
+ protected:
+  void knowVideos(const QStringList& identifiers) {
+    QJsonArray links;
+    for (const QString& each : identifiers)
+      links.append("https://" + ProjectSettings::shared().videoHost + "/watch?v=" + each);
+    RemoteConfigSettings settings;
+    settings.defaults = {{"videoTutorials", QJsonObject{{"QRX", QJsonObject{{"en", links}}}}}};
+    remoteConfigManager.loadVideoTutorials(RemoteConfigService(settings, folder.filePath("known.sqlite")));
+  }
+};
 
 TEST_F(SolutionPageTest, ARowGrowsWhereItsFormulaWouldBeCut) {
   std::string tower = "1";
@@ -346,26 +356,48 @@ TEST_F(SolutionPageTest, ARowIsReadAsOneThing) {
 }
 
 TEST_F(SolutionPageTest, TheRowOfVideosSaysWhatItIs) {
-  const QJsonObject links{{"en", QJsonArray{"https://videos.example.org/watch?v=abcdefghi_-"}}};
-  RemoteConfigSettings settings;
-  settings.defaults = {{"videoTutorials", QJsonObject{{"QRX", links}}}};
-  const RemoteConfigService known(settings, folder.filePath("known.sqlite"));
-  remoteConfigManager.loadVideoTutorials(known);
+  knowVideos({"abcdefghi_-"});
+  host.setHeight(400);
   show({formulaStep("Result", "1")});
   const auto rows = cells();
   ASSERT_EQ(rows.size(), 2U);
+  const QQuickItem* card = shownItem(*rows[1], "videoRow");
+  EXPECT_EQ(rows[1]->height(), card->y() + card->height()) << "nothing blank below";
   QAccessibleInterface* interface = QAccessible::queryAccessibleInterface(rows[1]);
   ASSERT_TRUE(interface);
   EXPECT_EQ(interface->role(), QAccessible::Grouping);
   EXPECT_EQ(interface->text(QAccessible::Name), localized("recommendedVideoIfUnclear"));
 }
 
+TEST_F(SolutionPageTest, TheWheelScrollsAlsoOverAPlayer) {
+  QFile player(folder.filePath("Player.qml"));
+  ASSERT_TRUE(player.open(QFile::WriteOnly));
+  player.write(
+      "import QtQuick\nMouseArea { readonly property bool isReady: true; function play(page, address) {}\n"
+      "onWheel: wheel => wheel.accepted = true }");
+  player.close();
+  knowVideos({"abcdefghi_1", "abcdefghi_2", "abcdefghi_3"});
+  preferences.setValue(preferences::isYoutubeDsgvoAccepted, true);
+  solution->videos()->setPlayerSource(QUrl::fromLocalFile(player.fileName()));
+  show({formulaStep("Result", "1")});
+  QQuickItem* videos = shownItem(table(), "videoCollection");
+  const auto turn = [this, videos](QPoint angle) {
+    const QPointF place = videos->mapToScene({100, 100});
+    QWheelEvent event(place, window.mapToGlobal(place), {}, angle, Qt::NoButton, {}, Qt::NoScrollPhase,
+                      false);
+    QCoreApplication::sendEvent(&window, &event);
+  };
+  const double top = table().property("contentY").toDouble();
+  turn({0, -40});
+  EXPECT_EQ(table().property("contentY").toDouble(), top + 40);
+  turn({-120, 0});
+  EXPECT_EQ(videos->property("contentX").toDouble(), 104);
+  turn({480, 0});
+  EXPECT_TRUE(QTest::qWaitFor([videos] { return videos->property("contentX").toDouble() == -16; }));
+}
+
 TEST_F(SolutionPageTest, TheKeyboardGoesFromTheLockToOneVideoAfterTheOther) {
-  const QString watch = "https://" + ProjectSettings::shared().videoHost + "/watch?v=";
-  const QJsonObject links{{"en", QJsonArray{watch + "abcdefghi_1", watch + "abcdefghi_2", watch + "short"}}};
-  RemoteConfigSettings settings;
-  settings.defaults = {{"videoTutorials", QJsonObject{{"QRX", links}}}};
-  remoteConfigManager.loadVideoTutorials(RemoteConfigService(settings, folder.filePath("known.sqlite")));
+  knowVideos({"abcdefghi_1", "abcdefghi_2", "short"});
   solution->videos()->setPlayerSource(QUrl("qrc:/no/such/player.qml"));
   show({formulaStep("Result", "1")});
   const auto named = [this] {

@@ -12,7 +12,7 @@ TableRow {
     readonly property real offset: table ? y - table.contentY : 0
     readonly property bool isInSight: Window.window !== null && table !== null && offset + card.y + card.height > 0 && offset + card.y < table.height
 
-    height: rowHeight.at(viewWidth)
+    height: card.y + card.height
     Accessible.role: Accessible.Grouping
     Accessible.name: titleLabel.text
     Component.onCompleted: videos.awakeFromNib()
@@ -23,8 +23,7 @@ TableRow {
         objectName: "videoRow"
         y: row.measures.pageMargin
         width: parent.width
-        // In a wide window the row is higher than videos need.
-        height: row.measures.videoCardHeight(row.height, row.table ? row.table.height : row.height)
+        height: row.measures.videoCardHeight(row.rowHeight.at(row.viewWidth), row.table ? row.table.height : Infinity)
         radius: row.measures.corner
         color: Theme.background
 
@@ -154,6 +153,24 @@ TableRow {
                     number: cell.index + 1
                     link: cell.modelData
                     isInSight: row.isInSight && cell.x + cell.width > collection.contentX && cell.x < collection.contentX + collection.width
+                }
+            }
+        }
+        // Over the videos, as a web view would keep the wheel to itself.
+        Item {
+            anchors.fill: collection
+            visible: collection.visible
+
+            WheelHandler {
+                acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                onWheel: event => row.table.scrollBy(-event.angleDelta.y)
+            }
+            WheelHandler {
+                acceptedDevices: PointerDevice.Mouse | PointerDevice.TouchPad
+                orientation: Qt.Horizontal
+                onWheel: event => {
+                    collection.contentX -= event.angleDelta.x;
+                    collection.returnToBounds();
                 }
             }
         }
