@@ -14,7 +14,7 @@ Item {
         width: parent.width - x
         height: parent.height
         controller: page.controller.rootController
-        isCovered: drawer.modal && drawer.visible
+        isCovered: drawer.dim && drawer.visible
         Accessible.role: Accessible.Pane
     }
 
@@ -39,14 +39,15 @@ Item {
         width: Math.min(304, 0.8 * page.width)
         height: page.height
         edge: Qt.LeftEdge
-        modal: !page.isWide
-        dim: modal
-        focus: modal
-        closePolicy: modal ? T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose
+        // Not below what is presented, from which it would keep the wheel.
+        modal: dim && !page.controller.presentedController
+        dim: !page.isWide
+        focus: dim
+        closePolicy: dim ? T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutside : T.Popup.NoAutoClose
         Component.onCompleted: contentItem.parent.Accessible.name = qsTrId("menuButton")
         onAboutToShow: {
             isMade = true;
-            isByKey = !modal && KeyboardUse.isCurrent;
+            isByKey = !dim && KeyboardUse.isCurrent;
             tell(true);
         }
         onAboutToHide: tell(false)
@@ -57,6 +58,8 @@ Item {
         enter: slide
         exit: slide
         T.Overlay.modal: Veil {
+        }
+        T.Overlay.modeless: Veil {
         }
         background: Item {
             Shadow {

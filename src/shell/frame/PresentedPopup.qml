@@ -39,7 +39,8 @@ T.Popup {
     z: 1 // Over an open drawer.
     width: wanted(room).width
     height: wanted(room).height
-    modal: true
+    // Only the uppermost: another below it would keep the wheel from it.
+    modal: !controller.presentedController
     dim: isCard || isSheet
     focus: true
     visible: true
@@ -58,6 +59,8 @@ T.Popup {
     }
 
     T.Overlay.modal: Veil {
+    }
+    T.Overlay.modeless: Veil {
     }
     background: Rectangle {
         objectName: "sheet"

@@ -333,6 +333,17 @@ Item {
             tryVerify(() => !isShown("sheet"));
         }
 
+        function test_the_wheel_scrolls_an_alert_over_the_menu() {
+            openMenu();
+            stage.ask(Array(20).fill("Yes"));
+            tryVerify(() => isShown("sheetThumb"));
+            const scroll = item("sheetScroll");
+            mouseWheel(scroll, scroll.width / 2, scroll.height / 2, 0, -120);
+            tryVerify(() => scroll.contentY > 0);
+            keyClick(Qt.Key_Return);
+            tryVerify(() => !isShown("sheet"));
+        }
+
         function test_the_focus_does_not_return_to_what_was_hidden_meanwhile() {
             item("tab1").forceActiveFocus(Qt.TabFocusReason);
             stage.ask(["OK"]);

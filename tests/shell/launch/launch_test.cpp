@@ -87,6 +87,23 @@ TEST_F(LaunchTest, NothingMovesUnseenInTheIntroduction) {
   EXPECT_EQ(pages->property("highlightItem").value<QQuickItem*>()->width(), pages->width());
 }
 
+TEST_F(LaunchTest, ThePrivacyTextOverTheIntroductionScrollsByTheWheel) {
+  launch();
+  QQuickWindow& window = *delegate->window();
+  window.resize(412, 120);
+  const ViewController* introduction = delegate->drawer()->presentedController();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return introduction->presentedController(); }));
+  QQuickItem* scroll = introduction->presentedController()->view();
+  ASSERT_TRUE(QTest::qWaitFor([&] { return scroll->isVisible(); }));
+  while (scroll->objectName() != "sheetScroll") scroll = scroll->parentItem();
+  window.grabWindow();
+  const QPointF place = scroll->mapToScene({100, 60});
+  QWheelEvent turn(place, window.mapToGlobal(place), {}, {0, -120}, Qt::NoButton, {}, Qt::NoScrollPhase,
+                   false);
+  QCoreApplication::sendEvent(&window, &turn);
+  EXPECT_TRUE(QTest::qWaitFor([scroll] { return scroll->property("contentY").toDouble() > 0; }));
+}
+
 TEST_F(LaunchTest, AsksForARatingOnTheFifthVisitOfTheInputPage) {
   preferences.setValue("isOnboardingFinished", true);
   preferences.setValue("isDsgvoAccepted", true);
