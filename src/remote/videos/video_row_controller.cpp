@@ -1,7 +1,9 @@
 #include "remote/videos/video_row_controller.h"
 
 #include <QCoreApplication>
+#include <QDir>
 #include <QLibrary>
+#include <algorithm>
 
 #include "appearance/color_manager.h"
 #include "remote/consent/dsgvo_manager.h"
@@ -16,10 +18,16 @@ namespace {
 
 /// Loads what is behind the system's web view, where that is installed, by its own `QtWebView::initialize`:
 /// the application is not linked with it. The import in QML alone would do it on the thread that reads QML,
-/// and that ends the process.
-void loadWebView() {
+/// and that ends the process. Says whether there is a plug-in with an engine; without one the view would
+/// complain and stay empty.
+bool loadWebView() {
+  const bool hasEngine = std::ranges::any_of(QCoreApplication::libraryPaths(), [](const QString& plugins) {
+    return !QDir(plugins + QStringLiteral("/webview")).isEmpty();
+  });
+  if (!hasEngine) return false;
   if (auto* initialize = QLibrary::resolve(QStringLiteral("Qt6WebView"), 6, "_ZN9QtWebView10initializeEv"))
     initialize();
+  return true;
 }
 
 }  // namespace
@@ -72,7 +80,7 @@ QUrl VideoRowController::systemPlayer() {
 QQmlComponent* VideoRowController::player() {
   if (isLocked_ || !page_.engine()) return nullptr;
   if (!player_) {
-    if (playerSource_ == systemPlayer()) loadWebView();
+    if (playerSource_ == systemPlayer() && !loadWebView()) return nullptr;
     player_ = std::make_unique<QQmlComponent>(page_.engine(), playerSource_);
     QQmlEngine::setObjectOwnership(player_.get(), QQmlEngine::CppOwnership);
   }

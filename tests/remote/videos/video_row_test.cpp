@@ -118,8 +118,12 @@ TEST_F(VideoRowTest, NothingIsAskedOfTheServiceBeforeTheUserAgreesAndPlayersGoWh
 
 TEST_F(VideoRowTest, WithoutAWebViewATapOpensTheBrowser) {
   preferences.setValue("isYoutubeDsgvoAccepted", true);
-  videos().setPlayerSource(playerFile("import No.Such.Module\nItem {}"));
   videos().awakeFromNib();
+  const QStringList plugins = QCoreApplication::libraryPaths();
+  QCoreApplication::setLibraryPaths({folder.path()});
+  EXPECT_EQ(videos().player(), nullptr) << "the module alone is not enough";
+  QCoreApplication::setLibraryPaths(plugins);
+  videos().setPlayerSource(playerFile("import No.Such.Module\nItem {}"));
   EXPECT_EQ(videos().player(), nullptr);
   videos().openOutside("https:videos.example.org/shorts/a/../b?c&de");
   EXPECT_EQ(opened, "https://videos.example.org/watch?v=a%2F..%2Fb%3Fc%26de");
