@@ -17,8 +17,6 @@ Rectangle {
         y: page.isLow ? 16 : closeButton.y + closeButton.height + 8
         width: page.isLow ? parent.width - discountButton.width - 64 : parent.width - 32
         height: (page.isLow ? parent.height - 16 : discountButton.y - 24) - y
-        Accessible.role: Accessible.Graphic
-        Accessible.name: page.controller.discountTitle
     }
     ActionButton {
         id: closeButton

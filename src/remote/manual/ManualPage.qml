@@ -41,8 +41,7 @@ Item {
                 const x = (contentX + point.x) * grown - point.x;
                 const y = (contentY + point.y) * grown - point.y;
                 zoom = next;
-                contentX = Math.max(0, Math.min(contentWidth - width, x));
-                contentY = Math.max(0, Math.min(contentHeight - height, y));
+                move(x - contentX, y - contentY);
             }
 
             function move(x, y) {

@@ -8,6 +8,8 @@ Item {
     property real rating: 0
     readonly property int count: 5
     readonly property real side: Math.min(56, width / count)
+    readonly property real oneMore: Math.min(count, Math.floor(rating) + 1)
+    readonly property real oneLess: Math.max(1, Math.ceil(rating) - 1)
 
     // What a screen reader asks of a slider.
     readonly property real value: rating
@@ -29,14 +31,14 @@ Item {
     Accessible.role: Accessible.Slider
     Accessible.name: qsTrId("ratingStars").arg(rating).arg(count)
     Accessible.focusable: true
-    Accessible.onIncreaseAction: given(Math.min(count, Math.floor(rating) + 1))
-    Accessible.onDecreaseAction: given(Math.max(1, Math.ceil(rating) - 1))
+    Accessible.onIncreaseAction: given(oneMore)
+    Accessible.onDecreaseAction: given(oneLess)
     Keys.onPressed: event => {
         const next = {
-            [Qt.Key_Right]: Math.min(count, Math.floor(rating) + 1),
-            [Qt.Key_Up]: Math.min(count, Math.floor(rating) + 1),
-            [Qt.Key_Left]: Math.max(1, Math.ceil(rating) - 1),
-            [Qt.Key_Down]: Math.max(1, Math.ceil(rating) - 1),
+            [Qt.Key_Right]: oneMore,
+            [Qt.Key_Up]: oneMore,
+            [Qt.Key_Left]: oneLess,
+            [Qt.Key_Down]: oneLess,
             [Qt.Key_Home]: 1,
             [Qt.Key_End]: count
         }[event.key] ?? (event.key > Qt.Key_0 && event.key <= Qt.Key_0 + count ? event.key - Qt.Key_0 : 0);
