@@ -34,6 +34,7 @@ Item {
         function init() {
             root.width = 412;
             root.height = 800;
+            tryCompare(root.Window, "height", 800); // A window that still follows keeps clicks from buttons.
             stage.open(holder);
         }
 
