@@ -26,12 +26,12 @@ void TaviInputManager::outputInput(bool keepSigns) {
       isAnyNumberChanged ? LocalizedString::modifiedInput.text() : LocalizedString::yourInput.text();
   if (inputFormatMode == FormatMode::formula) {
     const std::string_view format = inputFormat.empty() ? "" : std::string_view(inputFormat.front());
-    outputHelper.addStep(title, taskLatex(format, allInputs, keepSigns));
+    outputHelper.addStep(std::string(title), taskLatex(format, allInputs, keepSigns));
     return;
   }
   for (std::size_t i = 0; i < allInputs.size(); ++i) {
     const std::string line = taskLatex(elementAt(inputFormat, i), std::span(&allInputs[i], 1), keepSigns);
-    outputHelper.addStep(title, joined({line, " ", unitLatex(i), "\n"}));
+    outputHelper.addStep(std::string(title), joined({line, " ", unitLatex(i), "\n"}));
     title = "";
   }
 }
@@ -73,7 +73,7 @@ void TaviInputManager::eliminateDecimals() {
 void TaviInputManager::writeExpansions(std::vector<DecimalElimination> eliminations) {
   std::string_view title = LocalizedString::expand.text();
   for (DecimalElimination& elimination : eliminations) {
-    outputHelper.addStep(title, std::move(elimination.latex));
+    outputHelper.addStep(std::string(title), std::move(elimination.latex));
     title = "";
   }
 }
@@ -95,7 +95,7 @@ void TaviInputManager::cancelInputs() {
     if (!cancellation) continue;
     const std::string oldLatex = latexWithSigns(*number, true);
     number = cancellation->digit;
-    outputHelper.addStep(title, joined({oldLatex, "= ", cancellation->latex}));
+    outputHelper.addStep(std::string(title), joined({oldLatex, "= ", cancellation->latex}));
     title = "";
     isAnyNumberChanged = true;
   }

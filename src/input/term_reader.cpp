@@ -68,6 +68,12 @@ std::string withoutSymbol(const std::string& text, std::string_view symbol) {
 }  // namespace
 
 SubstringAnalysis analyseSubstring(const std::string& text) {
+  // Most are plain numbers: all symbols come behind the digits in the order of the bytes.
+  if (std::ranges::none_of(text, [](unsigned char byte) { return byte > '9'; })) {
+    SubstringAnalysis plain{.value = readNumber(text)};
+    if (!plain.value) plain.errorKey = TaviError::inputParameterError;
+    return plain;
+  }
   SubstringAnalysis analysis = findNaturalConstants(text);
   if (analysis.errorKey) return analysis;
   std::string number = text;

@@ -59,11 +59,11 @@ std::optional<std::string> readTerm(const std::string& text, bool isFractionForc
   std::string term = text;
   std::erase_if(term, [](char character) { return character == '(' || character == ')'; });
   const bool isFraction = term.find('/') != std::string::npos;
-  const std::vector<std::string_view> pieces = splitDroppingEmpty(term, '/');
+  const auto pieces = isFraction ? splitDroppingEmpty(term, '/') : std::vector<std::string_view>();
   if (isFraction && pieces.size() < 2) return std::string(TaviError::fractionIncomplete);
   if (term.empty()) return std::nullopt;
 
-  SubstringAnalysis numerator = analyseSubstring(std::string(pieces.front()));
+  SubstringAnalysis numerator = analyseSubstring(isFraction ? std::string(pieces.front()) : term);
   if (numerator.errorKey) return numerator.errorKey;
   number.z = numerator.value;
   number.zConstants = std::move(numerator.constants);
@@ -143,6 +143,7 @@ TypedTask typedTask(AnalysisRequest request) {
     task.isWithFraction |= bars(texts[i]) > 0;
     if (bars(texts[i]) > 1) return failed(TaviError::inputParameterError, {i});
   }
+  task.numbers.reserve(texts.size());
   const bool isFractionForced = task.isWithFraction && task.request.isAllFractionIfOccuredOnce;
   for (std::size_t i = 0; i < texts.size(); ++i) {
     const auto number = std::make_shared<Digit>();

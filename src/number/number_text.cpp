@@ -126,10 +126,15 @@ double readGeneralText(std::string_view text) {
 std::optional<double> readNumber(const std::string& text) {
   const char first = text.empty() ? '\0' : text.front();
   if (first == '\0' || first == ' ' || (first >= '\t' && first <= '\r')) return std::nullopt;
-  // strtod and not from_chars, which takes no plus sign and tells no value for digits beyond the range.
+  const char* const last = text.c_str() + text.size();
+  double value = 0;
+  if (const auto read = std::from_chars(text.c_str(), last, value);
+      read.ec == std::errc() && read.ptr == last)
+    return value;
+  // It takes no plus sign and tells no value for digits beyond the range.
   char* end = nullptr;
-  const double value = strtod_l(text.c_str(), &end, posixLocale());
-  if (end != text.c_str() + text.size()) return std::nullopt;
+  value = strtod_l(text.c_str(), &end, posixLocale());
+  if (end != last) return std::nullopt;
   return value;
 }
 

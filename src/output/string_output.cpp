@@ -13,9 +13,9 @@ TaviStringOutput& TaviStringOutput::shared() {
   return instance;
 }
 
-void TaviStringOutput::addStep(std::string_view title, std::string latexString) {
+void TaviStringOutput::addStep(std::string title, std::string latexString) {
   SolutionStep& step = solutionSteps.emplace_back();
-  step.title.emplace(title);
+  step.title.emplace(std::move(title));
   step.latexString.emplace(std::move(latexString));
 }
 

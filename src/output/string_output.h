@@ -48,7 +48,7 @@ class TaviStringOutput {
   TaviStringOutput() = default;
   static TaviStringOutput& shared();
 
-  void addStep(std::string_view title, std::string latexString);
+  void addStep(std::string title, std::string latexString);
 
   /// Counts one more numbered step and returns its title line, such as "Step 3    Extract a root".
   std::string numberedTitle(std::string_view title);

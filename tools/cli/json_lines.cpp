@@ -65,26 +65,17 @@ class LineFilter {
   std::string out_;
 };
 
-// Beyond ASCII; such a text is left to the library.
-constexpr char beyond = '?';
+// How each byte is written in a JSON text.
+enum Writing : unsigned { asItStands = 0, escaped = 1, byLibrary = 2 };
 
-// By byte, the letter behind the backslash of what JSON escapes: 'u' for four digits, 0 for what stands as it
-// is.
-constexpr std::array<char, 256> escapes = [] {
-  std::array<char, 256> letters{};
-  std::fill(letters.begin(), letters.begin() + ' ', 'u');
-  std::fill(letters.begin() + 128, letters.end(), beyond);
-  letters['\b'] = 'b';
-  letters['\f'] = 'f';
-  letters['\n'] = 'n';
-  letters['\r'] = 'r';
-  letters['\t'] = 't';
-  letters['"'] = '"';
-  letters['\\'] = '\\';
-  return letters;
+constexpr std::array<unsigned char, 256> writings = [] {
+  std::array<unsigned char, 256> kinds{};
+  std::fill(kinds.begin(), kinds.begin() + ' ', byLibrary);
+  std::fill(kinds.begin() + 128, kinds.end(), byLibrary);
+  kinds['"'] = escaped;
+  kinds['\\'] = escaped;
+  return kinds;
 }();
-
-constexpr std::size_t longestEscape = 6;
 
 }  // namespace
 
@@ -121,32 +112,23 @@ bool writeOut(std::string& out) {
 
 void appendJsonText(std::string& out, std::string_view text) {
   const std::size_t begin = out.size();
-  out.resize(begin + text.size() * longestEscape + 2);
+  out.resize(begin + text.size() * 2 + 2);
   char* at = &out[begin];
   *at++ = '"';
+  unsigned seen = asItStands;
   for (const char character : text) {
-    const auto code = static_cast<unsigned char>(character);
-    const char letter = escapes[code];
-    if (letter == 0) {
-      *at++ = character;
-      continue;
-    }
-    if (letter == beyond) {
-      // The library checks and repairs.
-      out.resize(begin);
-      using nlohmann::json;
-      out += json(text).dump(-1, ' ', false, json::error_handler_t::replace);
-      return;
-    }
-    *at++ = '\\';
-    *at++ = letter;
-    if (letter == 'u') {
-      constexpr std::string_view digits = "0123456789abcdef";
-      for (const unsigned digit : {0U, 0U, code / 16U, code % 16U}) *at++ = digits[digit];
-    }
+    const unsigned writing = writings[static_cast<unsigned char>(character)];
+    if (writing == escaped) *at++ = '\\';
+    *at++ = character;
+    seen |= writing;
   }
   *at++ = '"';
   out.resize(static_cast<std::size_t>(at - out.data()));
+  if ((seen & byLibrary) == 0) return;
+  // Control characters, and what may be no UTF-8 and is repaired then.
+  using nlohmann::json;
+  out.resize(begin);
+  out += json(text).dump(-1, ' ', false, json::error_handler_t::replace);
 }
 
 }  // namespace tavi::cli
