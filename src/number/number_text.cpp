@@ -123,6 +123,10 @@ double readGeneralText(std::string_view text) {
   return value;
 }
 
+double roundedToSixDigits(double value) {
+  return isWholeBelow(sixDigits, value) ? value : readGeneralText(generalText(value));
+}
+
 std::optional<double> readNumber(const std::string& text) {
   const char first = text.empty() ? '\0' : text.front();
   if (first == '\0' || first == ' ' || (first >= '\t' && first <= '\r')) return std::nullopt;

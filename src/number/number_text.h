@@ -19,6 +19,9 @@ std::string generalText(double value);
 /// Reads a text of `generalText` back; inf and nan, too.
 double readGeneralText(std::string_view text);
 
+/// What is left of a number by that way there and back: six significant digits.
+double roundedToSixDigits(double value);
+
 /// The double that a whole text stands for, by the rules of strtod in the POSIX locale: signs, a trailing
 /// point and a missing integer part are accepted, digits beyond the range give infinity or zero. Absent for
 /// anything else, for an empty text and for one that starts with white space.

@@ -52,7 +52,7 @@ std::string numericPart(const Digit& digit, double z, const DigitStyle& style) {
 
   std::string numerator = side(decimalText(shown(z), style.maximumFractionDigits), digit.zConstants);
   if (n == 1 && digit.nConstants.empty() && !style.forceFraction) return numerator.insert(0, sign);
-  const double shortened = readGeneralText(generalText(shown(n)));
+  const double shortened = roundedToSixDigits(shown(n));
   if (!std::isfinite(shortened)) fatalStop("a denominator that is no finite number");
   const std::string denominator = side(decimalText(shortened, style.maximumFractionDigits), digit.nConstants);
   return joined({sign, "\\frac{", numerator, "}{", denominator, "}"});

@@ -91,9 +91,12 @@ TEST(NumberText, GeneralTextKeepsSixDigitsAndReadsBack) {
   EXPECT_EQ(generalText(1234567.5), "1.23457e+06");
   EXPECT_EQ(generalText(1e-7), "1e-07");
   EXPECT_EQ(readGeneralText("1e+06"), 1000000.0);
-  for (const double value : {-1.79769e+308, 5e-324, inf, -inf}) {
+  for (const double value : {-1.79769e+308, 5e-324, inf, -inf, 999999.0}) {
     EXPECT_EQ(readGeneralText(generalText(value)), value);
+    EXPECT_EQ(roundedToSixDigits(value), value);
   }
+  EXPECT_EQ(roundedToSixDigits(1000001), 1000000);
+  EXPECT_EQ(roundedToSixDigits(0.12345678), 0.123457);
   EXPECT_TRUE(std::isnan(readGeneralText(generalText(nan))));
 }
 
