@@ -98,6 +98,7 @@ locale_t posixLocale() {
 std::string doubleText(double value) {
   if (std::isnan(value)) return "nan";
   if (std::isinf(value)) return value < 0 ? "-inf" : "inf";
+  if (isWholeBelow(exactIntegers, value)) return wholeText(value) + ".0";
   const double magnitude = std::abs(value);
   const bool isPointForm = magnitude == 0 || (magnitude >= 0.0001 && magnitude < 1e16);
   Buffer buffer;
