@@ -94,6 +94,11 @@ TEST(Cli, AnswersJsonLineByLine) {
       {R"x({"first":3,"second":"7","mode":0})x", R"x({"malformed":true})x"},
       {R"x({"first":"3","second":"7","mode":0.5})x", R"x({"malformed":true})x"},
       {R"x({"first":"3","mode":0})x", R"x({"malformed":true})x"},
+      {R"x({"first":"3","second":"7","mode":[0],"mode":true})x", R"x({"malformed":true})x"},
+      {"\xEF\xBB\xBF"
+       R"x({"\u0066irst":[],"mode":1,"first":"1","second":"7","mode":0,"more":{"mode":1}})x",
+       R"x({"steps":[{"title":"Your Input","latexString":"7^{1}"},{"title":"Result","latexString":"7^{1} = 7"}],)x"
+       R"x("latexString":"7^{1}"})x"},
       {R"x({"first":"3","second":"7","mode":18446744073709551615})x",
        R"x({"steps":[{"title":"Your Input","latexString":""}],"latexString":""})x"},
   };

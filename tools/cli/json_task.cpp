@@ -1,94 +1,29 @@
 #include "json_task.h"
 
-#include <utility>
-
-#include <nlohmann/json.hpp>
+#include <simdjson.h>
 
 #include "json_lines.h"
 
 namespace tavi::cli {
 namespace {
 
-using nlohmann::json;
+using simdjson::dom::element;
 
-// Takes the three values as the parser meets them; a tree of the line would cost more than its task.
-class TaskReader : public nlohmann::json_sax<json> {
- public:
-  // Absent unless the line was an object with all three and of the right kinds. Of two alike the last counts.
-  std::optional<JsonTask> task() && {
-    if (!isObject_ || first_ != Found::yes || second_ != Found::yes || mode_ != Found::yes)
-      return std::nullopt;
-    return std::move(task_);
-  }
+// Each takes a value of its kind; false for one of another.
 
-  bool null() override { return text(std::nullopt); }
-  bool string(string_t& value) override { return text(std::move(value)); }
-  bool number_integer(number_integer_t value) override { return integer(value); }
-  bool number_unsigned(number_unsigned_t value) override { return integer(static_cast<std::int64_t>(value)); }
-  bool boolean(bool /*value*/) override { return other(); }
-  bool number_float(number_float_t /*value*/, const string_t& /*text*/) override { return other(); }
-  bool binary(binary_t& /*value*/) override { return other(); }
+bool take(element value, std::optional<std::string>& text) {
+  std::string_view content;
+  const bool isText = value.get(content) == simdjson::SUCCESS;
+  text.reset();
+  if (isText) text.emplace(content);
+  return isText || value.is_null();
+}
 
-  bool start_object(std::size_t /*size*/) override {
-    if (depth_ == 0) isObject_ = true;
-    return open();
-  }
-  bool start_array(std::size_t /*size*/) override { return open(); }
-  bool end_object() override { return close(); }
-  bool end_array() override { return close(); }
-
-  bool key(string_t& name) override {
-    if (depth_ > 1) return true;
-    at_ = name == "first" ? &first_ : name == "second" ? &second_ : name == "mode" ? &mode_ : nullptr;
-    return true;
-  }
-
-  bool parse_error(std::size_t /*position*/, const std::string& /*token*/,
-                   const json::exception& /*error*/) override {
-    return false;
-  }
-
- private:
-  enum class Found { no, yes, wrong };
-
-  bool text(std::optional<std::string> value) {
-    if (depth_ != 1 || at_ == nullptr || at_ == &mode_) return other();
-    *at_ = Found::yes;
-    (at_ == &first_ ? task_.first : task_.second) = std::move(value);
-    return true;
-  }
-
-  bool integer(std::int64_t value) {
-    if (depth_ != 1 || at_ != &mode_) return other();
-    mode_ = Found::yes;
-    task_.mode = value;
-    return true;
-  }
-
-  bool other() {
-    if (depth_ == 1 && at_ != nullptr) *at_ = Found::wrong;
-    return true;
-  }
-
-  bool open() {
-    other();
-    ++depth_;
-    return true;
-  }
-
-  bool close() {
-    --depth_;
-    return true;
-  }
-
-  JsonTask task_;
-  Found first_ = Found::no;
-  Found second_ = Found::no;
-  Found mode_ = Found::no;
-  Found* at_ = nullptr;  // the value that the key in front names
-  int depth_ = 0;
-  bool isObject_ = false;
-};
+bool take(element value, std::int64_t& number) {
+  if (value.get(number) == simdjson::SUCCESS) return true;
+  number = -1;  // What lies beyond the range is as little a mode.
+  return value.is_uint64();
+}
 
 using Marks = std::span<const exact::CheckedLine>;
 
@@ -135,9 +70,24 @@ void appendJson(std::string& out, const ExpansionTooLong& expansion, Marks /*mar
 }  // namespace
 
 std::optional<JsonTask> readJsonTask(std::string_view line) {
-  TaskReader reader;
-  if (!json::sax_parse(line, &reader)) return std::nullopt;
-  return std::move(reader).task();
+  constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";  // Which RFC 8259 lets a reader ignore.
+  if (line.starts_with(byteOrderMark)) line.remove_prefix(byteOrderMark.size());
+
+  static simdjson::dom::parser parser;  // Keeps its memory from line to line.
+  simdjson::dom::object object;
+  if (parser.parse(line.data(), line.size()).get(object) != simdjson::SUCCESS) return std::nullopt;
+  JsonTask task;
+  bool hasFirst = false;
+  bool hasSecond = false;
+  bool hasMode = false;
+  // Of two values of one name the last counts.
+  for (const auto& [name, value] : object) {
+    if (name == "first") hasFirst = take(value, task.first);
+    if (name == "second") hasSecond = take(value, task.second);
+    if (name == "mode") hasMode = take(value, task.mode);
+  }
+  if (!hasFirst || !hasSecond || !hasMode) return std::nullopt;
+  return task;
 }
 
 void appendJsonEnding(std::string& out, const Rehearsal& ending, std::span<const exact::CheckedLine> marks) {
