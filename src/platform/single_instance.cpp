@@ -41,6 +41,11 @@ bool SingleInstance::isFirst(const QStringList& arguments) {
   return true;
 }
 
+void SingleInstance::retire() {
+  server_.close();
+  for (QLocalSocket* socket : server_.findChildren<QLocalSocket*>()) socket->abort();
+}
+
 void SingleInstance::listen() {
   QLocalServer::removeServer(socketPath_);
   server_.setSocketOptions(QLocalServer::UserAccessOption);

@@ -25,6 +25,10 @@ class SingleInstance : public QObject {
   /// the folder is opened.
   bool isFirst(const QStringList& arguments = {});
 
+  /// The first one is about to end: a later start is not answered any more, but waits until it may be the
+  /// first.
+  void retire();
+
  signals:
   /// In the first process: another one was started, with these arguments.
   void shown(const QStringList& arguments);

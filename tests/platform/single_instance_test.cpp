@@ -4,6 +4,8 @@
 #include <QLocalSocket>
 #include <QProcess>
 #include <QThread>
+#include <QTimer>
+#include <optional>
 
 #include <gtest/gtest.h>
 
@@ -47,6 +49,17 @@ TEST_F(SingleInstanceTest, ALaterStartShowsTheFirstOneAndEnds) {
     EXPECT_EQ(shown, asked);
   }
   EXPECT_TRUE(isOtherFirst()) << "the first one is gone";
+}
+
+TEST_F(SingleInstanceTest, OneThatIsAboutToEndIsAwaited) {
+  auto first = std::make_optional<SingleInstance>(folder_.path());
+  EXPECT_TRUE(first->isFirst());
+  bool isShown = false;
+  QObject::connect(&*first, &SingleInstance::shown, [&isShown] { isShown = true; });
+  first->retire();
+  QTimer::singleShot(100, [&first] { first.reset(); });
+  EXPECT_TRUE(isOtherFirst());
+  EXPECT_FALSE(isShown);
 }
 
 TEST_F(SingleInstanceTest, AKilledOneIsNotThere) {

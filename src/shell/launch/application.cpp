@@ -172,6 +172,7 @@ std::optional<int> Application::launch(const QStringList& arguments) {
   }
   const auto& task = std::get<std::optional<Calculation>>(asked);
   if (!instance_.isFirst(task ? argumentsOf(*task) : QStringList())) return 0;
+  connect(this, &QCoreApplication::aboutToQuit, &instance_, &SingleInstance::retire);
   startMeasuring();
   delegate_.emplace(engine_, AppServices{.measurement = measurement_.get()});
   delegate_->didFinishLaunching();
