@@ -76,6 +76,7 @@ void boundedGet(QNetworkAccessManager& access, QNetworkRequest request, const Ht
   request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
   // A named encoding keeps Qt from unpacking on its own: what is counted is what came over the wire.
   request.setRawHeader("Accept-Encoding", "identity");
+  request.setRawHeader("Accept-Language", "*");  // Qt would tell the user's.
   QNetworkReply* reply = access.get(request);
   new Exchange(reply, bounds, std::move(completion));
 }
