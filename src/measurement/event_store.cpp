@@ -6,6 +6,7 @@
 #include <QFileInfo>
 #include <QRandomGenerator>
 #include <algorithm>
+#include <limits>
 
 #include <sqlite3.h>
 
@@ -17,17 +18,20 @@ namespace {
 constexpr const char* prepareFile =
     "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = WAL; PRAGMA synchronous = OFF;"
     "PRAGMA wal_autocheckpoint = 50;"
-    // Numbers are never used twice, and without gaps.
-    "CREATE TABLE IF NOT EXISTS events(id INTEGER PRIMARY KEY AUTOINCREMENT, record BLOB NOT NULL);"
+    "CREATE TABLE IF NOT EXISTS events(id INTEGER PRIMARY KEY, record BLOB NOT NULL);"
     "CREATE TABLE IF NOT EXISTS notes(name TEXT PRIMARY KEY, value BLOB NOT NULL);"
     "BEGIN IMMEDIATE; COMMIT";
 
 bool isDefective(int error) {
-  return error == SQLITE_CORRUPT || error == SQLITE_NOTADB || error == SQLITE_ERROR;
+  return error == SQLITE_CORRUPT || error == SQLITE_NOTADB || error == SQLITE_ERROR ||
+         error == SQLITE_CONSTRAINT;
 }
 
 // So many of the oldest go at once beyond a limit.
 constexpr qint64 trimmedEvents = 16;
+
+// No use comes near it.
+constexpr qint64 numberLimit = std::numeric_limits<qint64>::max() / 2;
 
 }  // namespace
 
@@ -38,7 +42,7 @@ void EventStore::Finalize::operator()(sqlite3_stmt* statement) const {
   sqlite3_finalize(statement);
 }
 
-EventStore::EventStore(QString path) : path_(std::move(path)) {
+EventStore::EventStore(QString path, QByteArray kind) : path_(std::move(path)), kind_(std::move(kind)) {
   QDir().mkpath(QFileInfo(path_).absolutePath());
   if (!open()) qInfo().noquote() << "Measurement: nothing will be kept in" << path_;
 }
@@ -53,35 +57,57 @@ bool EventStore::open() {
       sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
       error = sqlite3_exec(raw, prepareFile, nullptr, nullptr, nullptr);
     }
-    sqlite3_stmt* statement = nullptr;
-    if (error == SQLITE_OK) {
-      // Each by itself is looked up; both of one table would be looked for.
-      error = sqlite3_prepare_v2(raw,
-                                 "SELECT coalesce((SELECT min(id) FROM events), 1), "
-                                 "coalesce((SELECT max(id) FROM events), 0)",
-                                 -1, &statement, nullptr);
-    }
-    const Statement reading(statement);
-    if (error == SQLITE_OK && (error = sqlite3_step(statement)) == SQLITE_ROW) {
-      firstId_ = sqlite3_column_int64(statement, 0);
-      lastId_ = sqlite3_column_int64(statement, 1);
-      return true;
-    }
+    if (error == SQLITE_OK) error = readNumbers();
+    if (error == SQLITE_OK) return true;
     database_.reset();
     if (!isDefective(error) || !discard(path_)) return false;
   }
   return false;
 }
 
+// SQLITE_CORRUPT also where the numbers cannot be true, or the records are of another kind.
+int EventStore::readNumbers() {
+  // Each by itself is looked up; both of one table would be looked for.
+  sqlite3_stmt* raw = nullptr;
+  int error =
+      sqlite3_prepare_v2(database_.get(), "SELECT (SELECT min(id) FROM events), (SELECT max(id) FROM events)",
+                         -1, &raw, nullptr);
+  const Statement statement(raw);
+  if (error == SQLITE_OK) error = sqlite3_step(raw);
+  if (error != SQLITE_ROW) return error;
+  const bool isOfKind = note("kind") == kind_;
+  if (sqlite3_column_type(raw, 0) == SQLITE_NULL) {
+    if (!isOfKind) setNote("kind", kind_);
+    return SQLITE_OK;
+  }
+  const qint64 first = sqlite3_column_int64(raw, 0);
+  const qint64 last = sqlite3_column_int64(raw, 1);
+  if (!isOfKind || first < 1 || last > numberLimit || last - first > eventLimit + trimmedEvents)
+    return SQLITE_CORRUPT;
+  firstId_ = first;
+  lastId_ = last;
+  return SQLITE_OK;
+}
+
+// Whoever deletes the file, be it another process for which the user has withdrawn, does not want it kept.
+bool EventStore::isThere() {
+  int hasMoved = 0;
+  if (database_) sqlite3_file_control(database_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
+  if (hasMoved != 0) {
+    database_.reset();
+    firstId_ = lastId_ + 1;
+  }
+  return database_ != nullptr;
+}
+
 void EventStore::startAfresh() {
   database_.reset();
-  firstId_ = 1;
-  lastId_ = 0;
+  firstId_ = lastId_ + 1;
   if (discard(path_)) open();
 }
 
 bool EventStore::run(const char* sql, const std::vector<QByteArray>& values) {
-  if (!database_) return false;
+  if (!isThere()) return false;
   sqlite3_stmt* raw = nullptr;
   int error = sqlite3_prepare_v2(database_.get(), sql, -1, &raw, nullptr);
   {
@@ -99,12 +125,14 @@ bool EventStore::run(const char* sql, const std::vector<QByteArray>& values) {
 
 void EventStore::add(const QByteArray& record) {
   if (record.size() > byteLimit) return;
-  if (!run("INSERT INTO events(record) VALUES(?1)", {record})) return;
-  const qint64 id = sqlite3_last_insert_rowid(database_.get());
-  if (count() == 0) firstId_ = id;
-  lastId_ = id;
+  if (!run("INSERT INTO events(id, record) VALUES(CAST(?1 AS INTEGER), ?2)",
+           {QByteArray::number(lastId_ + 1), record}))
+    return;
+  ++lastId_;
   while (count() > 1 && (count() > eventLimit || usedBytes() > byteLimit))
     remove(std::min(firstId_ + trimmedEvents, lastId_) - 1);
+  // What fills the file is something else.
+  if (count() == 1 && usedBytes() > byteLimit) startAfresh();
 }
 
 qint64 EventStore::usedBytes() {
@@ -119,7 +147,7 @@ qint64 EventStore::usedBytes() {
 
 EventBatch EventStore::batch(int events, qsizetype bytes) {
   EventBatch batch;
-  if (!database_) return batch;
+  if (!isThere()) return batch;
   sqlite3_stmt* raw = nullptr;
   int error =
       sqlite3_prepare_v2(database_.get(), "SELECT id, record FROM events ORDER BY id", -1, &raw, nullptr);
@@ -128,7 +156,7 @@ EventBatch EventStore::batch(int events, qsizetype bytes) {
     while (std::ssize(batch.records) < events && (error = sqlite3_step(raw)) == SQLITE_ROW) {
       const auto* data = static_cast<const char*>(sqlite3_column_blob(raw, 1));
       const QByteArray record(data, sqlite3_column_bytes(raw, 1));
-      bytes -= record.size();
+      bytes -= record.size() + 1;
       if (bytes < 0 && !batch.records.empty()) break;
       batch.records.push_back(record);
       batch.lastId = sqlite3_column_int64(raw, 0);
@@ -143,7 +171,7 @@ void EventStore::remove(qint64 lastId) {
   if (!database_) return;
   if (!run("DELETE FROM events WHERE id <= CAST(?1 AS INTEGER)", {QByteArray::number(lastId)}))
     return startAfresh();
-  firstId_ = std::max(firstId_, lastId + 1);
+  firstId_ = std::max(firstId_, std::min(lastId, lastId_) + 1);
 }
 
 QByteArray EventStore::note(const char* name) {
@@ -164,7 +192,8 @@ void EventStore::setNote(const char* name, const QByteArray& value) {
 }
 
 SendState EventStore::sendState() {
-  return {.notBefore = note("notBefore").toLongLong(), .failures = note("failures").toInt()};
+  return {.notBefore = std::max<qint64>(note("notBefore").toLongLong(), 0),
+          .failures = std::clamp(note("failures").toInt(), 0, SendState::failureLimit)};
 }
 
 void EventStore::setSendState(const SendState& state) {
@@ -186,7 +215,7 @@ bool EventStore::discard(const QString& path) {
   bool isGone = true;
   for (const char* part : {"", "-wal", "-shm", "-journal"}) {
     const QString file = path + part;
-    isGone = (QFile::remove(file) || !QFileInfo::exists(file)) && isGone;
+    isGone = (QFile::remove(file) || QFile::resize(file, 0) || !QFileInfo::exists(file)) && isGone;
   }
   return isGone;
 }

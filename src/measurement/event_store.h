@@ -17,34 +17,38 @@ struct EventBatch {
   qint64 lastId = 0;
 };
 
-/// When and how often sending failed; kept, so that a new start does not knock at once again.
+/// When to send again, and how often it failed; kept, so that a new start does not knock at once again.
 struct SendState {
   qint64 notBefore = 0;  ///< Milliseconds since 1970; 0 for any time.
-  int failures = 0;      ///< In a row.
+  int failures = 0;      ///< In a row; an attempt that is on its way is one.
+
+  static constexpr int failureLimit = 20;
 };
 
 /// Events in a database file of their own. An event is in the file when `add` returns, and there it outlives
-/// the process; a power cut may cost the file, which then begins afresh: nothing here waits for the disk. One
-/// process at a time has it; to another, and where there is no file to be had, nothing is kept. Main thread
-/// only.
+/// the process; a power cut may cost the file, which then begins afresh, as a defective one does: nothing
+/// here waits for the disk. One process at a time has it; to another, and where there is no file to be had or
+/// the file is taken away, nothing is kept. Main thread only.
 class EventStore {
  public:
   static constexpr qint64 eventLimit = 10'000;
   static constexpr qint64 byteLimit = 5LL * 1024 * 1024;
 
-  /// Opens or creates the file at the path.
-  explicit EventStore(QString path);
+  /// Opens or creates the file at the path. One with records of another kind begins afresh.
+  explicit EventStore(QString path, QByteArray kind = {});
 
   /// Keeps a record. Beyond a limit the oldest go.
   void add(const QByteArray& record);
 
-  /// The oldest records, as many as both limits allow, but one at least.
+  /// The oldest records, as many as both limits allow, but one at least. Of bytes each takes one more, for
+  /// what stands between two.
   EventBatch batch(int events, qsizetype bytes);
 
   /// Forgets the records up to that number. They never come back in a batch, even from a file that cannot be
   /// written any more.
   void remove(qint64 lastId);
 
+  /// How many are kept, or more where a defect took some out of the middle.
   qint64 count() const { return lastId_ - firstId_ + 1; }
 
   SendState sendState();
@@ -53,7 +57,8 @@ class EventStore {
   /// The random number of the day (UTC); another tomorrow.
   QByteArray dailyNumber(const QDate& today);
 
-  /// Deletes the file at the path and what belongs to it. False when something of it stays.
+  /// Deletes the file at the path and what belongs to it, or empties it where its folder lets nothing go.
+  /// False when something of it stays.
   static bool discard(const QString& path);
 
  private:
@@ -66,6 +71,8 @@ class EventStore {
   using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
   bool open();
+  int readNumbers();
+  bool isThere();
   void startAfresh();
   bool run(const char* sql, const std::vector<QByteArray>& values);
   QByteArray note(const char* name);
@@ -73,8 +80,11 @@ class EventStore {
   qint64 usedBytes();
 
   QString path_;
+  QByteArray kind_;
   std::unique_ptr<sqlite3, Close> database_;
-  qint64 firstId_ = 1;  // of the records that are kept; without one, behind the last
+  // Of the records that are kept; without one, the first is behind the last. They go on over a fresh file, so
+  // that an acknowledgement that comes late meets no record which came later.
+  qint64 firstId_ = 1;
   qint64 lastId_ = 0;
 };
 

@@ -3,9 +3,9 @@
 #include <QCoreApplication>
 #include <QDebug>
 #include <QEventLoop>
+#include <QIODevice>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
 #include <QNetworkRequest>
 #include <QRandomGenerator>
 #include <QStandardPaths>
@@ -20,7 +20,6 @@ using std::chrono::milliseconds;
 
 namespace {
 
-constexpr int statusOk = 200;
 constexpr int statusTimeout = 408;
 constexpr int statusTooMany = 429;
 constexpr qint64 answerLimit = 64LL * 1024;
@@ -39,12 +38,42 @@ milliseconds askedPause(const QByteArray& header) {
   if (isNumber) {
     pause = std::clamp<qint64>(seconds, 0, longestAskedPause / std::chrono::seconds(1)) * 1000;
   } else {
-    const QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(header.trimmed()),
-                                                   QStringLiteral("ddd, dd MMM yyyy HH:mm:ss 'GMT'"));
-    if (date.isValid()) pause = QDateTime(date.date(), date.time(), Qt::UTC).toMSecsSinceEpoch() - now();
+    const QString text =
+        QString::fromLatin1(header.trimmed()).replace(QLatin1StringView("GMT"), QLatin1StringView("+0000"));
+    const QDateTime date = QDateTime::fromString(text, Qt::RFC2822Date);
+    if (date.isValid()) pause = date.toMSecsSinceEpoch() - now();
   }
   return milliseconds(std::clamp<qint64>(pause, 0, longestAskedPause.count()));
 }
+
+// OTLP's acknowledgement is 200; what stands in front of a collector may have another that means the same. A
+// page of something else is none, but what is packed, though not asked for, cannot be told from one.
+bool isAcknowledged(int status, QNetworkReply& reply) {
+  if (status < 200 || status >= 300 || reply.error() != QNetworkReply::NoError) return false;
+  return status != 200 || reply.hasRawHeader("Content-Encoding") || otlp::isAnswer(reply.readAll());
+}
+
+// A body that is read once. Qt sends one that it can read again a second time by itself where a collector
+// hangs up, and without a pause.
+class BodyReadOnce : public QIODevice {
+ public:
+  explicit BodyReadOnce(QByteArray body) : rest_(std::move(body)) { open(ReadOnly | Unbuffered); }
+  bool isSequential() const override { return true; }
+  bool reset() override { return false; }
+  qint64 bytesAvailable() const override { return rest_.size(); }
+
+ protected:
+  qint64 readData(char* data, qint64 size) override {
+    const qint64 taken = std::min<qint64>(size, rest_.size());
+    std::copy_n(rest_.cbegin(), taken, data);
+    rest_.remove(0, taken);
+    return taken;
+  }
+  qint64 writeData(const char* /*data*/, qint64 /*size*/) override { return -1; }
+
+ private:
+  QByteArray rest_;
+};
 
 }  // namespace
 
@@ -66,21 +95,23 @@ bool MeasurementSettings::isUsable() const {
 
 std::unique_ptr<MeasurementClient> MeasurementClient::fromBundle(const ResourceBundle& bundle) {
   MeasurementSettings settings = MeasurementSettings::fromBundle(bundle);
-  if (settings.endpoint.isEmpty()) return nullptr;
-  if (!settings.isUsable()) {
+  const QString path =
+      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/measurement.sqlite";
+  if (settings.isUsable()) return std::make_unique<MeasurementClient>(std::move(settings), path);
+  if (!settings.endpoint.isEmpty())
     qInfo().noquote() << "Measurement: the address is insecure:" << settings.endpoint.toString();
-    return nullptr;
-  }
-  return std::make_unique<MeasurementClient>(
-      std::move(settings),
-      QStandardPaths::writableLocation(QStandardPaths::AppDataLocation) + "/measurement.sqlite");
+  EventStore::discard(path);
+  return nullptr;
 }
 
 MeasurementClient::MeasurementClient(MeasurementSettings settings, QString storePath,
                                      NetworkAccessFactory makeAccess)
-    : settings_(std::move(settings)), storePath_(std::move(storePath)), makeAccess_(std::move(makeAccess)) {
+    : settings_(std::move(settings)),
+      recordBytes_(settings_.batchBytes - otlp::request({}).size()),
+      storePath_(std::move(storePath)),
+      makeAccess_(std::move(makeAccess)) {
   timer_.setSingleShot(true);
-  timer_.setTimerType(Qt::VeryCoarseTimer);
+  timer_.setTimerType(Qt::PreciseTimer);  // Any other may be early.
   connect(&timer_, &QTimer::timeout, this, &MeasurementClient::send);
 }
 
@@ -90,8 +121,12 @@ MeasurementClient::~MeasurementClient() {
 
 void MeasurementClient::setConsent(bool isGiven) {
   if (isGiven) {
-    if (!store_) store_.emplace(storePath_);
-    return schedule();
+    if (!store_) {
+      store_.emplace(storePath_, settings_.sendsWorkings ? "with workings" : "");
+      // To agree anew ends no pause.
+      if (!rest_.hasExpired()) store_->setSendState(state_);
+    }
+    return schedule(milliseconds(0));
   }
   cancel();
   timer_.stop();
@@ -106,34 +141,45 @@ void MeasurementClient::take(const AnalyticsEvent& event) {
     for (const QLatin1StringView typed : events::typedParameters) kept.parameters->remove(typed);
   }
   const QDateTime time = QDateTime::currentDateTimeUtc();
-  store_->add(otlp::logRecord(kept, time, store_->dailyNumber(time.date())));
-  schedule();
+  const QByteArray record = otlp::logRecord(kept, time, store_->dailyNumber(time.date()));
+  if (record.size() < recordBytes_) store_->add(record);
+  // The first one of a use waits for those that follow it.
+  schedule(settings_.interval);
 }
 
 // Starts the timer for the next batch, unless it runs or one is on its way.
-void MeasurementClient::schedule() {
+void MeasurementClient::schedule(milliseconds least) {
   if (timer_.isActive() || reply_ != nullptr || store_->count() == 0) return;
-  const SendState state = store_->sendState();
   // A time too far ahead comes from a clock that was set back.
   const milliseconds longest = std::max({longestAskedPause, settings_.longestPause, settings_.interval});
-  const milliseconds wait(state.notBefore - now());
-  timer_.start(wait > longest ? settings_.interval : std::max(wait, milliseconds(0)));
+  milliseconds wait(store_->sendState().notBefore - now());
+  if (wait > longest) wait = settings_.interval;
+  timer_.start(std::max({wait, least, milliseconds(rest_.remainingTime())}));
 }
 
 void MeasurementClient::send() {
   if (!store_ || reply_ != nullptr) return;
-  const EventBatch batch = store_->batch(settings_.batchEvents, settings_.batchBytes);
+  const EventBatch batch = store_->batch(settings_.batchEvents, recordBytes_);
   if (batch.records.empty()) return;
+  // Noted beforehand, as whoever ends meanwhile does not hear of the failure.
+  const int failures = std::min(store_->sendState().failures + 1, SendState::failureLimit);
+  rest(std::max(settings_.interval, pauseAfter(failures)), failures);
   if (!access_) access_ = makeAccess_();
+  const QByteArray body = otlp::gzip(otlp::request(batch.records));
   QNetworkRequest request(settings_.endpoint);
   request.setHeader(QNetworkRequest::ContentTypeHeader, "application/json");
+  request.setHeader(QNetworkRequest::ContentLengthHeader, body.size());
+  request.setAttribute(QNetworkRequest::DoNotBufferUploadDataAttribute, true);
   request.setRawHeader("Content-Encoding", "gzip");
   request.setRawHeader("Accept-Encoding", "identity");
+  request.setRawHeader("Accept-Language", "*");  // Qt would tell the user's.
   request.setRawHeader("User-Agent", "tavi");
   request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
   request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
   request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-  QNetworkReply* reply = access_->post(request, otlp::gzip(otlp::request(batch.records)));
+  auto* device = new BodyReadOnce(body);
+  QNetworkReply* reply = access_->post(request, device);
+  device->setParent(reply);
   reply_ = reply;
   reply->setReadBufferSize(answerLimit + 1);
   connect(reply, &QNetworkReply::readyRead, reply, [reply] {
@@ -148,31 +194,30 @@ void MeasurementClient::receive(QNetworkReply* reply, qint64 lastId) {
   reply_ = nullptr;
   const int status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute).toInt();
   const bool isRefused = status >= 400 && status < 500 && status != statusTimeout && status != statusTooMany;
-  const bool isWhole = reply->error() == QNetworkReply::NoError;
-  if (isRefused || (status == statusOk && isWhole && otlp::isAnswer(reply->readAll()))) {
-    settle(lastId);
+  if (isRefused || isAcknowledged(status, *reply)) {
+    store_->remove(lastId);
+    rest(settings_.interval, 0);
   } else {
-    postpone(askedPause(reply->rawHeader("Retry-After")));
+    const int failures = store_->sendState().failures;
+    rest(std::max(pauseAfter(failures), askedPause(reply->rawHeader("Retry-After"))), failures);
   }
-  schedule();
+  schedule(milliseconds(0));
 }
 
-void MeasurementClient::settle(qint64 lastId) {
-  store_->remove(lastId);
-  store_->setSendState({.notBefore = now() + settings_.interval.count(), .failures = 0});
+// Nothing is sent for so long, in this process or the next.
+void MeasurementClient::rest(milliseconds pause, int failures) {
+  rest_.setRemainingTime(pause);
+  state_ = {.notBefore = now() + pause.count(), .failures = failures};
+  store_->setSendState(state_);
 }
 
 // The pause doubles from failure to failure; where in its second half it ends is left to chance, so that
 // those whom one outage stopped do not come back together.
-void MeasurementClient::postpone(milliseconds asked) {
-  constexpr int doublingLimit = 20;
-  const int failures = std::min(store_->sendState().failures + 1, doublingLimit);
+milliseconds MeasurementClient::pauseAfter(int failures) const {
   const qint64 span = std::min(settings_.shortestPause.count() << failures, settings_.longestPause.count());
   const qint64 least = span / 2;
-  const qint64 own = least + static_cast<qint64>(QRandomGenerator::global()->generateDouble() *
-                                                 static_cast<double>(span - least));
-  store_->setSendState(
-      {.notBefore = now() + std::max(own, static_cast<qint64>(asked.count())), .failures = failures});
+  return milliseconds(least + static_cast<qint64>(QRandomGenerator::global()->generateDouble() *
+                                                  static_cast<double>(span - least)));
 }
 
 void MeasurementClient::finish() {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDeadlineTimer>
 #include <QNetworkAccessManager>
 #include <QNetworkReply>
 #include <QObject>
@@ -48,7 +49,8 @@ class MeasurementClient : public QObject {
                     NetworkAccessFactory makeAccess = makeNetworkAccess);
   ~MeasurementClient() override;
 
-  /// The client of the settings in the bundle; none where they name no usable address.
+  /// The client of the settings in the bundle. None where they name no usable address, and then nothing stays
+  /// of what another version kept.
   static std::unique_ptr<MeasurementClient> fromBundle(const ResourceBundle& bundle);
 
   /// The user's answer. A withdrawal deletes what is kept and ends what is being sent.
@@ -65,20 +67,23 @@ class MeasurementClient : public QObject {
   void finish();
 
  private:
-  void schedule();
+  void schedule(std::chrono::milliseconds least);
   void send();
   void receive(QNetworkReply* reply, qint64 lastId);
-  void settle(qint64 lastId);
-  void postpone(std::chrono::milliseconds asked);
+  void rest(std::chrono::milliseconds pause, int failures);
+  std::chrono::milliseconds pauseAfter(int failures) const;
   void cancel();
 
   MeasurementSettings settings_;
+  qsizetype recordBytes_;  // of a batch, without what stands around its records
   QString storePath_;
   NetworkAccessFactory makeAccess_;
   std::optional<EventStore> store_;  // there while consent is given
   std::unique_ptr<QNetworkAccessManager> access_;
   QNetworkReply* reply_ = nullptr;  // of the batch on its way
   QTimer timer_;
+  SendState state_;      // as it was stored last
+  QDeadlineTimer rest_;  // what the state tells by the clock, which the user may set
 };
 
 }  // namespace tavi

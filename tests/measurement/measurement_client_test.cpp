@@ -8,6 +8,7 @@
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include "measurement/collector.h"
 #include "measurement/otlp.h"
@@ -18,6 +19,8 @@ namespace tavi {
 namespace {
 
 using namespace std::chrono_literals;
+
+constexpr uid_t nobody = 65534;
 
 class Measurement : public testing::Test {
  protected:
@@ -65,6 +68,41 @@ TEST_F(Measurement, AWithdrawalDeletesAtOnceAlsoWhatIsOnItsWay) {
   EXPECT_FALSE(isAnyFile());
 }
 
+TEST_F(Measurement, AnAnswerToWhatWasWithdrawnTouchesNothingNew) {
+  QList<QTcpSocket*> asking;
+  Collector collector([&asking](qsizetype, QTcpSocket& socket) { asking.append(&socket); });
+  MeasurementClient client(settings(collector.address()), path());
+  client.setConsent(true);
+  client.take({"one", std::nullopt});
+  ASSERT_TRUE(waitUntil([&] { return asking.size() == 1; }));
+  bool isGone = false;
+  QObject::connect(asking[0], &QTcpSocket::disconnected, [&isGone] { isGone = true; });
+  client.setConsent(false);
+  client.setConsent(true);
+  client.take({"two", std::nullopt});
+  if (!isGone) Collector::say(*asking[0]);
+  ASSERT_TRUE(waitUntil([&] { return asking.size() == 2; }));
+  EXPECT_EQ(client.waiting(), 1);
+  Collector::say(*asking[1]);
+  ASSERT_TRUE(waitUntil([&] { return client.waiting() == 0; }));
+  EXPECT_EQ(collector.names(), (QStringList{"one", "two"}));
+}
+
+TEST_F(Measurement, AFileThatCannotBeDeletedIsEmptied) {
+  EventStore(path()).add("secret");
+  QFile::setPermissions(path(), QFile::Permissions(0x6666));
+  QFile::setPermissions(folder_.path(), QFile::Permissions(0x5555));
+  const bool isRoot = geteuid() == 0;  // Who could delete it.
+  const bool isOther = !isRoot || seteuid(nobody) == 0;
+  const bool isGone = EventStore::discard(path());
+  if (isRoot && isOther && seteuid(0) != 0) FAIL() << "cannot become root again";
+  QFile::setPermissions(folder_.path(), QFile::Permissions(0x7777));
+  if (!isOther) GTEST_SKIP() << "cannot become another user";
+  EXPECT_TRUE(isGone);
+  EXPECT_TRUE(QFile::exists(path()));
+  EXPECT_EQ(QFileInfo(path()).size(), 0);
+}
+
 TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
   nameApplication();
   Collector collector(well);
@@ -76,6 +114,7 @@ TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
   EXPECT_TRUE(collector.lastHead().startsWith("post /v1/logs http/1.1"));
   EXPECT_TRUE(collector.lastHead().contains("content-type: application/json"));
   EXPECT_TRUE(collector.lastHead().contains("content-encoding: gzip"));
+  EXPECT_TRUE(collector.lastHead().contains("accept-language: *\r\n")) << "nothing of the user's language";
 
   const QJsonValue logs = collector.batches()[0]["resourceLogs"][0];
   EXPECT_EQ(logs["resource"]["attributes"][0]["key"].toString(), "service.name");
@@ -104,7 +143,8 @@ TEST_F(Measurement, SendsWhatWasTypedOnlyIfTheSettingSaysSo) {
                                          {"calc_parameters", QVariantMap{{"aTextField", "secret"}}},
                                          {"latex_string", "secret"},
                                          {"solutionStepsCount", 1}}};
-  for (const bool isAllowed : {false, true}) {
+  // Nor is sent what was kept while it said so.
+  for (const bool isAllowed : {false, true, false, true}) {
     MeasurementSettings some = settings(QUrl("https://collector.invalid/v1/logs"));
     some.sendsWorkings = isAllowed;
     {
@@ -115,7 +155,6 @@ TEST_F(Measurement, SendsWhatWasTypedOnlyIfTheSettingSaysSo) {
     ASSERT_EQ(kept().size(), 1);
     EXPECT_EQ(kept()[0].count("secret"), isAllowed ? 3 : 0);
     EXPECT_TRUE(kept()[0].contains("solutionStepsCount"));
-    MeasurementClient(some, path()).setConsent(false);
   }
 }
 
@@ -131,6 +170,12 @@ const Behaviour behaviours[] = {
     {"PartlyRejected",
      [](qsizetype, QTcpSocket& s) {
        Collector::say(s, "200 OK", R"({"partialSuccess":{"rejectedLogRecords":"1","errorMessage":"no"}})");
+     },
+     false},
+    {"Accepting", [](qsizetype, QTcpSocket& s) { Collector::say(s, "202 Accepted", "queued"); }, false},
+    {"Packing",
+     [](qsizetype, QTcpSocket& s) {
+       Collector::say(s, "200 OK", otlp::gzip("{}"), "Content-Encoding: gzip\r\n");
      },
      false},
     {"WithAPage", [](qsizetype, QTcpSocket& s) { Collector::say(s, "200 OK", "<html>"); }, true},
@@ -188,26 +233,57 @@ TEST_P(MeasurementAnswers, EndInAcknowledgementOrAnotherAttempt) {
 INSTANTIATE_TEST_SUITE_P(Of, MeasurementAnswers, testing::ValuesIn(behaviours),
                          [](const auto& behaviour) { return behaviour.param.name; });
 
-TEST_F(Measurement, KeepsItsPauseOverANewStart) {
-  Collector collector([](qsizetype, QTcpSocket& socket) {
-    Collector::say(socket, "503 Unavailable", "", "Retry-After: 3600\r\n");
-  });
-  {
+TEST_F(Measurement, KeepsItsPauseOverAWithdrawalAndANewStart) {
+  const QString inAnHour = QLocale::c().toString(QDateTime::currentDateTimeUtc().addSecs(3600),
+                                                 u"ddd, dd MMM yyyy HH:mm:ss 'GMT'");
+  for (const QByteArray& asked : {QByteArray("3600"), inAnHour.toLatin1()}) {
+    EventStore::discard(path());
+    Collector collector([&](qsizetype, QTcpSocket& socket) {
+      Collector::say(socket, "503 Unavailable", "", "Retry-After: " + asked + "\r\n");
+    });
     MeasurementSettings some = settings(collector.address());
     some.endTimeout = 10s;
+    {
+      MeasurementClient client(some, path());
+      client.setConsent(true);
+      client.take({"one", std::nullopt});
+      ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+      client.finish();
+      client.setConsent(false);
+      client.setConsent(true);
+      client.take({"two", std::nullopt});
+      client.finish();
+    }
+    EXPECT_GT(EventStore(path()).sendState().notBefore, QDateTime::currentMSecsSinceEpoch() + 3000 * 1000);
     MeasurementClient client(some, path());
     client.setConsent(true);
-    client.take({"one", std::nullopt});
-    ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+    client.take({"three", std::nullopt});
     client.finish();
+    EXPECT_EQ(collector.batches().size(), 1) << asked.toStdString();
   }
-  const qint64 notBefore = EventStore(path()).sendState().notBefore;
-  EXPECT_GT(notBefore, QDateTime::currentMSecsSinceEpoch() + 3000 * 1000);
-  MeasurementClient client(settings(collector.address()), path());
-  client.setConsent(true);
-  client.take({"two", std::nullopt});
-  client.finish();
-  EXPECT_EQ(collector.batches().size(), 1);
+}
+
+// However short a use is, and whoever ends it: after a failure the next one does not knock at once.
+TEST_F(Measurement, KnocksOnceWhereNobodyAnswers) {
+  const std::pair<Collector::Answer, std::chrono::milliseconds> silences[] = {
+      {[](qsizetype, QTcpSocket& socket) { socket.abort(); }, 10s},
+      {[](qsizetype, QTcpSocket&) {}, 10ms},
+  };
+  for (const auto& [answer, endTimeout] : silences) {
+    EventStore::discard(path());
+    Collector collector(answer);
+    MeasurementSettings some = settings(collector.address());
+    some.shortestPause = some.longestPause = 1h;
+    some.endTimeout = endTimeout;
+    for (int use = 0; use < 3; ++use) {
+      MeasurementClient client(some, path());
+      client.setConsent(true);
+      client.take({"one", std::nullopt});
+      ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+      client.finish();
+    }
+    EXPECT_EQ(collector.names(), QStringList{"one"});
+  }
 }
 
 TEST_F(Measurement, SendsALastBatchAtTheEnd) {
@@ -218,16 +294,18 @@ TEST_F(Measurement, SendsALastBatchAtTheEnd) {
   MeasurementClient client(some, path());
   client.setConsent(true);
   client.take({"one", std::nullopt});
-  ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
-  client.finish();
   client.take({"two", std::nullopt});
+  client.take({"too long", QVariantMap{{"rating", QString(300'000, 'x')}}});
   client.finish();
-  EXPECT_EQ(collector.names(), (QStringList{"one", "two"}));
+  EXPECT_EQ(collector.batches().size(), 1);
+  client.take({"three", std::nullopt});
+  client.finish();
+  EXPECT_EQ(collector.names(), (QStringList{"one", "two", "three"}));
 }
 
 TEST_F(Measurement, CutsBatchesAtBothLimits) {
   EventStore store(path());
-  for (int i = 0; i < 300; ++i) store.add(QByteArray(i < 2 ? 200'000 : 10, 'x'));
+  for (int i = 0; i < 300; ++i) store.add(QByteArray(i < 2 ? 200'000 : 9, 'x'));
   const EventBatch first = store.batch(200, 256 * 1024);
   EXPECT_EQ(first.records.size(), 1U);
   store.remove(first.lastId);
@@ -269,6 +347,54 @@ TEST_F(Measurement, ADefectiveFileBeginsAfresh) {
   EventStore store(path());
   store.add("event");
   EXPECT_EQ(store.batch(10, 1000).records, std::vector<QByteArray>{"event"});
+}
+
+// Numbers that cannot be true, and notes: whoever reads them neither hangs nor sends for ever.
+TEST_F(Measurement, DefectiveNumbersBeginAfresh) {
+  const char* const defects[] = {
+      "INSERT INTO events(id, record) VALUES(1000000000000, 'far')",
+      "INSERT INTO events(id, record) VALUES(-9000000000000000000, 'low'), (9000000000000000000, 'high')",
+      "INSERT INTO events(id, record) VALUES(9223372036854775807, 'last')",
+  };
+  for (const char* defect : defects) {
+    EventStore(path()).add("before");
+    runSql(path(), defect);
+    EventStore store(path());
+    store.add("after");
+    EXPECT_EQ(store.batch(10, 1000).records, std::vector<QByteArray>{"after"}) << defect;
+    EXPECT_EQ(store.count(), 1);
+    store.remove(std::numeric_limits<qint64>::max());
+    EXPECT_EQ(store.count(), 0);
+  }
+  EventStore(path()).setSendState({.notBefore = std::numeric_limits<qint64>::min(), .failures = -99});
+  EXPECT_EQ(EventStore(path()).sendState().notBefore, 0);
+  EXPECT_EQ(EventStore(path()).sendState().failures, 0);
+  EventStore(path()).setSendState({.notBefore = 1, .failures = std::numeric_limits<int>::max()});
+  EXPECT_EQ(EventStore(path()).sendState().failures, SendState::failureLimit);
+}
+
+// What is on its way while the file becomes defective is acknowledged later, and meets nothing new.
+TEST_F(Measurement, AnOldAcknowledgementMeetsNothingNew) {
+  runSql(path(),
+         "CREATE TABLE events(id INTEGER PRIMARY KEY, record BLOB CHECK(record <> CAST('lost' AS BLOB)))");
+  EventStore store(path());
+  for (int i = 0; i < 3; ++i) store.add("old");
+  const EventBatch batch = store.batch(10, 1000);
+  store.add("lost");
+  store.add("new");
+  store.remove(batch.lastId);
+  EXPECT_EQ(store.batch(10, 1000).records, std::vector<QByteArray>{"new"});
+  EXPECT_EQ(store.count(), 1);
+}
+
+TEST_F(Measurement, AFileThatAnotherProcessDeletedIsNotUsed) {
+  EventStore store(path());
+  store.add("withdrawn");
+  EventStore::discard(path());
+  EXPECT_TRUE(store.batch(10, 1000).records.empty());
+  store.add("after");
+  EXPECT_EQ(store.count(), 0);
+  EXPECT_FALSE(isAnyFile());
 }
 
 TEST_F(Measurement, WithoutAPlaceNothingIsKeptAndNothingHappens) {
