@@ -4,6 +4,7 @@
 #include <string>
 
 #include <gtest/gtest.h>
+#include <nlohmann/json.hpp>
 
 namespace tavi {
 namespace {
@@ -26,6 +27,10 @@ const std::string answer =
     R"({"steps":[{"title":"Your Input","latexString":"7^{1}"},{"title":"Result","latexString":"7^{1} = 7"}],)"
     R"("latexString":"7^{1}"})";
 const std::string malformed = R"({"malformed":true})";
+
+const std::string tree =
+    R"({"width":1,"charts":[{"kind":"BernoulliDistributionTreeChartData","frameRatio":1,"chartTitle":"",)"
+    R"("chartColorHexCode":"","probabilityOfSuccess":0.5,"hits":1,"trials":12}]})";
 
 // In double quotes of bash.
 std::string quoted(const std::string& text) {
@@ -58,8 +63,36 @@ TEST(Filter, EndsWithItsReader) {
   // Where the signal is ignored, as under some engines, the exit code tells.
   EXPECT_EQ(printed("trap \"\" PIPE; " + endless + " 2>&1 >/dev/full | head -n 1; echo ${PIPESTATUS[1]}"),
             "tavi-cli: cannot write: No space left on device\n74\n");
+  // One answer that leaves in pieces ends with its first piece.
+  for (const std::string& command :
+       {std::string("head -c 50000 /dev/zero | tr \"\\0\" 1 | $cli typeset --json-lines"),
+        "echo " + quoted(tree) + " | $cli chart --json-lines"}) {
+    EXPECT_EQ(printed(command + " 2>&1 >/dev/full; echo ${PIPESTATUS[-1]}"),
+              "tavi-cli: cannot write: No space left on device\n74\n");
+  }
   EXPECT_EQ(printed("trap \"\" PIPE; " + endless + " 2>/dev/null | head -n 1; echo ${PIPESTATUS[1]}"),
             answer + "\n74\n");
+}
+
+// Others may have made the streams such that do not wait.
+TEST(Filter, WaitsForStreamsThatDoNot) {
+  const std::string filter =
+      "{ perl -MFcntl -e \"fcntl \\$_, F_SETFL, O_NONBLOCK for *STDIN, *STDOUT\"; $cli solve --json-lines; }";
+  // Here standard input is empty before each task, and there standard output full.
+  EXPECT_EQ(printed("coproc filter " + filter + "\nfor i in {1..20}; do echo " + quoted(task) +
+                    " >&${filter[1]}; read -r line <&${filter[0]}; done; echo \"$line\""),
+            answer + '\n');
+  EXPECT_EQ(printed("yes " + quoted(task) + " | head -n 2000 | " + filter +
+                    " | { while read -r line; do ((++count)); done; echo $count; }"),
+            "2000\n");
+}
+
+TEST(Filter, AnswersInPieces) {
+  const auto typeset = [](const std::string& latex) {
+    return nlohmann::json::parse(printed(latex + " | $cli typeset --json-lines"));
+  };
+  EXPECT_EQ(typeset("head -c 20000 /dev/zero | tr \"\\0\" 1")["glyphs"].size(), 20000U);
+  EXPECT_EQ(typeset("printf \"\\\\\\\\frac11%.0s\" {1..5000}")["rules"].size(), 5000U);
 }
 
 TEST(Filter, RepairsAndEscapesTexts) {

@@ -118,7 +118,6 @@ void append(std::string& out, const TreeChartView& tree) {
     const auto result = std::to_chars(digits.data(), digits.data() + digits.size(), value);
     out.append(digits.data(), result.ptr);
   };
-  bool isWritten = true;
   visitNodes(tree, [&](const PlacedNode& place) {
     const TreeNode& node = place.node;
     if (!node.value().empty()) out += ',';
@@ -132,8 +131,7 @@ void append(std::string& out, const TreeChartView& tree) {
     out += ']';
     if (node.isLeaf()) out += R"(,"leaf":")" + leafText(tree, node) + '"';
     out += '}';
-    isWritten = isWritten && (out.size() < blockSize || writeOut(out));
-    return isWritten;
+    return writeBlock(out);
   });
   out += "]}";
 }

@@ -41,6 +41,7 @@ void appendNumber(std::string& out, std::string_view key, double value) {
   out.append(digits.data(), static_cast<std::size_t>(end - digits.data()));
 }
 
+// An answer has many times the length of its line, so it leaves in blocks.
 void appendJson(std::string& out, std::string_view latex, double size, const typeset::Layout& layout) {
   out += R"({"latex":)";
   appendJsonText(out, latex);
@@ -58,6 +59,7 @@ void appendJson(std::string& out, std::string_view latex, double size, const typ
     appendNumber(out, R"(,"size":)", rounded(glyph.size));
     out += '}';
     separator = ",";
+    if (!writeBlock(out)) return;
   }
   out += R"(],"rules":[)";
   separator = "";
@@ -69,6 +71,7 @@ void appendJson(std::string& out, std::string_view latex, double size, const typ
     appendNumber(out, R"(,"h":)", rounded(rule.height));
     out += '}';
     separator = ",";
+    if (!writeBlock(out)) return;
   }
   out += R"(],"error":)";
   if (layout.error) {

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include <nlohmann/json.hpp>
+#include <poll.h>
 #include <unistd.h>
 
 #include "commands.h"
@@ -15,8 +16,42 @@
 namespace tavi::cli {
 namespace {
 
+// What is read at once, and what answers come together to before they are written.
+constexpr std::size_t blockSize = 64UL * 1024;
+
 // What an answer to one line may leave behind in the buffer for the next ones.
 constexpr std::size_t keptCapacity = 1024UL * 1024;
+
+// After a read or a write that did nothing: whether it is worth another try, which is awaited where others
+// made the stream one that does not wait.
+bool isToRepeat(int stream, short event) {
+  if (errno == EAGAIN) {
+    pollfd awaited{.fd = stream, .events = event, .revents = 0};
+    poll(&awaited, 1, -1);
+    return true;
+  }
+  return errno == EINTR;
+}
+
+// Writes the answers that came together so far and empties them. False from the first time on that the output
+// cannot be written, for which standard error tells the reason once.
+bool writeOut(std::string& out) {
+  static bool isBroken = false;
+  std::string_view rest = out;
+  while (!rest.empty() && !isBroken) {
+    const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
+    if (written >= 0) {
+      rest.remove_prefix(static_cast<std::size_t>(written));
+    } else if (!isToRepeat(STDOUT_FILENO, POLLOUT)) {
+      std::cerr << "tavi-cli: cannot write: " << std::strerror(errno) << '\n';
+      isBroken = true;
+    }
+  }
+  if (isBroken) return false;
+  out.clear();
+  if (out.capacity() > keptCapacity) out.shrink_to_fit();
+  return true;
+}
 
 // Cuts a stream of blocks into lines. A line that lies in one block is never copied.
 class LineFilter {
@@ -33,7 +68,7 @@ class LineFilter {
         keep(block.substr(0, end));
         finish();
       }
-      if (out_.size() >= blockSize && !writeOut(out_)) return false;
+      if (!writeBlock(out_)) return false;
     }
     keep(block);
     return writeOut(out_);
@@ -86,7 +121,7 @@ int answerLines(const LineAnswer& answer, const LineRules& rules) {
   while (true) {
     const ssize_t size = read(STDIN_FILENO, block.data(), block.size());
     if (size == 0) return filter.close() ? success : ioError;
-    if (size < 0 && errno == EINTR) continue;
+    if (size < 0 && isToRepeat(STDIN_FILENO, POLLIN)) continue;
     if (size < 0) {
       std::cerr << "tavi-cli: cannot read: " << std::strerror(errno) << '\n';
       return ioError;
@@ -95,20 +130,8 @@ int answerLines(const LineAnswer& answer, const LineRules& rules) {
   }
 }
 
-bool writeOut(std::string& out) {
-  std::string_view rest = out;
-  while (!rest.empty()) {
-    const ssize_t written = write(STDOUT_FILENO, rest.data(), rest.size());
-    if (written < 0 && errno == EINTR) continue;
-    if (written < 0) {
-      std::cerr << "tavi-cli: cannot write: " << std::strerror(errno) << '\n';
-      return false;
-    }
-    rest.remove_prefix(static_cast<std::size_t>(written));
-  }
-  out.clear();
-  if (out.capacity() > keptCapacity) out.shrink_to_fit();
-  return true;
+bool writeBlock(std::string& out) {
+  return out.size() < blockSize || writeOut(out);
 }
 
 void appendJsonText(std::string& out, std::string_view text) {

@@ -6,9 +6,6 @@
 
 namespace tavi::cli {
 
-/// What answers come together to before they are written.
-constexpr std::size_t blockSize = 64UL * 1024;
-
 /// What is read of lines.
 struct LineRules {
   std::size_t longest = 1024UL * 1024;  ///< In bytes; beyond it a line is malformed. So memory has a bound.
@@ -24,9 +21,10 @@ using LineAnswer = std::function<bool(std::string_view line, std::string& out)>;
 /// result is the exit code.
 int answerLines(const LineAnswer& answer, const LineRules& rules = {});
 
-/// Writes the answers that came together so far, which may be of a part of a line, and empties them. False,
-/// with the reason on standard error, where the output cannot be written.
-bool writeOut(std::string& out);
+/// Writes what came together of the answers once it is worth it, also of a part of a line, and empties it:
+/// for an answer without bounds. False where the output can no longer be written; the rest of the answer is
+/// of no use then.
+bool writeBlock(std::string& out);
 
 /// Appends a text (UTF-8) in quotes, as JSON; bytes that are no UTF-8 are replaced.
 void appendJsonText(std::string& out, std::string_view text);
