@@ -103,6 +103,14 @@ TEST(Filter, RepairsAndEscapesTexts) {
             R"(","size":20.0,"width":)");
 }
 
+TEST(Filter, DrawsTheSameBytesAtAnyTime) {
+  EXPECT_EQ(printed("pdf() { echo " + quoted(task) +
+                    " | TZ=$1 $cli render --json-lines pdf | cut -d \\\" -f 4 | base64 -d; }\n"
+                    "pdf UTC | head -c 4; pdf UTC | grep -ac CreationDate\n"
+                    "cmp <(pdf UTC) <(pdf Asia/Kolkata) && echo same"),
+            "%PDF0\nsame\n");
+}
+
 // Several processes at once give what one gives, in the same order.
 TEST(Filter, GivesTheSameOnSeveralProcesses) {
   if (printed("command -v parallel >/dev/null && echo there") != "there\n") GTEST_SKIP() << "no parallel";

@@ -7,6 +7,7 @@
 #include <iostream>
 #include <string>
 
+#include <QtCore/QBuffer>
 #include <QtCore/QSaveFile>
 #include <QtGui/QImage>
 #include <QtGui/QPainter>
@@ -57,13 +58,22 @@ bool writeSvg(QIODevice& file, const Picture& picture, double scale) {
   return true;
 }
 
+// The moment of its making, which a PDF may leave out, gives way to spaces: a picture has the same bytes at
+// any time.
 bool writePdf(QIODevice& file, const Picture& picture, double scale) {
-  QPdfWriter writer(&file);
+  qputenv("TZ", "UTC");  // The moment has another length in other zones.
+  QByteArray bytes;
+  QBuffer buffer(&bytes);
+  buffer.open(QIODevice::WriteOnly);
+  QPdfWriter writer(&buffer);
   writer.setResolution(72);
   writer.setPageSize(QPageSize(picture.size * scale, QPageSize::Point, {}, QPageSize::ExactMatch));
   writer.setPageMargins({});
   paintScaled(writer, picture, scale);
-  return true;
+  if (const auto begin = bytes.indexOf("/CreationDate ("); begin >= 0) {
+    std::fill(bytes.begin() + begin, bytes.begin() + bytes.indexOf(')', begin) + 1, ' ');
+  }
+  return file.write(bytes) == bytes.size();
 }
 
 bool save(const QString& name, const Picture& picture, double scale,
