@@ -17,7 +17,8 @@ struct JsonTask {
   std::int64_t mode = 0;
 };
 
-/// Reads {"first": text or null, "second": text or null, "mode": integer}; absent for anything else.
+/// Reads {"first": text or null, "second": text or null, "mode": integer}; absent for anything else, also
+/// where values nest more than 1024 deep or a number is beyond 64 bits.
 std::optional<JsonTask> readJsonTask(std::string_view line);
 
 /// Appends how a task ends: {"steps", "latexString"}, {"errorKey", "errorFieldIds"}, {"fatal": true} or
