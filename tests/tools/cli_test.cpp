@@ -70,8 +70,16 @@ TEST(Cli, ExitCodesTellHowATaskEnds) {
        {"", "sovle", "solve", "solve power 2", "solve cube 2 3", "solve --rwa power 2 3",
         "solve --raw --json power 2 3", "solve --json-lines power 2 3", "display-latex x", "exact power 2",
         "exact cube 2 3", "exact --digits 14 power 2 3", "exact --digits 1001 power 2 3", "exact --digits",
-        "exact --json-lines power 2 3"}) {
+        "exact --json-lines power 2 3", "chart --json-lines --dark", "chart --scale 1 --json-lines"}) {
     EXPECT_EQ(cli(std::string(wrong) + " 2>/dev/null").exitCode, 64) << wrong;
+  }
+  for (const std::string command :
+       {"solve power 2 3 --language", "exact --digits", "typeset --size", "render --language",
+        "render --json-lines", "render --pdf", "render --scale", "chart --size", "chart --png"}) {
+    const Finished finished = cli(command + " 2>&1");
+    const std::string option = command.substr(command.find("--"));
+    EXPECT_EQ(finished.exitCode, 64) << command;
+    EXPECT_TRUE(finished.output.starts_with("tavi-cli: " + option + " needs ")) << finished.output;
   }
   for (const char* help : {"--help", "solve --help", "display-latex --help", "exact --help"}) {
     const Finished finished = cli(help);

@@ -107,6 +107,7 @@ int chartCommand(Arguments arguments) {
   std::optional<QSizeF> size;
   std::optional<std::string> name;
   bool isJsonLines = false;
+  const bool isAlone = arguments.size() == 1;
   while (!arguments.empty()) {
     const std::string_view argument = arguments.front();
     if (argument == "--help") {
@@ -115,10 +116,13 @@ int chartCommand(Arguments arguments) {
     }
     const PictureFiles::Read read = files.read(arguments);
     if (read == PictureFiles::Read::done) continue;
+    if (read == PictureFiles::Read::wrong) return usageError(PictureFiles::needOf(argument), usage);
     arguments = arguments.subspan(1);
-    if (read == PictureFiles::Read::notMine && argument == "--json-lines") {
+    if (argument == "--json-lines") {
       isJsonLines = true;
-    } else if (argument == "--size" && !arguments.empty() && (size = readSize(arguments.front()))) {
+    } else if (argument == "--size") {
+      size = readSize(arguments.empty() ? "" : arguments.front());
+      if (!size) return usageError("--size needs a width and a height, such as 412x206", usage);
       arguments = arguments.subspan(1);
     } else if (!argument.starts_with("--") && !name) {
       name = argument;
@@ -126,10 +130,8 @@ int chartCommand(Arguments arguments) {
       return usageError("chart cannot read " + std::string(argument), usage);
     }
   }
-  if (isJsonLines) {
-    const bool isAlone = !name && !size && files.areNone();
-    return isAlone ? answerDescriptions() : usageError("--json-lines draws no file", usage);
-  }
+  if (isJsonLines)
+    return isAlone ? answerDescriptions() : usageError("--json-lines takes nothing else", usage);
   if (!name) return usageError("chart needs a file that describes a row of charts", usage);
   if (files.areNone()) return usageError("chart needs a file to draw to", usage);
   return drawFile(*name, size, files);

@@ -159,7 +159,7 @@ int exactCommand(Arguments arguments) {
       isLines = true;
     } else if (argument == "--digits") {
       const auto read = readDigits(i + 1 < arguments.size() ? arguments[i + 1] : "");
-      if (!read) return usageError("--digits takes a number from 15 to 1000", usage);
+      if (!read) return usageError("--digits needs a number from 15 to 1000", usage);
       digits = *read;
       ++i;
     } else {

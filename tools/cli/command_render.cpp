@@ -87,22 +87,22 @@ int renderCommand(Arguments arguments) {
       std::cout << usage;
       return success;
     }
-    if (argument == "--language" && arguments.size() > 1) {
+    if (argument == "--language") {
+      if (arguments.size() == 1) return usageError(languageNeed, usage);
       language = arguments[1];
       arguments = arguments.subspan(2);
       continue;
     }
-    if (argument == "--json-lines" && arguments.size() > 1) {
-      format = pictureFormat(arguments[1]);
-      if (format == nullptr) return usageError("lines are answered by png, svg or pdf", usage);
+    if (argument == "--json-lines") {
+      format = pictureFormat(arguments.size() > 1 ? arguments[1] : "");
+      if (format == nullptr) return usageError("--json-lines needs png, svg or pdf", usage);
       arguments = arguments.subspan(2);
       continue;
     }
     const PictureFiles::Read read = files.read(arguments);
     if (read == PictureFiles::Read::done) continue;
-    if (read == PictureFiles::Read::wrong || argument.starts_with("--")) {
-      return usageError("render cannot read " + std::string(argument), usage);
-    }
+    if (read == PictureFiles::Read::wrong) return usageError(PictureFiles::needOf(argument), usage);
+    if (argument.starts_with("--")) return usageError("render has no option " + std::string(argument), usage);
     operands.push_back(argument);
     arguments = arguments.subspan(1);
   }

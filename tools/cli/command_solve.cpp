@@ -129,8 +129,9 @@ int solveCommand(Arguments arguments) {
       return success;
     } else if (argument == "--check") {
       isChecked = true;
-    } else if (argument == "--language" && index + 1 < arguments.size()) {
-      language = arguments[++index];
+    } else if (argument == "--language") {
+      if (++index == arguments.size()) return usageError(languageNeed, usage);
+      language = arguments[index];
     } else if (argument == "--raw" || argument == "--json" || argument == "--json-lines") {
       if (!form.empty() && form != argument) {
         return usageError("--raw, --json and --json-lines exclude each other", usage);

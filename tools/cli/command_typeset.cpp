@@ -103,11 +103,11 @@ int typesetCommand(Arguments arguments) {
     }
     if (argument == "--json-lines") {
       isJsonLines = true;
-    } else if (argument == "--size" && arguments.size() > 1) {
-      arguments = arguments.subspan(1);
-      const auto read = readSize(arguments.front());
-      if (!read) return usageError(std::string(arguments.front()) + " is no size", usage);
+    } else if (argument == "--size") {
+      const auto read = readSize(arguments.size() > 1 ? arguments[1] : "");
+      if (!read) return usageError("--size needs a number above 0 and up to 10000", usage);
       size = *read;
+      arguments = arguments.subspan(1);
     } else {
       return usageError("typeset cannot read " + std::string(argument), usage);
     }

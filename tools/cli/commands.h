@@ -35,6 +35,9 @@ bool isOption(std::string_view argument);
 /// The mode of that name, "power" or "root".
 std::optional<Mode> readMode(std::string_view name);
 
+/// What is wrong where the option --language has no value.
+constexpr std::string_view languageNeed = "--language needs a language, such as de";
+
 /// Has workings titled in the words of the language, a BCP 47 name; needs an application object. Gives what
 /// is wrong where there are no such words.
 std::optional<std::string> useLanguage(std::string_view language);

@@ -106,6 +106,11 @@ PictureFiles::Read PictureFiles::read(Arguments& arguments) {
   return Read::done;
 }
 
+std::string PictureFiles::needOf(std::string_view option) {
+  return std::string(option) +
+         (option == "--scale" ? " needs a number above 0 and up to 20" : " needs the name of a file");
+}
+
 int PictureFiles::draw(const std::function<Picture()>& make) const {
   return inAppearance([&] {
     const Picture picture = make();

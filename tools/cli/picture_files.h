@@ -1,6 +1,7 @@
 #pragma once
 
 #include <functional>
+#include <string>
 #include <string_view>
 
 #include <QtCore/QSizeF>
@@ -31,6 +32,9 @@ struct PictureFiles {
 
   /// Takes --png, --svg, --pdf, --scale or --dark off the front of the arguments, with its value.
   Read read(Arguments& arguments);
+
+  /// What an option needs that was read as wrong.
+  static std::string needOf(std::string_view option);
 
   bool areNone() const { return png.isEmpty() && svg.isEmpty() && pdf.isEmpty(); }
 
