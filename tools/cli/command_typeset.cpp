@@ -116,10 +116,14 @@ int typesetCommand(Arguments arguments) {
 
   auto font = typeset::MathFont::open(typeset::bundledMathFont());
   if (!font) fatalStop("the bundled font has no mathematics");
-  return answerLines([&font, size](std::string_view line, std::string& out) {
+  // Room for the lines of a power with 10,000 copies; a layout has several hundred times the size of its
+  // line.
+  constexpr LineRules rules{.longest = 512UL * 1024};
+  const auto answer = [&font, size](std::string_view line, std::string& out) {
     appendJson(out, line, size, typeset::typeset(line, *font, size));
     return true;
-  });
+  };
+  return answerLines(answer, rules);
 }
 
 }  // namespace tavi::cli
