@@ -30,7 +30,10 @@
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
 #include "remote/analytics_events.h"
+#include "shell/frame/alert_controller.h"
+#include "shell/frame/view_manager.h"
 #include "shell/launch/application.h"
+#include "shell/settings/settings_view_controller.h"
 
 namespace tavi::faults {
 
@@ -82,16 +85,21 @@ class User {
   std::chrono::nanoseconds act() {
     const auto start = std::chrono::steady_clock::now();
     static constexpr auto actions =
-        std::to_array<std::pair<int, void (User::*)()>>({{40, &User::tapControl},
-                                                         {25, &User::typeKey},
-                                                         {15, &User::tapAnywhere},
+        std::to_array<std::pair<int, void (User::*)()>>({{36, &User::tapControl},
+                                                         {20, &User::typeKey},
+                                                         {13, &User::tapAnywhere},
                                                          {6, &User::drag},
                                                          {4, &User::turnWheel},
                                                          {4, &User::navigate},
                                                          {2, &User::paste},
                                                          {2, &User::resize},
                                                          {1, &User::changeAppearance},
-                                                         {1, &User::changeLanguage}});
+                                                         {1, &User::changeLanguage},
+                                                         {5, &User::solve},
+                                                         {2, &User::deleteRecord},
+                                                         {2, &User::undo},
+                                                         {1, &User::share},
+                                                         {1, &User::changeConsent}});
     int rest = throwDice(100);
     for (const auto& [weight, action] : actions) {
       if ((rest -= weight) < 0) {
@@ -103,10 +111,20 @@ class User {
     return std::chrono::steady_clock::now() - start;
   }
 
-  /// What the process holds, in KiB, in the window's first size and with what is free given back.
+  /// Whether the user is asked about deleting all records, so that the next action may do that.
+  bool isAskedToClear() {
+    const auto* alert = qobject_cast<AlertController*>(delegate().drawer()->presentedController());
+    return alert && alert->title() == localized("Clear History");
+  }
+
+  /// What the process holds, in KiB, in the window's first size, on fresh pages, without a history and with
+  /// what is free given back.
   long memoryAtRest() {
     window().resize(412, 870);
-    QTest::qWait(500);
+    delegate().openTask({});
+    QTest::qWait(500);  // The last pages are gone.
+    ViewManager::hideToast();
+    CalcManager::shared().clearCalculations();
     QPixmapCache::clear();
     application_.engine().collectGarbage();
     malloc_trim(0);
@@ -114,7 +132,8 @@ class User {
   }
 
  private:
-  QQuickWindow& window() { return *application_.delegate().window(); }
+  AppDelegate& delegate() { return application_.delegate(); }
+  QQuickWindow& window() { return *delegate().window(); }
   int throwDice(int sides) { return std::uniform_int_distribution(0, sides - 1)(dice_); }
   const auto& anyOf(const auto& list) {
     return *std::next(list.begin(), throwDice(static_cast<int>(list.size())));
@@ -122,13 +141,24 @@ class User {
 
   QPoint anyPlace() { return {throwDice(window().width()), throwDice(window().height())}; }
 
+  static QPoint middle(const QQuickItem& item) {
+    return item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
+  }
+
   void collect(QQuickItem& item, std::vector<QQuickItem*>& controls) {
     if (!item.isVisible()) return;
-    const QPoint middle = item.mapToScene({item.width() / 2, item.height() / 2}).toPoint();
     if (item.inherits("QQuickAbstractButton") && item.isEnabled() &&
-        QRect({}, window().size()).contains(middle))
+        QRect({}, window().size()).contains(middle(item)))
       controls.push_back(&item);
     for (QQuickItem* child : item.childItems()) collect(*child, controls);
+  }
+
+  /// The visible item of that object name below the other; null without one.
+  static QQuickItem* find(QQuickItem& item, const QString& name) {
+    if (!item.isVisible() || item.objectName() == name) return item.isVisible() ? &item : nullptr;
+    for (QQuickItem* child : item.childItems())
+      if (QQuickItem* found = find(*child, name)) return found;
+    return nullptr;
   }
 
   void touch(QPoint place) {
@@ -140,8 +170,7 @@ class User {
     std::vector<QQuickItem*> controls;
     collect(*window().contentItem(), controls);
     if (controls.empty()) return;
-    const QQuickItem& control = *anyOf(controls);
-    const QPoint place = control.mapToScene({control.width() / 2, control.height() / 2}).toPoint();
+    const QPoint place = middle(*anyOf(controls));
     if (throwDice(2) == 0)
       touch(place);
     else
@@ -210,6 +239,50 @@ class User {
     QCoreApplication::sendEvent(&application_, &change);
   }
 
+  /// A power typed in on fresh pages, or a whole task that another start brings; either has a working.
+  void solve() {
+    const QString first = QString::number(2 + throwDice(8));
+    const QString second = QString::number(1 + throwDice(999));
+    const QVariantMap setup{{CalculateViewController::modeKey, qlonglong{throwDice(2)}}};
+    if (throwDice(2) == 0)
+      return delegate().openTask({{{"aTextField", first}, {"xTextField", second}}, {}, {}, setup});
+    delegate().openTask({{}, {}, {}, {{CalculateViewController::modeKey, qlonglong{0}}}});
+    QTest::keyClick(&window(), '1');  // Begins to type, at the end of what the last pages held.
+    QTest::keyClick(&window(), Qt::Key_A, Qt::ControlModifier);
+    for (const QChar digit : second) QTest::keyClick(&window(), digit.toLatin1());
+    QTest::keyClick(&window(), '^');
+    QTest::keyClick(&window(), Qt::Key_A, Qt::ControlModifier);
+    QTest::keyClick(&window(), first.front().toLatin1());
+    QTest::keyClick(&window(), Qt::Key_Return);
+  }
+
+  void deleteRecord() {
+    delegate().drawer()->dismissPresented();
+    delegate().leftViewController()->didSelectRow(LeftViewController::mainSection, 1);
+    QCoreApplication::processEvents();
+    QQuickItem* table = find(*window().contentItem(), QStringLiteral("historyTable"));
+    if (!table) return;
+    table->forceActiveFocus();
+    QTest::keyClick(&window(), Qt::Key_Home);
+    if (throwDice(2) == 0) QTest::keyClick(&window(), Qt::Key_Down);
+    QTest::keyClick(&window(), Qt::Key_Delete);
+  }
+
+  void undo() { QTest::keyClick(&window(), Qt::Key_Z, Qt::ControlModifier); }
+
+  void share() {
+    if (const QQuickItem* button = find(*window().contentItem(), QStringLiteral("shareButton")))
+      touch(middle(*button));
+  }
+
+  /// Mostly agrees, so that there are measurements to lose.
+  void changeConsent() {
+    delegate().drawer()->dismissPresented();
+    delegate().leftViewController()->showSettings();
+    auto* settings = qobject_cast<SettingsViewController*>(delegate().drawer()->presentedController());
+    if (settings) settings->setMeasuring(throwDice(3) != 0);
+  }
+
   Application& application_;
   std::mt19937 dice_;
   std::unique_ptr<QPointingDevice> finger_;
@@ -218,7 +291,7 @@ class User {
 struct Options {
   unsigned seed;
   int actions;
-  bool isQuiet;      ///< Tells only how it went, not what the history holds.
+  bool isQuiet;      ///< Tells how it went and the memory that it took, not what the history holds.
   bool isMeasuring;  ///< Reports an event after each action.
 };
 
@@ -251,6 +324,12 @@ class Measured {
   double longest_ = 0;
 };
 
+/// What the history holds, and whether nothing is to be measured.
+void sayState() {
+  say(records(CalcManager::shared().calculations()));
+  if (!PreferenceStore::standard().value(preferences::isMeasurementAccepted)) say("withdrawn");
+}
+
 /// Acts until it has acted often enough. Memory is compared once everything has been opened a few times.
 int play(Application& application, const Options& options) {
   if (application.launch()) {
@@ -262,18 +341,20 @@ int play(Application& application, const Options& options) {
   User user(application, options.seed);
   Measured measured(options.seed);
   const CalcManager& store = CalcManager::shared();
-  QString told;
+  if (!options.isQuiet) sayState();
+  QString told = records(store.calculations());
   long settled = 0;
   std::chrono::nanoseconds longest{};
   for (int action = 0; action < options.actions; ++action) {
-    if (action == options.actions / 10) settled = user.memoryAtRest();
+    if (options.isQuiet && action == options.actions / 10) settled = user.memoryAtRest();
+    if (!options.isQuiet && user.isAskedToClear()) say("asked to clear");
     longest = std::max(longest, user.act());
     if (options.isMeasuring) measured.report(action);
     if (options.isQuiet) continue;
     const QString now = records(store.calculations());
     if (now != told) say(told = now);
   }
-  say(QStringLiteral("memory %1 %2").arg(settled).arg(user.memoryAtRest()));
+  if (options.isQuiet) say(QStringLiteral("memory %1 %2").arg(settled).arg(user.memoryAtRest()));
   say(QStringLiteral("longest %1")
           .arg(std::chrono::duration_cast<std::chrono::milliseconds>(longest).count()));
   if (options.isMeasuring) say(QStringLiteral("longest event %1").arg(measured.longest()));
@@ -287,7 +368,7 @@ int go(int argumentCount, char** arguments) {
       {{"seed", "of the dice", "number", "1"},
        {"actions", "how many; many more than one lives to do if absent", "number", "2000000000"},
        {"settings", "folder of another ProjectSettings.json", "folder"},
-       {"quiet", "do not tell what the history holds"},
+       {"quiet", "tell the memory in place of what the history holds"},
        {"measure", "report an event after each action"},
        {"language", "from the next start on", "code"},
        {"dump", "only tell what the history holds"},
@@ -297,8 +378,10 @@ int go(int argumentCount, char** arguments) {
   if (parser.isSet("settings")) ResourceBundle::overlayMain(parser.value("settings"));
   Links::shared().setHandler({}, [](const QUrl&) { return true; });
   if (parser.isSet("dump")) {
-    say(records(CalcManager::shared().calculations()));
-    if (!PreferenceStore::standard().value(preferences::isMeasurementAccepted)) say("withdrawn");
+    sayState();
+    for (const Calculation& each : CalcManager::shared().calculations())
+      say("record " +
+          QJsonDocument(QJsonObject::fromVariantMap(each.properties())).toJson(QJsonDocument::Compact));
     return 0;
   }
   if (parser.isSet("language"))
