@@ -183,6 +183,8 @@ class Home:
         if not self.store("measurement"):
             return set()
         with contextlib.closing(sqlite3.connect(self.store("measurement"), isolation_level=None)) as database:
+            if not database.execute("SELECT 1 FROM sqlite_master WHERE name = 'notes'").fetchone():
+                return set()  # Its first start was ended before there were any.
             database.execute("DELETE FROM notes WHERE name = 'notBefore'")
             return {event_name(json.loads(record)) for (record,) in database.execute("SELECT record FROM events")}
 
@@ -247,6 +249,8 @@ def killed(home, dice, number):
 def refused(home, dice, number):
     """The disk refuses from some write on: the application goes on, and what is stored is a state that was. Where only
     measurements are refused nothing else is lost, and no event holds up the screen."""
+    if number == 0:
+        home.run("--agree", "--fill", 3, "--actions", 0)
     before = home.stored()
     code = dice.choice([errno.ENOSPC, errno.EIO])
     file = ["", "measurement"][number % 2]
@@ -314,6 +318,8 @@ DAMAGES = {
     "no measurements": ("measurement", lambda store: store.write_bytes(b""), all_left),
     "half of the measurements": ("measurement", lambda store: os.truncate(store, store.stat().st_size // 2), all_left),
     "notes of a wrong kind": ("measurement", sql("UPDATE notes SET value = x'ff00'"), all_left),
+    "measurements with a number from nowhere": ("measurement", sql(
+        "INSERT INTO events(id, record) SELECT id + 1000000000000, record FROM events"), all_left),
 }
 
 
