@@ -221,7 +221,7 @@ def killed(home, dice, number):
         raise Fault(f"said: {home.complained()[:500]}")
     if list(home.folder.rglob("*.unreadable*")):
         raise Fault(f"after kill {number} a store could not be read")
-    afterwards = home.run("--actions", 0)
+    afterwards = home.run("--actions", 0, *home.measuring)
     told, now = [before, *records(lines)], records(afterwards)[-1]
     # The action that was under way may be seen or not. The deletion of all was to be expected; an undo brings several
     # records back at once, or takes imported ones away.
