@@ -347,8 +347,10 @@ int play(Application& application, const Options& options) {
   long settled = 0;
   std::chrono::nanoseconds longest{};
   for (int action = 0; action < options.actions; ++action) {
-    if (options.isQuiet && action % 2000 == 0 && action <= options.actions / 2)
-      settled = std::max(settled, user.memoryAtRest());
+    if (options.isQuiet && action % 2000 == 0) {
+      const long memory = user.memoryAtRest();
+      if (action <= options.actions / 2) settled = std::max(settled, memory);
+    }
     if (!options.isQuiet && user.isAskedToClear()) say("asked to clear");
     longest = std::max(longest, user.act());
     if (options.isMeasuring) measured.report(action);
