@@ -181,6 +181,9 @@ Rectangle {
         id: rowMenu
 
         function openFor(row: int, item: Item, place: point) {
+            // Of a finger that stayed on a page which left meanwhile.
+            if (!page.Window.window)
+                return;
             active = true;
             (rowMenu.item as HistoryRowMenu).openFor(row, item, place);
         }

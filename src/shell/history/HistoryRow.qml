@@ -57,6 +57,7 @@ HistoryTableViewCell {
     Accessible.focusable: true
     Accessible.onPressAction: row.clicked()
     width: ListView.view.width
+    enabled: index >= 0 // One that fades out is none any more.
     height: Math.max(72, formula.implicitHeight + 12)
     opacity: isLifted ? 0 : 1
     Component.onCompleted: fill()
