@@ -167,8 +167,12 @@ void ViewController::replaceChild(std::shared_ptr<ViewController>& slot, std::sh
 }
 
 void ViewController::releaseLater(std::shared_ptr<ViewController> controller) {
+  // Each at a time of its own, as what presents it goes a turn before it.
   leaving_.push_back(std::move(controller));
-  QTimer::singleShot(0, this, [this] { std::exchange(leaving_, {}).clear(); });
+  QTimer::singleShot(0, this, [this] {
+    const std::shared_ptr<ViewController> gone = std::move(leaving_.front());
+    leaving_.pop_front();
+  });
 }
 
 double bottomSafeAreaInset() {

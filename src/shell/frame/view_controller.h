@@ -189,7 +189,7 @@ class ViewController : public QObject {
   bool isPresentationAnimated_ = true;
   bool isPresentationShown_ = false;
   bool isLeaving_ = false;
-  std::vector<std::shared_ptr<ViewController>> leaving_;
+  std::deque<std::shared_ptr<ViewController>> leaving_;
   TabItem tabItem_;
 };
 

@@ -1,6 +1,7 @@
 #include <QCoreApplication>
 #include <QQuickWindow>
 #include <QTest>
+#include <QTimer>
 
 #include <gtest/gtest.h>
 
@@ -116,6 +117,18 @@ TEST_F(NavigationTest, ReplacesTheRootAndLetsGoOfTheOldOneAfterwards) {
   const QStringList released = takeEvents();
   EXPECT_TRUE(released.contains("input gone"));
   EXPECT_TRUE(released.contains("solution gone"));
+}
+
+TEST_F(NavigationTest, WhatIsDismissedGoesAfterItsPopupAlsoWhereSomethingElseGoes) {
+  buildTree();
+  drawer->present(page("sheet"));
+  drawer->transition(page("fresh"));
+  QTimer::singleShot(0, [this] { events.append("popup gone"); });
+  drawer->dismissPresented();
+  QCoreApplication::processEvents();
+  const QStringList order = takeEvents();
+  EXPECT_TRUE(order.contains("popup gone"));
+  EXPECT_GT(order.indexOf("sheet gone"), order.indexOf("popup gone"));
 }
 
 TEST_F(NavigationTest, OpensTheMenuByItsButtonUnlessACalculationRuns) {
