@@ -64,6 +64,7 @@ class BodyReadOnce : public QIODevice {
 
  protected:
   qint64 readData(char* data, qint64 size) override {
+    if (rest_.isEmpty()) return -1;
     const qint64 taken = std::min<qint64>(size, rest_.size());
     std::copy_n(rest_.cbegin(), taken, data);
     rest_.remove(0, taken);
@@ -198,8 +199,7 @@ void MeasurementClient::receive(QNetworkReply* reply, qint64 lastId) {
     store_->remove(lastId);
     rest(settings_.interval, 0);
   } else {
-    const int failures = store_->sendState().failures;
-    rest(std::max(pauseAfter(failures), askedPause(reply->rawHeader("Retry-After"))), failures);
+    rest(std::max(pauseAfter(state_.failures), askedPause(reply->rawHeader("Retry-After"))), state_.failures);
   }
   schedule(milliseconds(0));
 }
