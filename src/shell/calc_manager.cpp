@@ -86,6 +86,7 @@ StoredCalculations CalcManager::clearCalculations() {
   for (qsizetype i = 0; i < list().calculations.size(); ++i)
     removed.append({list().numbers[i], list().calculations[i]});
   list().calculations.clear();
+  list().numbers.clear();
   saveCalculations();
   return removed;
 }
@@ -185,6 +186,7 @@ void CalcManager::read(qsizetype most) {
   if (read.unread || read.isOurs) return;
   userDefaults_.setAside(preferences::calculations);
   read.calculations.resize(read.added);
+  read.numbers.resize(read.added);
   saveCalculations();
 }
 

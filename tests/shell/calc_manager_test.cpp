@@ -172,6 +172,15 @@ TEST_F(CalcManagerTest, WhatTheDiskRefusesIsKeptUntilItTakesIt) {
   EXPECT_EQ(storedOrder(), "AC");
   manager.removeCalculation(0);
   EXPECT_EQ(storedOrder(), "C");
+
+  runSql(path_, "CREATE TRIGGER refusal BEFORE DELETE ON elements BEGIN SELECT RAISE(ABORT, 'full'); END");
+  const StoredCalculations removed = manager.clearCalculations();
+  EXPECT_EQ(storedOrder(), "C");
+  manager.restoreCalculations(removed);
+  EXPECT_EQ(order(manager), "C") << "put back, though it was never gone";
+  runSql(path_, "DROP TRIGGER refusal");
+  manager.addCalculation(named("D"));
+  EXPECT_EQ(storedOrder(), "DC");
 }
 
 TEST_F(CalcManagerTest, ABadFieldFallsBackAloneAndTheHistoryStays) {
