@@ -171,16 +171,17 @@ TEST_F(CalcManagerTest, WhatTheDiskRefusesIsKeptUntilItTakesIt) {
   manager.swapCalculations(0, 1);
   EXPECT_EQ(storedOrder(), "AC");
   manager.removeCalculation(0);
-  EXPECT_EQ(storedOrder(), "C");
+  manager.addCalculation(named("D"));
+  EXPECT_EQ(storedOrder(), "DC");
 
   runSql(path_, "CREATE TRIGGER refusal BEFORE DELETE ON elements BEGIN SELECT RAISE(ABORT, 'full'); END");
   const StoredCalculations removed = manager.clearCalculations();
-  EXPECT_EQ(storedOrder(), "C");
-  manager.restoreCalculations(removed);
-  EXPECT_EQ(order(manager), "C") << "put back, though it was never gone";
-  runSql(path_, "DROP TRIGGER refusal");
-  manager.addCalculation(named("D"));
   EXPECT_EQ(storedOrder(), "DC");
+  manager.restoreCalculations(removed);
+  EXPECT_EQ(order(manager), "DC") << "put back, though they were never gone";
+  runSql(path_, "DROP TRIGGER refusal");
+  manager.addCalculation(named("E"));
+  EXPECT_EQ(storedOrder(), "EDC");
 }
 
 TEST_F(CalcManagerTest, ABadFieldFallsBackAloneAndTheHistoryStays) {
