@@ -75,12 +75,10 @@ TEST_F(Measurement, AnAnswerToWhatWasWithdrawnTouchesNothingNew) {
   client.setConsent(true);
   client.take({"one", std::nullopt});
   ASSERT_TRUE(waitUntil([&] { return asking.size() == 1; }));
-  bool isGone = false;
-  QObject::connect(asking[0], &QTcpSocket::disconnected, [&isGone] { isGone = true; });
   client.setConsent(false);
   client.setConsent(true);
   client.take({"two", std::nullopt});
-  if (!isGone) Collector::say(*asking[0]);
+  Collector::say(*asking[0]);
   ASSERT_TRUE(waitUntil([&] { return asking.size() == 2; }));
   EXPECT_EQ(client.waiting(), 1);
   Collector::say(*asking[1]);
