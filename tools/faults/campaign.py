@@ -1,11 +1,12 @@
 #!/usr/bin/env python3
 """Goes for the application's faults with a user who throws dice, and prints a table.
 
-campaign.py MINUTES BUILD...: each build folder gets its share of the time, and each fault is tried a few times however
-little that is; without any, no time or memory is judged. Nothing acknowledged may be lost, the process may end only
+campaign.py MINUTES BUILD...: all build folders are gone for side by side, and each fault is tried a few times however
+short the time is; without any, no time or memory is judged. Nothing acknowledged may be lost, the process may end only
 where it must, and every start must come up. Exit code 1 when something else is seen.
 """
 
+import concurrent.futures
 import contextlib
 import errno
 import gzip
@@ -505,9 +506,12 @@ def long_history(home, count):
     with contextlib.closing(sqlite3.connect(home.store())) as database, database:
         [(record,)] = database.execute("SELECT value FROM elements WHERE key = 'Calculations' LIMIT 1").fetchall()
         database.executemany("INSERT INTO elements(key, value) VALUES('Calculations', ?)", [(record,)] * (count - 1))
-    output = subprocess.run([home.build / "bin/tavi-tour", "--measure", "history"], env=home.environment(), text=True,
-                            stdout=subprocess.PIPE, timeout=600 + PATIENCE, check=True).stdout
-    waits = {name: float(value) for name, value in (line.rsplit("=", 1) for line in output.splitlines())}
+    waits = {}
+    for _ in range(3 if home.is_judged else 1):  # The least counts, as other builds take the processor meanwhile.
+        output = subprocess.run([home.build / "bin/tavi-tour", "--measure", "history"], env=home.environment(), text=True,
+                                stdout=subprocess.PIPE, timeout=600 + PATIENCE, check=True).stdout
+        for name, wait in (line.rsplit("=", 1) for line in output.splitlines()):
+            waits[name] = min(waits.get(name, float("inf")), float(wait))
     longest = max(waits, key=waits.get)
     if home.is_judged and waits[longest] > 100:
         raise Fault(f"{longest} takes {waits[longest]:.0f} ms")
@@ -526,12 +530,12 @@ PARTS = [
 ]
 
 
-def campaign(minutes, builds):
-    share = minutes * 60 / len(builds)
+def campaign(minutes, build):
+    """All parts against one build, a line of the table each; whether nothing was found."""
+    seconds = minutes * 60
     is_clean = True
-    print(f"{'build':<10} {'fault':<24} {'times':>6}  outcome", flush=True)
 
-    def row(build, name, run):
+    def row(name, run):
         nonlocal is_clean
         with tempfile.TemporaryDirectory() as folder:
             home = Home(build, folder, minutes > 0)
@@ -543,9 +547,9 @@ def campaign(minutes, builds):
             home.close()
         print(f"{home.build.name:<10} {name:<24} {times[0]:>6}  {outcome}", flush=True)
 
-    def again_and_again(part, dice, least, most, seconds):
+    def again_and_again(part, dice, least, most, portion):
         def run(home, times):
-            end, changes = time.monotonic() + seconds, set()
+            end, changes = time.monotonic() + seconds * portion, set()
             while times[0] < least or (times[0] < most and time.monotonic() < end):
                 changes.add(part(home, dice, times[0]))
                 times[0] += 1
@@ -559,17 +563,20 @@ def campaign(minutes, builds):
             return part(home, argument)
         return run
 
-    for build in builds:
-        for name, part, portion, least, most in PARTS:
-            row(build, name, again_and_again(part, random.Random(name), least, most, share * portion))
-        for count in (10_000, 100_000):
-            row(build, f"{count:,} records", once(long_history, count))
-        # Sixty actions a second are few, so that this part keeps its share of the time on a slow machine, too. An hour has
-        # room for all of them.
-        is_whole = minutes >= 60 and pathlib.Path(build).name == "release"
-        row(build, "a monkey", once(long_monkey, 100_000 if is_whole else max(300, min(100_000, int(share * 0.12 * 60)))))
+    for name, part, portion, least, most in PARTS:
+        row(name, again_and_again(part, random.Random(name), least, most, portion))
+    for count in (10_000, 100_000):
+        row(f"{count:,} records", once(long_history, count))
+    # Sixty actions a second are few, so that this part keeps its share of the time on a slow machine, too. An hour has
+    # room for all of them.
+    is_whole = minutes >= 60 and pathlib.Path(build).name == "release"
+    row("a monkey", once(long_monkey, 100_000 if is_whole else max(300, min(100_000, int(seconds * 0.12 * 60)))))
     return is_clean
 
 
 if __name__ == "__main__":
-    sys.exit(0 if campaign(float(sys.argv[1]), sys.argv[2:]) else 1)
+    minutes, builds = float(sys.argv[1]), sys.argv[2:]
+    print(f"{'build':<10} {'fault':<24} {'times':>6}  outcome", flush=True)
+    with concurrent.futures.ProcessPoolExecutor(len(builds)) as side_by_side:
+        are_clean = list(side_by_side.map(campaign, [minutes] * len(builds), builds))
+    sys.exit(0 if all(are_clean) else 1)
