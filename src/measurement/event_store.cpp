@@ -7,6 +7,7 @@
 #include <QRandomGenerator>
 #include <algorithm>
 #include <limits>
+#include <utility>
 
 #include <sqlite3.h>
 
@@ -18,9 +19,10 @@ namespace {
 constexpr const char* prepareFile =
     "PRAGMA locking_mode = EXCLUSIVE; PRAGMA journal_mode = WAL; PRAGMA synchronous = OFF;"
     "PRAGMA wal_autocheckpoint = 50;"
+    "BEGIN IMMEDIATE;"
     "CREATE TABLE IF NOT EXISTS events(id INTEGER PRIMARY KEY, record BLOB NOT NULL);"
     "CREATE TABLE IF NOT EXISTS notes(name TEXT PRIMARY KEY, value BLOB NOT NULL);"
-    "BEGIN IMMEDIATE; COMMIT";
+    "COMMIT";
 
 bool isDefective(int error) {
   return error == SQLITE_CORRUPT || error == SQLITE_NOTADB || error == SQLITE_ERROR ||
@@ -44,25 +46,24 @@ void EventStore::Finalize::operator()(sqlite3_stmt* statement) const {
 
 EventStore::EventStore(QString path, QByteArray kind) : path_(std::move(path)), kind_(std::move(kind)) {
   QDir().mkpath(QFileInfo(path_).absolutePath());
-  if (!open()) qInfo().noquote() << "Measurement: nothing will be kept in" << path_;
+  open();
+  if (!isThere()) qInfo().noquote() << "Measurement: nothing will be kept in" << path_;
 }
 
-bool EventStore::open() {
-  for (int attempt = 0; attempt < 2; ++attempt) {
-    sqlite3* raw = nullptr;
-    int error = sqlite3_open(QFile::encodeName(path_).constData(), &raw);
-    database_.reset(raw);
-    if (error == SQLITE_OK) {
-      sqlite3_db_config(raw, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
-      sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
-      error = sqlite3_exec(raw, prepareFile, nullptr, nullptr, nullptr);
-    }
-    if (error == SQLITE_OK) error = readNumbers();
-    if (error == SQLITE_OK) return true;
-    database_.reset();
-    if (!isDefective(error) || !discard(path_)) return false;
+void EventStore::open() {
+  const bool isAfresh = std::exchange(isToOpen_, false);
+  sqlite3* raw = nullptr;
+  int error = sqlite3_open(QFile::encodeName(path_).constData(), &raw);
+  database_.reset(raw);
+  if (error == SQLITE_OK) {
+    sqlite3_db_config(raw, SQLITE_DBCONFIG_DEFENSIVE, 1, nullptr);
+    sqlite3_db_config(raw, SQLITE_DBCONFIG_TRUSTED_SCHEMA, 0, nullptr);
+    error = sqlite3_exec(raw, prepareFile, nullptr, nullptr, nullptr);
   }
-  return false;
+  if (error == SQLITE_OK) error = readNumbers();
+  if (error == SQLITE_OK) return;
+  if (isDefective(error) && !isAfresh) return startAfresh();
+  database_.reset();
 }
 
 // SQLITE_CORRUPT also where the numbers cannot be true, or the records are of another kind.
@@ -91,6 +92,7 @@ int EventStore::readNumbers() {
 
 // Whoever deletes the file, be it another process for which the user has withdrawn, does not want it kept.
 bool EventStore::isThere() {
+  if (isToOpen_) open();
   int hasMoved = 0;
   if (database_) sqlite3_file_control(database_.get(), "main", SQLITE_FCNTL_HAS_MOVED, &hasMoved);
   if (hasMoved != 0) {
@@ -100,10 +102,12 @@ bool EventStore::isThere() {
   return database_ != nullptr;
 }
 
+// To delete a full file and to make a new one at once would hold up the screen too long.
 void EventStore::startAfresh() {
+  if (database_) sqlite3_db_config(database_.get(), SQLITE_DBCONFIG_NO_CKPT_ON_CLOSE, 1, nullptr);
   database_.reset();
   firstId_ = lastId_ + 1;
-  if (discard(path_)) open();
+  isToOpen_ = discard(path_);
 }
 
 bool EventStore::run(const char* sql, const std::vector<QByteArray>& values) {
@@ -124,7 +128,7 @@ bool EventStore::run(const char* sql, const std::vector<QByteArray>& values) {
 }
 
 void EventStore::add(const QByteArray& record) {
-  if (record.size() > byteLimit) return;
+  if (record.size() > byteLimit || !isThere()) return;
   if (!run("INSERT INTO events(id, record) VALUES(CAST(?1 AS INTEGER), ?2)",
            {QByteArray::number(lastId_ + 1), record}))
     return;
@@ -175,7 +179,7 @@ void EventStore::remove(qint64 lastId) {
 }
 
 QByteArray EventStore::note(const char* name) {
-  if (!database_) return {};
+  if (!isThere()) return {};
   sqlite3_stmt* raw = nullptr;
   sqlite3_prepare_v2(database_.get(), "SELECT value FROM notes WHERE name = ?1", -1, &raw, nullptr);
   const Statement statement(raw);

@@ -70,7 +70,7 @@ class EventStore {
   };
   using Statement = std::unique_ptr<sqlite3_stmt, Finalize>;
 
-  bool open();
+  void open();
   int readNumbers();
   bool isThere();
   void startAfresh();
@@ -82,6 +82,7 @@ class EventStore {
   QString path_;
   QByteArray kind_;
   std::unique_ptr<sqlite3, Close> database_;
+  bool isToOpen_ = false;  // A file that begins afresh is made when it is used next.
   // Of the records that are kept; without one, the first is behind the last. They go on over a fresh file, so
   // that an acknowledgement that comes late meets no record which came later.
   qint64 firstId_ = 1;
