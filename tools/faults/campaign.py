@@ -125,8 +125,9 @@ class Home:
         self.complaints = tempfile.TemporaryFile()
         process = subprocess.Popen([self.build / "bin/tavi-user", *map(str, arguments)], stdout=subprocess.PIPE,
                                    stderr=self.complaints, text=True, env=self.environment(**environment))
-        process.lines = []  # What it has said so far.
-        process.reader = threading.Thread(target=lambda: process.lines.extend(map(str.rstrip, process.stdout)), daemon=True)
+        process.lines = []  # What it has said so far; a kill can cut off the last line, which then was not said.
+        whole = (line.rstrip() for line in process.stdout if line.endswith("\n"))
+        process.reader = threading.Thread(target=lambda: process.lines.extend(whole), daemon=True)
         process.reader.start()
         self.started = [each for each in self.started if each.poll() is None] + [process]
         return process
@@ -229,7 +230,8 @@ def killed(home, dice, number):
     is_cleared = not now and lines[-1:] == ["asked to clear"]
     is_undone = now in told and (set(told[-1]) <= set(now) or now and now == told[-1][:len(now)])
     if not (follows(now, told[-1]) or is_cleared or is_undone):
-        raise Fault(f"after kill {number} the store holds {now}, told was {told[-1]}")
+        raise Fault(f"after kill {number} the store lacks {set(told[-1]) - set(now)} and has {set(now) - set(told[-1])}, or "
+                    f"another order of its {len(now)} records")
     for word, *names in map(str.split, lines):
         if word == "withdrawn":
             home.measured.clear()
