@@ -804,12 +804,16 @@ Ist eine Adresse dafür eingetragen, holt die App ihre Liste von Videos und Apps
         <translation>Diese Version merkt sich nichts über ihre Nutzung und sendet nichts.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Nur wenn du es in den Einstellungen erlaubst, merkt sich die App, welche ihrer Funktionen genutzt werden, und sendet das an %1. Du kannst das dort jederzeit widerrufen; was gemerkt ist, wird dann sofort gelöscht.
-
-Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, und Name und Version der App; nichts, was dich oder dein Gerät benennt. Dies sind die Ereignisse und was mit jedem geht:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Nur wenn du es in den Einstellungen erlaubst, merkt sich die App, welche ihrer Funktionen genutzt werden, und sendet das an %1. Du kannst das dort jederzeit widerrufen; was gemerkt ist, wird dann sofort gelöscht.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Dann bleibt nicht nur auf diesem Gerät, was du rechnest: Was du eingetippt hast und die Lösung werden mitgesendet.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>Mit jedem Ereignis gehen seine Zeit, eine Zufallszahl, die jeden Tag wechselt, und Name und Version der App; nichts, was dich oder dein Gerät benennt. Dies sind die Ereignisse und was mit jedem geht:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

@@ -804,12 +804,16 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>This version keeps and sends nothing about its use.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

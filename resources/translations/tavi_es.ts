@@ -804,12 +804,16 @@ Si hay una dirección prevista para ello, la aplicación descarga de Internet su
         <translation>Esta versión no guarda ni envía nada sobre su uso.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Solo si lo permites en los ajustes, la aplicación guarda qué funciones suyas se usan y lo envía a %1. Allí puedes retirar el permiso en cualquier momento; lo guardado se borra entonces enseguida.
-
-Con cada evento van su hora, un número al azar que cambia cada día, y el nombre y la versión de la aplicación; nada que te nombre a ti ni a tu dispositivo. Estos son los eventos y lo que va con cada uno:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Solo si lo permites en los ajustes, la aplicación guarda qué funciones suyas se usan y lo envía a %1. Allí puedes retirar el permiso en cualquier momento; lo guardado se borra entonces enseguida.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Entonces lo que calculas no se queda solo en este dispositivo: también se envían lo que has escrito y la solución.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>Con cada evento van su hora, un número al azar que cambia cada día, y el nombre y la versión de la aplicación; nada que te nombre a ti ni a tu dispositivo. Estos son los eventos y lo que va con cada uno:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

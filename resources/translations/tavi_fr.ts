@@ -804,12 +804,16 @@ Si une adresse est prévue pour cela, l’appli va chercher sa liste de vidéos 
         <translation>Cette version ne garde et n’envoie rien sur son utilisation.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Seulement si tu l’autorises dans les réglages, l’appli garde quelles fonctions sont utilisées et l’envoie à %1. Tu peux y retirer ton accord à tout moment ; ce qui est gardé est alors effacé aussitôt.
-
-Avec chaque événement partent son heure, un nombre au hasard qui change chaque jour, ainsi que le nom et la version de l’appli ; rien qui te nomme, toi ou ton appareil. Voici les événements et ce qui part avec chacun :</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Seulement si tu l’autorises dans les réglages, l’appli garde quelles fonctions sont utilisées et l’envoie à %1. Tu peux y retirer ton accord à tout moment ; ce qui est gardé est alors effacé aussitôt.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Dans ce cas, ce que tu calcules ne reste pas seulement sur cet appareil : ce que tu as saisi et la solution sont envoyés aussi.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>Avec chaque événement partent son heure, un nombre au hasard qui change chaque jour, ainsi que le nom et la version de l’appli ; rien qui te nomme, toi ou ton appareil. Voici les événements et ce qui part avec chacun :</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

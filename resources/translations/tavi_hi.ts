@@ -804,12 +804,16 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>यह संस्करण अपने उपयोग के बारे में न कुछ रखता है, न भेजता है।</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>केवल आपके सेटिंग में अनुमति देने पर ऐप यह रखता है कि उसकी कौन-सी सुविधाएँ उपयोग होती हैं, और इसे %1 को भेजता है। आप वहाँ अनुमति कभी भी वापस ले सकते हैं; तब जो रखा गया है, वह तुरंत मिटा दिया जाता है।
-
-हर घटना के साथ उसका समय, हर दिन बदलने वाली एक यादृच्छिक संख्या, और ऐप का नाम और संस्करण जाता है; ऐसा कुछ नहीं जो आपकी या आपके उपकरण की पहचान बताए। ये हैं घटनाएँ और हर एक के साथ जाने वाली जानकारी:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>केवल आपके सेटिंग में अनुमति देने पर ऐप यह रखता है कि उसकी कौन-सी सुविधाएँ उपयोग होती हैं, और इसे %1 को भेजता है। आप वहाँ अनुमति कभी भी वापस ले सकते हैं; तब जो रखा गया है, वह तुरंत मिटा दिया जाता है।</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>तब आप जो हल करते हैं, वह केवल इसी उपकरण पर नहीं रहता: आपने जो लिखा और उसका हल भी भेजे जाते हैं।</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>हर घटना के साथ उसका समय, हर दिन बदलने वाली एक यादृच्छिक संख्या, और ऐप का नाम और संस्करण जाता है; ऐसा कुछ नहीं जो आपकी या आपके उपकरण की पहचान बताए। ये हैं घटनाएँ और हर एक के साथ जाने वाली जानकारी:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

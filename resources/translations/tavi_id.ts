@@ -804,12 +804,16 @@ Jika alamat untuk itu sudah diatur, aplikasi mengambil daftar video dan aplikasi
         <translation>Versi ini tidak menyimpan dan tidak mengirim apa pun tentang penggunaannya.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Hanya jika kamu mengizinkannya di setelan, aplikasi menyimpan fungsi mana yang dipakai dan mengirimnya ke %1. Kamu dapat mencabut izin di sana kapan saja; yang tersimpan lalu langsung dihapus.
-
-Bersama setiap peristiwa dikirim waktunya, sebuah bilangan acak yang berganti setiap hari, serta nama dan versi aplikasi; tidak ada yang menyebut kamu atau perangkatmu. Inilah peristiwanya dan yang dikirim bersama masing-masing:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Hanya jika kamu mengizinkannya di setelan, aplikasi menyimpan fungsi mana yang dipakai dan mengirimnya ke %1. Kamu dapat mencabut izin di sana kapan saja; yang tersimpan lalu langsung dihapus.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Jika demikian, yang kamu hitung tidak hanya berada di perangkat ini: yang kamu ketik dan penyelesaiannya ikut dikirim.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>Bersama setiap peristiwa dikirim waktunya, sebuah bilangan acak yang berganti setiap hari, serta nama dan versi aplikasi; tidak ada yang menyebut kamu atau perangkatmu. Inilah peristiwanya dan yang dikirim bersama masing-masing:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

@@ -804,12 +804,16 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>このバージョンは利用状況を記録も送信もしません。</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>設定で許可した場合にだけ、アプリはどの機能が使われたかを記録し、%1に送信します。許可は設定でいつでも取り消せます。取り消すと、記録はすぐに消去されます。
-
-各イベントとともに、その時刻、毎日変わるランダムな数、アプリの名前とバージョンが送られます。あなたや端末を特定するものは送られません。イベントと、それぞれとともに送られるものは次のとおりです：</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>設定で許可した場合にだけ、アプリはどの機能が使われたかを記録し、%1に送信します。許可は設定でいつでも取り消せます。取り消すと、記録はすぐに消去されます。</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>その場合、計算した内容はこの端末だけには残りません。入力した内容と解き方も送信されます。</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>各イベントとともに、その時刻、毎日変わるランダムな数、アプリの名前とバージョンが送られます。あなたや端末を特定するものは送られません。イベントと、それぞれとともに送られるものは次のとおりです：</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

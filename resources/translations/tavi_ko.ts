@@ -804,12 +804,16 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>이 버전은 사용에 관해 아무것도 기록하거나 보내지 않습니다.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>설정에서 허용한 경우에만 앱은 어떤 기능이 쓰였는지 기록하여 %1에 보냅니다. 설정에서 언제든지 철회할 수 있으며, 그러면 기록은 곧바로 지워집니다.
-
-각 이벤트와 함께 그 시각, 날마다 바뀌는 임의의 수, 앱의 이름과 버전이 갑니다. 사용자나 기기를 알 수 있는 것은 가지 않습니다. 이벤트와 각각 함께 가는 것은 다음과 같습니다:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>설정에서 허용한 경우에만 앱은 어떤 기능이 쓰였는지 기록하여 %1에 보냅니다. 설정에서 언제든지 철회할 수 있으며, 그러면 기록은 곧바로 지워집니다.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>그러면 계산한 내용이 이 기기에만 남지 않습니다. 입력한 내용과 풀이도 함께 보냅니다.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>각 이벤트와 함께 그 시각, 날마다 바뀌는 임의의 수, 앱의 이름과 버전이 갑니다. 사용자나 기기를 알 수 있는 것은 가지 않습니다. 이벤트와 각각 함께 가는 것은 다음과 같습니다:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

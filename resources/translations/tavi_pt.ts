@@ -804,12 +804,16 @@ Se houver um endereço definido para isso, o aplicativo busca sua lista de víde
         <translation>Esta versão não guarda nem envia nada sobre seu uso.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Somente se você permitir nas configurações, o aplicativo guarda quais de suas funções são usadas e envia isso para %1. Você pode voltar atrás lá a qualquer momento; o que foi guardado é então apagado na hora.
-
-Com cada evento vão sua hora, um número aleatório que muda todo dia, e o nome e a versão do aplicativo; nada que identifique você ou seu aparelho. Estes são os eventos e o que vai com cada um:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Somente se você permitir nas configurações, o aplicativo guarda quais de suas funções são usadas e envia isso para %1. Você pode voltar atrás lá a qualquer momento; o que foi guardado é então apagado na hora.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Nesse caso, o que você calcula não fica só neste aparelho: o que você digitou e a solução também são enviados.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>Com cada evento vão sua hora, um número aleatório que muda todo dia, e o nome e a versão do aplicativo; nada que identifique você ou seu aparelho. Estes são os eventos e o que vai com cada um:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

@@ -804,12 +804,16 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>Эта версия ничего не сохраняет и не отправляет о своём использовании.</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>Только если вы разрешите это в настройках, приложение сохраняет, какие его функции используются, и отправляет это на %1. Там же разрешение можно отозвать в любой момент; сохранённое тогда сразу удаляется.
-
-С каждым событием передаются его время, случайное число, которое меняется каждый день, а также название и версия приложения; ничего, что указывало бы на вас или ваше устройство. Вот эти события и то, что передаётся с каждым из них:</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>Только если вы разрешите это в настройках, приложение сохраняет, какие его функции используются, и отправляет это на %1. Там же разрешение можно отозвать в любой момент; сохранённое тогда сразу удаляется.</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>Тогда то, что вы считаете, остаётся не только на этом устройстве: введённое вами и решение отправляются тоже.</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>С каждым событием передаются его время, случайное число, которое меняется каждый день, а также название и версия приложения; ничего, что указывало бы на вас или ваше устройство. Вот эти события и то, что передаётся с каждым из них:</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

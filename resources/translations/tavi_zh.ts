@@ -804,12 +804,16 @@ Where an address for it is set, the app fetches its list of videos and apps from
         <translation>这个版本不记录也不发送任何使用情况。</translation>
     </message>
     <message id="measurementText">
-        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.
-
-With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
-        <translation>只有在设置中得到你的允许后，应用才会记录使用了哪些功能，并发送到 %1。你可以随时在那里撤回；已记录的内容会立即删除。
-
-每个事件会附带发生的时间、一个每天更换的随机数，以及应用的名称和版本；不含任何能识别你或你的设备的内容。以下是这些事件以及各自附带的内容：</translation>
+        <source>Only if you allow it in the settings, the app keeps which of its functions are used and sends that to %1. You can withdraw there at any time; what is kept is then deleted at once.</source>
+        <translation>只有在设置中得到你的允许后，应用才会记录使用了哪些功能，并发送到 %1。你可以随时在那里撤回；已记录的内容会立即删除。</translation>
+    </message>
+    <message id="measurementWorkings">
+        <source>Then what you calculate does not stay on this device only: what you typed and the solution are sent along.</source>
+        <translation>这样一来，你的计算就不只留在这台设备上：你输入的内容和解题过程也会一起发送。</translation>
+    </message>
+    <message id="measurementEvents">
+        <source>With each event go its time, a random number that changes every day, and the name and version of the app; nothing that names you or your device. These are the events, and what goes with each:</source>
+        <translation>每个事件会附带发生的时间、一个每天更换的随机数，以及应用的名称和版本；不含任何能识别你或你的设备的内容。以下是这些事件以及各自附带的内容：</translation>
     </message>
     <message id="exactButton">
         <source>Exact</source>

@@ -12,7 +12,6 @@
 #include <algorithm>
 
 #include "measurement/otlp.h"
-#include "remote/analytics_events.h"
 
 namespace tavi {
 
@@ -90,8 +89,22 @@ MeasurementSettings MeasurementSettings::fromBundle(const ResourceBundle& bundle
 }
 
 bool MeasurementSettings::isUsable() const {
-  return endpoint.isValid() &&
+  return endpoint.isValid() && !endpoint.host().isEmpty() &&
          (endpoint.scheme() == u"https" || (allowsLoopbackHttp && isLoopbackHttp(endpoint)));
+}
+
+QString MeasurementSettings::terms() const {
+  return endpoint.host() + QLatin1StringView(sendsWorkings ? " with workings" : "");
+}
+
+QStringList MeasurementSettings::sentParameters(const events::EventKind& kind) const {
+  QStringList sent;
+  for (const QLatin1StringView parameter : kind.parameters) {
+    const bool isTyped =
+        std::ranges::find(events::typedParameters, parameter) != events::typedParameters.end();
+    if (!parameter.isEmpty() && (sendsWorkings || !isTyped)) sent.append(parameter);
+  }
+  return sent;
 }
 
 std::unique_ptr<MeasurementClient> MeasurementClient::fromBundle(const ResourceBundle& bundle) {
@@ -123,7 +136,7 @@ MeasurementClient::~MeasurementClient() {
 void MeasurementClient::setConsent(bool isGiven) {
   if (isGiven) {
     if (!store_) {
-      store_.emplace(storePath_, settings_.sendsWorkings ? "with workings" : "");
+      store_.emplace(storePath_, settings_.terms().toUtf8());
       // To agree anew ends no pause.
       if (!rest_.hasExpired()) store_->setSendState(state_);
     }
@@ -136,11 +149,12 @@ void MeasurementClient::setConsent(bool isGiven) {
 }
 
 void MeasurementClient::take(const AnalyticsEvent& event) {
-  if (!store_) return;
-  AnalyticsEvent kept = event;
-  if (kept.parameters && !settings_.sendsWorkings) {
-    for (const QLatin1StringView typed : events::typedParameters) kept.parameters->remove(typed);
-  }
+  const events::EventKind* kind = events::kindOf(event.name);
+  if (!store_ || kind == nullptr) return;
+  AnalyticsEvent kept{event.name, QVariantMap()};
+  const QVariantMap given = event.parameters.value_or(QVariantMap());
+  for (const QString& parameter : settings_.sentParameters(*kind))
+    if (given.contains(parameter)) kept.parameters->insert(parameter, given[parameter]);
   const QDateTime time = QDateTime::currentDateTimeUtc();
   const QByteArray record = otlp::logRecord(kept, time, store_->dailyNumber(time.date()));
   if (record.size() < recordBytes_) store_->add(record);

@@ -14,6 +14,7 @@
 #include "platform/analytics.h"
 #include "platform/network_access.h"
 #include "platform/resource_bundle.h"
+#include "remote/analytics_events.h"
 
 namespace tavi {
 
@@ -35,6 +36,13 @@ struct MeasurementSettings {
 
   /// Whether there is an address and it may be used.
   bool isUsable() const;
+
+  /// What a user agrees to: who receives the events, and whether with workings. The answer to one is none to
+  /// another.
+  QString terms() const;
+
+  /// The names of the parameters that go with an event of the kind.
+  QStringList sentParameters(const events::EventKind& kind) const;
 };
 
 /// Keeps the events of a user who agreed, and sends them in batches. Until then, and from a withdrawal on,
@@ -56,8 +64,12 @@ class MeasurementClient : public QObject {
   /// The user's answer. A withdrawal deletes what is kept and ends what is being sent.
   void setConsent(bool isGiven);
 
-  /// Keeps the event, if the user agreed. This is what `Analytics` hands its events to.
+  /// Keeps the event with what may go with it, if the user agreed and the vocabulary has it. This is what
+  /// `Analytics` hands its events to.
   void take(const AnalyticsEvent& event);
+
+  /// Those that hold for what it sends.
+  QString terms() const { return settings_.terms(); }
 
   /// How many events wait to be sent.
   qint64 waiting() const { return store_ ? store_->count() : 0; }

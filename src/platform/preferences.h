@@ -28,7 +28,8 @@ inline constexpr Preference<qlonglong> formulaScale{QLatin1StringView("formulaSc
 inline constexpr Preference<bool> isOnboardingFinished{QLatin1StringView("isOnboardingFinished"), false};
 inline constexpr Preference<bool> isDsgvoAccepted{QLatin1StringView("isDsgvoAccepted"), false};
 inline constexpr Preference<bool> isYoutubeDsgvoAccepted{QLatin1StringView("isYoutubeDsgvoAccepted"), false};
-inline constexpr Preference<bool> isMeasurementAccepted{QLatin1StringView("isMeasurementAccepted"), false};
+inline const Preference<QString> acceptedMeasurement{
+    QLatin1StringView("acceptedMeasurement")};  ///< The terms that the user agreed to; empty for none.
 
 // Rating and advertisements: visits left until the prompt, whether it is over for good, advertisements shown.
 inline constexpr Preference<qlonglong> counterForRating{QLatin1StringView("counterForRating"), 5};

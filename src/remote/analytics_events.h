@@ -1,6 +1,8 @@
 #pragma once
 
 #include <QLatin1StringView>
+#include <QStringView>
+#include <algorithm>
 #include <array>
 
 /// Every event the application reports, by the name it is reported under. A comment gives the parameters; an
@@ -87,6 +89,13 @@ inline constexpr auto vocabulary = std::to_array<EventKind>(
        QLatin1StringView{"countTaviAdsPresented"}}},
      {tappedRatedApp, {QLatin1StringView{"app"}, QLatin1StringView{"rating"}}},
      {tappedRatedAppCancel}});
+
+/// The kind of that name; null where there is none.
+inline const EventKind* kindOf(QStringView name) {
+  const auto* const found =
+      std::ranges::find_if(vocabulary, [name](const EventKind& kind) { return kind.name == name; });
+  return found == vocabulary.end() ? nullptr : &*found;
+}
 
 // Parameters in which stands what the user typed, or its working.
 inline constexpr std::array<QLatin1StringView, 3> typedParameters{QLatin1StringView{"solutionSteps"},

@@ -55,8 +55,10 @@ QStringList Collector::names() const {
   QStringList names;
   for (const QJsonObject& batch : batches_) {
     const QJsonObject scope = batch["resourceLogs"][0]["scopeLogs"][0].toObject();
-    for (const QJsonValue record : scope["logRecords"].toArray())
-      names.append(record["eventName"].toString());
+    for (const QJsonValue record : scope["logRecords"].toArray()) {
+      for (const QJsonValue attribute : record["attributes"].toArray())
+        if (attribute["key"] == "taviApp") names.append(attribute["value"]["stringValue"].toString());
+    }
   }
   return names;
 }

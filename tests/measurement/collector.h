@@ -24,7 +24,7 @@ class Collector {
   const QList<QJsonObject>& batches() const { return batches_; }
   const QByteArray& lastHead() const { return head_; }
 
-  /// The names of all events received, in order.
+  /// What stood in the parameter "taviApp" of the events received, in order.
   QStringList names() const;
 
   /// A whole answer; "200 OK" and "{}" is what a collector that took everything says.

@@ -40,6 +40,11 @@ class Measurement : public testing::Test {
   QTemporaryDir folder_;
 };
 
+// An event that can be told apart; the collector tells of it by that name.
+AnalyticsEvent named(const QString& name) {
+  return {"Tapped Rating in Menu", QVariantMap{{"taviApp", name}}};
+}
+
 void well(qsizetype /*batch*/, QTcpSocket& socket) {
   Collector::say(socket);
 }
@@ -52,7 +57,7 @@ TEST_F(Measurement, KeepsAndSendsNothingWithoutConsent) {
   EXPECT_FALSE(isAnyFile());
 
   client.setConsent(true);
-  client.take({"asked", std::nullopt});
+  client.take(named("asked"));
   EXPECT_TRUE(waitUntil([&] { return collector.names() == QStringList{"asked"}; }));
 }
 
@@ -60,11 +65,11 @@ TEST_F(Measurement, AWithdrawalDeletesAtOnceAlsoWhatIsOnItsWay) {
   Collector collector([](qsizetype, QTcpSocket&) {});
   MeasurementClient client(settings(collector.address()), path());
   client.setConsent(true);
-  client.take({"one", std::nullopt});
+  client.take(named("one"));
   EXPECT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
   client.setConsent(false);
   EXPECT_FALSE(isAnyFile());
-  client.take({"two", std::nullopt});
+  client.take(named("two"));
   EXPECT_FALSE(isAnyFile());
 }
 
@@ -73,11 +78,11 @@ TEST_F(Measurement, AnAnswerToWhatWasWithdrawnTouchesNothingNew) {
   Collector collector([&asking](qsizetype, QTcpSocket& socket) { asking.append(&socket); });
   MeasurementClient client(settings(collector.address()), path());
   client.setConsent(true);
-  client.take({"one", std::nullopt});
+  client.take(named("one"));
   ASSERT_TRUE(waitUntil([&] { return asking.size() == 1; }));
   client.setConsent(false);
   client.setConsent(true);
-  client.take({"two", std::nullopt});
+  client.take(named("two"));
   Collector::say(*asking[0]);
   ASSERT_TRUE(waitUntil([&] { return asking.size() == 2; }));
   EXPECT_EQ(client.waiting(), 1);
@@ -104,11 +109,18 @@ TEST_F(Measurement, AFileThatCannotBeDeletedIsEmptied) {
 TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
   nameApplication();
   Collector collector(well);
-  MeasurementClient client(settings(collector.address()), path());
+  MeasurementSettings some = settings(collector.address());
+  some.interval = 1h;
+  some.endTimeout = 10s;
+  MeasurementClient client(some, path());
   client.setConsent(true);
   client.take({"taviAds_presented",
-               QVariantMap{{"taviAdId", "π"}, {"countTaviAdsPresented", 7}, {"is", true}, {"rating", 4.5}}});
-  ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
+               QVariantMap{{"taviAdId", "π"}, {"countTaviAdsPresented", 7}, {"told nowhere", "secret"}}});
+  client.take({"told nowhere", std::nullopt});
+  client.take({"Tapped App Link", QVariantMap{{"has_app", true}}});
+  client.take({"tapped_rated_app", QVariantMap{{"rating", 4.5}}});
+  client.finish();
+  ASSERT_EQ(collector.batches().size(), 1);
   EXPECT_TRUE(collector.lastHead().startsWith("post /v1/logs http/1.1"));
   EXPECT_TRUE(collector.lastHead().contains("content-type: application/json"));
   EXPECT_TRUE(collector.lastHead().contains("content-encoding: gzip"));
@@ -118,29 +130,35 @@ TEST_F(Measurement, SendsLogsAsCollectorsReadThem) {
   EXPECT_EQ(logs["resource"]["attributes"][0]["key"].toString(), "service.name");
   EXPECT_EQ(logs["resource"]["attributes"][0]["value"]["stringValue"].toString(), "tavi");
   EXPECT_FALSE(logs["resource"]["attributes"][1]["value"]["stringValue"].toString().isEmpty()) << "version";
-  const QJsonValue record = logs["scopeLogs"][0]["logRecords"][0];
+  const QJsonArray records = logs["scopeLogs"][0]["logRecords"].toArray();
+  ASSERT_EQ(records.size(), 3);
+  const QJsonValue record = records[0];
   EXPECT_EQ(record["eventName"].toString(), "taviAds_presented");
   EXPECT_EQ(record["body"]["stringValue"].toString(), "taviAds_presented");
   EXPECT_EQ(record["severityNumber"].toInt(), 9);
   EXPECT_GT(record["timeUnixNano"].toString().toLongLong(), 1'600'000'000'000'000'000);
   QStringList attributes;
-  for (const QJsonValue attribute : record["attributes"].toArray()) {
-    const QJsonObject value = attribute["value"].toObject();
-    attributes.append(
-        attribute["key"].toString() + ' ' + value.keys().join(',') + ' ' +
-        (attribute["key"] == "tavi.day" ? QString("*") : value.begin()->toVariant().toString()));
+  for (const QJsonValue each : records) {
+    for (const QJsonValue attribute : each["attributes"].toArray()) {
+      const QJsonObject value = attribute["value"].toObject();
+      attributes.append(
+          attribute["key"].toString() + ' ' + value.keys().join(',') + ' ' +
+          (attribute["key"] == "tavi.day" ? QString("*") : value.begin()->toVariant().toString()));
+    }
   }
   EXPECT_EQ(attributes,
-            (QStringList{"countTaviAdsPresented intValue 7", "is boolValue true", "rating doubleValue 4.5",
-                         "tavi.day stringValue *", "taviAdId stringValue π"}));
+            (QStringList{"countTaviAdsPresented intValue 7", "tavi.day stringValue *",
+                         "taviAdId stringValue π", "has_app boolValue true", "tavi.day stringValue *",
+                         "rating doubleValue 4.5", "tavi.day stringValue *"}));
 }
 
 TEST_F(Measurement, SendsWhatWasTypedOnlyIfTheSettingSaysSo) {
-  const AnalyticsEvent event{"tavi_calculate",
-                             QVariantMap{{"solutionSteps", QVariantList{QVariantMap{{"title", "secret"}}}},
-                                         {"calc_parameters", QVariantMap{{"aTextField", "secret"}}},
-                                         {"latex_string", "secret"},
-                                         {"solutionStepsCount", 1}}};
+  const AnalyticsEvent calculated{
+      "tavi_calculate", QVariantMap{{"solutionSteps", QVariantList{QVariantMap{{"title", "secret"}}}},
+                                    {"solutionStepsCount", 1}}};
+  const AnalyticsEvent opened{
+      "tapped_history_item",
+      QVariantMap{{"calc_parameters", QVariantMap{{"aTextField", "secret"}}}, {"latex_string", "secret"}}};
   // Nor is sent what was kept while it said so.
   for (const bool isAllowed : {false, true, false, true}) {
     MeasurementSettings some = settings(QUrl("https://collector.invalid/v1/logs"));
@@ -148,10 +166,11 @@ TEST_F(Measurement, SendsWhatWasTypedOnlyIfTheSettingSaysSo) {
     {
       MeasurementClient client(some, path());
       client.setConsent(true);
-      client.take(event);
+      client.take(calculated);
+      client.take(opened);
     }
-    ASSERT_EQ(kept().size(), 1);
-    EXPECT_EQ(kept()[0].count("secret"), isAllowed ? 3 : 0);
+    ASSERT_EQ(kept().size(), 2);
+    EXPECT_EQ(kept().join("").count("secret"), isAllowed ? 3 : 0);
     EXPECT_TRUE(kept()[0].contains("solutionStepsCount"));
   }
 }
@@ -214,11 +233,11 @@ TEST_P(MeasurementAnswers, EndInAcknowledgementOrAnotherAttempt) {
   if (std::string_view(GetParam().name) == "Never") some.timeout = 50ms;
   MeasurementClient client(some, path());
   client.setConsent(true);
-  client.take({"first", std::nullopt});
+  client.take(named("first"));
   const qsizetype attempts = GetParam().isSentAgain ? 2 : 1;
   ASSERT_TRUE(waitUntil([&] { return collector.batches().size() >= attempts; }));
   ASSERT_TRUE(waitUntil([&] { return client.waiting() == 0; }));
-  client.take({"second", std::nullopt});
+  client.take(named("second"));
   ASSERT_TRUE(waitUntil([&] { return collector.names().contains("second"); }));
   // A slow machine may miss the short timeout more than once.
   if (GetParam().isSentAgain) {
@@ -244,18 +263,19 @@ TEST_F(Measurement, KeepsItsPauseOverAWithdrawalAndANewStart) {
     {
       MeasurementClient client(some, path());
       client.setConsent(true);
-      client.take({"one", std::nullopt});
+      client.take(named("one"));
       ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
       client.finish();
       client.setConsent(false);
       client.setConsent(true);
-      client.take({"two", std::nullopt});
+      client.take(named("two"));
       client.finish();
     }
-    EXPECT_GT(EventStore(path()).sendState().notBefore, QDateTime::currentMSecsSinceEpoch() + 3000 * 1000);
+    EXPECT_GT(EventStore(path(), some.terms().toUtf8()).sendState().notBefore,
+              QDateTime::currentMSecsSinceEpoch() + 3000 * 1000);
     MeasurementClient client(some, path());
     client.setConsent(true);
-    client.take({"three", std::nullopt});
+    client.take(named("three"));
     client.finish();
     EXPECT_EQ(collector.batches().size(), 1) << asked.toStdString();
   }
@@ -276,7 +296,7 @@ TEST_F(Measurement, KnocksOnceWhereNobodyAnswers) {
     for (int use = 0; use < 3; ++use) {
       MeasurementClient client(some, path());
       client.setConsent(true);
-      client.take({"one", std::nullopt});
+      client.take(named("one"));
       ASSERT_TRUE(waitUntil([&] { return collector.batches().size() == 1; }));
       client.finish();
     }
@@ -291,12 +311,12 @@ TEST_F(Measurement, SendsALastBatchAtTheEnd) {
   some.endTimeout = 10s;
   MeasurementClient client(some, path());
   client.setConsent(true);
-  client.take({"one", std::nullopt});
-  client.take({"two", std::nullopt});
-  client.take({"too long", QVariantMap{{"rating", QString(300'000, 'x')}}});
+  client.take(named("one"));
+  client.take(named("two"));
+  client.take(named(QString(300'000, 'x')));
   client.finish();
   EXPECT_EQ(collector.batches().size(), 1);
-  client.take({"three", std::nullopt});
+  client.take(named("three"));
   client.finish();
   EXPECT_EQ(collector.names(), (QStringList{"one", "two", "three"}));
 }

@@ -18,7 +18,7 @@ int runChild(const QString& path, const QString& endpoint, const QString& mark) 
   int count = 0;
   QObject::connect(&timer, &QTimer::timeout, [&] {
     const QString name = QStringLiteral("event-%1-%2").arg(mark).arg(count++);
-    client.take({name, std::nullopt});
+    client.take({"Tapped Rating in Menu", QVariantMap{{"taviApp", name}}});
     std::puts(qPrintable(name));
     std::fflush(stdout);
   });

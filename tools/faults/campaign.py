@@ -94,7 +94,9 @@ class Collector(Services):
 
 
 def event_name(record):
-    return record.get("eventName") or record["body"]["stringValue"]
+    """What an event was told by, which goes with it; None for one of the application's own."""
+    values = {each["key"]: each["value"].get("stringValue") for each in record["attributes"]}
+    return values.get("taviApp")
 
 
 class Home:

@@ -65,14 +65,12 @@ long residentMemory() {
 
 /// Whether an event is one that the vocabulary knows, with no parameter that it does not tell of.
 bool isTold(const AnalyticsEvent& event) {
-  for (const events::EventKind& kind : events::vocabulary) {
-    if (kind.name != event.name) continue;
-    const QStringList given = event.parameters.value_or(QVariantMap()).keys();
-    return std::ranges::all_of(given, [&kind](const QString& parameter) {
-      return std::ranges::any_of(kind.parameters, [&](QLatin1StringView told) { return told == parameter; });
-    });
-  }
-  return false;
+  const events::EventKind* kind = events::kindOf(event.name);
+  const QStringList given = event.parameters.value_or(QVariantMap()).keys();
+  return kind != nullptr && std::ranges::all_of(given, [kind](const QString& parameter) {
+           return std::ranges::any_of(kind->parameters,
+                                      [&](QLatin1StringView told) { return told == parameter; });
+         });
 }
 
 /// Hands and eyes of the user: every place of the window, every key of the keyboard.
@@ -295,19 +293,22 @@ struct Options {
   bool isMeasuring;  ///< Reports an event after each action.
 };
 
-/// Reports events with names of their own, and tells of them once they are kept.
+/// Reports events that can be told apart, and tells of them once they are kept.
 class Measured {
  public:
   explicit Measured(unsigned seed) : seed_(seed) {}
 
   void report(int action) {
-    const PreferenceStore& preferences = PreferenceStore::standard();
-    if (!preferences.value(preferences::isMeasurementAccepted)) return say("withdrawn");
+    if (!isAccepted()) return say("withdrawn");
     const QString name = QStringLiteral("event-%1-%2").arg(seed_).arg(action);
     const double before = processorMilliseconds();
-    Analytics::logEvent(name);
+    Analytics::logEvent(events::tappedRatingInMenu, QVariantMap{{"taviApp", name}});
     longest_ = std::max(longest_, processorMilliseconds() - before);
     say(QStringLiteral("measured ") + name);
+  }
+
+  static bool isAccepted() {
+    return !PreferenceStore::standard().value(preferences::acceptedMeasurement).isEmpty();
   }
 
   /// The most processor time that an event took, in milliseconds.
@@ -327,7 +328,7 @@ class Measured {
 /// What the history holds, and whether nothing is to be measured.
 void sayState() {
   say(records(CalcManager::shared().calculations()));
-  if (!PreferenceStore::standard().value(preferences::isMeasurementAccepted)) say("withdrawn");
+  if (!Measured::isAccepted()) say("withdrawn");
 }
 
 /// Acts until it has acted often enough. Memory at the end is compared with the most that was held at rest in
@@ -390,10 +391,14 @@ int go(int argumentCount, char** arguments) {
   }
   if (parser.isSet("language"))
     PreferenceStore::standard().setValue(preferences::language, parser.value("language"));
-  if (parser.isSet("agree"))
+  if (parser.isSet("agree")) {
+    PreferenceStore& preferences = PreferenceStore::standard();
     for (const auto* answer : {&preferences::isOnboardingFinished, &preferences::isDsgvoAccepted,
-                               &preferences::isYoutubeDsgvoAccepted, &preferences::isMeasurementAccepted})
-      PreferenceStore::standard().setValue(*answer, true);
+                               &preferences::isYoutubeDsgvoAccepted})
+      preferences.setValue(*answer, true);
+    preferences.setValue(preferences::acceptedMeasurement,
+                         MeasurementSettings::fromBundle(ResourceBundle::main()).terms());
+  }
   Analytics::setSink([](const AnalyticsEvent& event) {
     if (!isTold(event)) say(QStringLiteral("not in the vocabulary: ") + event.name);
   });

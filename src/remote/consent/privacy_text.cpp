@@ -1,9 +1,6 @@
 #include "remote/consent/privacy_text.h"
 
-#include <algorithm>
-
 #include "platform/localization.h"
-#include "remote/analytics_events.h"
 
 namespace tavi {
 
@@ -13,14 +10,12 @@ QString privacyText(const MeasurementSettings& measurement) {
 }
 
 QString measurementText(const MeasurementSettings& measurement) {
-  QString text = localized("measurementText").arg(measurement.endpoint.host());
+  const QString paragraph = QStringLiteral("\n\n");
+  QString text = localized("measurementText").arg(measurement.endpoint.host()) + paragraph;
+  if (measurement.sendsWorkings) text += localized("measurementWorkings") + paragraph;
+  text += localized("measurementEvents");
   for (const events::EventKind& kind : events::vocabulary) {
-    QStringList sent;
-    for (const QLatin1StringView parameter : kind.parameters) {
-      const bool isTyped =
-          std::ranges::find(events::typedParameters, parameter) != events::typedParameters.end();
-      if (!parameter.isEmpty() && (measurement.sendsWorkings || !isTyped)) sent.append(parameter);
-    }
+    const QStringList sent = measurement.sentParameters(kind);
     text += QStringLiteral("\n• ") + kind.name;
     if (!sent.isEmpty()) text += QStringLiteral(": ") + sent.join(QStringLiteral(", "));
   }

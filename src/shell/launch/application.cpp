@@ -186,7 +186,7 @@ void Application::startMeasuring() {
   if (!measurement_) return;
   const PreferenceStore& preferences = PreferenceStore::standard();
   measurement_->setConsent(preferences.value(preferences::isDsgvoAccepted) &&
-                           preferences.value(preferences::isMeasurementAccepted));
+                           preferences.value(preferences::acceptedMeasurement) == measurement_->terms());
   Analytics::setSink([this](const AnalyticsEvent& event) { measurement_->take(event); });
   connect(this, &QCoreApplication::aboutToQuit, measurement_.get(), &MeasurementClient::finish);
 }

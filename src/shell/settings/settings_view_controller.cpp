@@ -66,7 +66,8 @@ QString SettingsViewController::chosenLanguageName() const {
 }
 
 bool SettingsViewController::isMeasuring() const {
-  return services_.userDefaults.value(preferences::isMeasurementAccepted);
+  return canMeasure() &&
+         services_.userDefaults.value(preferences::acceptedMeasurement) == services_.measurement->terms();
 }
 
 QString SettingsViewController::sentText() {
@@ -91,8 +92,10 @@ void SettingsViewController::chooseLanguage(const QString& code) {
 
 // A consent that could not be stored is none; a withdrawal holds even so.
 void SettingsViewController::setMeasuring(bool isAccepted) {
-  const bool isStored = services_.userDefaults.setValue(preferences::isMeasurementAccepted, isAccepted);
-  if (services_.measurement) services_.measurement->setConsent(isAccepted && isStored);
+  if (!canMeasure()) return;
+  const bool isStored = services_.userDefaults.setValue(
+      preferences::acceptedMeasurement, isAccepted ? services_.measurement->terms() : QString());
+  services_.measurement->setConsent(isAccepted && isStored);
   emit changed();
 }
 

@@ -104,13 +104,20 @@ TEST_F(SettingsTest, MeasureFromTheConsentOnAndForgetAtItsWithdrawal) {
 
   item("measurementSwitch")->forceActiveFocus();
   QTest::keyClick(delegate->window(), Qt::Key_Space);
-  EXPECT_TRUE(preferences.value(preferences::isMeasurementAccepted));
+  EXPECT_EQ(preferences.value(preferences::acceptedMeasurement), client.terms());
   client.take({"tapped_clear", std::nullopt});
   EXPECT_EQ(client.waiting(), 1);
 
   QTest::keyClick(delegate->window(), Qt::Key_Space);
-  EXPECT_FALSE(preferences.value(preferences::isMeasurementAccepted));
+  EXPECT_EQ(preferences.value(preferences::acceptedMeasurement), "");
   EXPECT_FALSE(QFile::exists(measured()));
+}
+
+TEST_F(SettingsTest, AConsentToOtherTermsIsNone) {
+  preferences.setValue(preferences::acceptedMeasurement, client.terms() + " with workings");
+  AppServices measured = services;
+  measured.measurement = &client;
+  EXPECT_FALSE(SettingsViewController(measured).isMeasuring());
 }
 
 TEST_F(SettingsTest, AnAppearanceThatIsNoneFollowsTheSystem) {
@@ -135,6 +142,10 @@ TEST(PrivacyText, NamesEveryEventThatIsReported) {
   EXPECT_EQ(count, events::vocabulary.size());
   EXPECT_TRUE(text.contains("collector.invalid"));
   EXPECT_FALSE(text.contains("latex_string")) << "what was typed is not sent";
+  MeasurementSettings telling = someCollector();
+  telling.sendsWorkings = true;
+  EXPECT_TRUE(privacyText(telling).contains("latex_string"));
+  EXPECT_TRUE(privacyText(telling).contains(localized("measurementWorkings")));
   EXPECT_EQ(privacyText({}), localized("dsgvoTextPro")) << "without a collector nothing is sent";
 }
 
