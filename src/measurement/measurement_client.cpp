@@ -10,6 +10,7 @@
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <algorithm>
+#include <utility>
 
 #include "measurement/otlp.h"
 
@@ -48,7 +49,8 @@ milliseconds askedPause(const QByteArray& header) {
 // OTLP's acknowledgement is 200; what stands in front of a collector may have another that means the same. A
 // page of something else is none, but what is packed, though not asked for, cannot be told from one.
 bool isAcknowledged(int status, QNetworkReply& reply) {
-  if (status < 200 || status >= 300 || reply.error() != QNetworkReply::NoError) return false;
+  if (status < 200 || status >= 300 || !reply.isFinished() || reply.error() != QNetworkReply::NoError)
+    return false;
   return status != 200 || reply.hasRawHeader("Content-Encoding") || otlp::isAnswer(reply.readAll());
 }
 
@@ -197,11 +199,14 @@ void MeasurementClient::send() {
   device->setParent(reply);
   reply_ = reply;
   reply->setReadBufferSize(answerLimit + 1);
-  connect(reply, &QNetworkReply::readyRead, reply, [reply] {
-    if (reply->bytesAvailable() > answerLimit) reply->abort();
+  const auto settle = [this, reply, id = batch.lastId] {
+    if (reply == reply_) receive(reply, id);
+  };
+  connect(reply, &QNetworkReply::readyRead, this, [reply, settle] {
+    if (reply->bytesAvailable() > answerLimit) settle();
   });
-  connect(reply, &QNetworkReply::finished, this, [this, reply, id = batch.lastId] { receive(reply, id); });
-  QTimer::singleShot(settings_.timeout, reply, &QNetworkReply::abort);
+  connect(reply, &QNetworkReply::finished, this, settle);
+  QTimer::singleShot(settings_.timeout, reply, settle);
 }
 
 void MeasurementClient::receive(QNetworkReply* reply, qint64 lastId) {
@@ -239,18 +244,15 @@ void MeasurementClient::finish() {
   if (reply_ == nullptr && store_->sendState().failures == 0) send();
   if (reply_ == nullptr) return;
   QEventLoop loop;
-  connect(reply_, &QNetworkReply::finished, &loop, &QEventLoop::quit);
+  connect(reply_, &QObject::destroyed, &loop, &QEventLoop::quit);
   QTimer::singleShot(settings_.endTimeout, &loop, &QEventLoop::quit);
   loop.exec(QEventLoop::ExcludeUserInputEvents);
   timer_.stop();
 }
 
 void MeasurementClient::cancel() {
-  if (reply_ == nullptr) return;
-  reply_->disconnect(this);
-  reply_->abort();
-  reply_->deleteLater();
-  reply_ = nullptr;
+  // An aborted one would complain of a failure that the network's thread has told meanwhile.
+  delete std::exchange(reply_, nullptr);
 }
 
 }  // namespace tavi

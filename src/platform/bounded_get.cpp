@@ -2,6 +2,7 @@
 
 #include <QNetworkReply>
 #include <QTimer>
+#include <utility>
 
 #include "platform/network_access.h"
 
@@ -24,7 +25,7 @@ class Exchange : public QObject {
     connect(reply, &QNetworkReply::redirected, this, &Exchange::judgeRedirect);
     connect(reply, &QNetworkReply::readyRead, this, &Exchange::collect);
     connect(reply, &QNetworkReply::finished, this, &Exchange::finish);
-    QTimer::singleShot(bounds.timeout, this, [this] { abort(QStringLiteral("the server took too long")); });
+    QTimer::singleShot(bounds.timeout, this, [this] { giveUp(QStringLiteral("the server took too long")); });
   }
 
  private:
@@ -32,17 +33,19 @@ class Exchange : public QObject {
     if (bounds_.allows(target))
       emit reply_->redirectAllowed();
     else
-      abort(QStringLiteral("a redirect to an insecure address"));
+      giveUp(QStringLiteral("a redirect to an insecure address"));
   }
 
   void collect() {
     answer_.body += reply_->read(bounds_.bodyLimit + 1 - answer_.body.size());
-    if (answer_.body.size() > bounds_.bodyLimit) abort(QStringLiteral("the answer is too long"));
+    if (answer_.body.size() > bounds_.bodyLimit) giveUp(QStringLiteral("the answer is too long"));
   }
 
-  void abort(const QString& reason) {
+  // An aborted reply would complain of a failure that the network's thread has told meanwhile.
+  void giveUp(const QString& reason) {
+    reply_->disconnect(this);
     answer_.error = reason;
-    reply_->abort();
+    finish();
   }
 
   void finish() {
@@ -53,12 +56,12 @@ class Exchange : public QObject {
     if (!answer_.error && answer_.status != statusOk && answer_.status != statusNotModified)
       answer_.error = QStringLiteral("status %1").arg(answer_.status);
     reply_->deleteLater();
-    completion_(answer_);
+    if (const auto complete = std::exchange(completion_, nullptr)) complete(answer_);
   }
 
   QNetworkReply* reply_;
   HttpBounds bounds_;
-  std::function<void(const HttpAnswer&)> completion_;
+  std::function<void(const HttpAnswer&)> completion_;  // none any more once it is told
   HttpAnswer answer_;
 };
 

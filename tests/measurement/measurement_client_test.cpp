@@ -6,6 +6,7 @@
 #include <QJsonArray>
 #include <QProcess>
 #include <QTemporaryDir>
+#include <QThread>
 
 #include <gtest/gtest.h>
 #include <unistd.h>
@@ -89,6 +90,29 @@ TEST_F(Measurement, AnAnswerToWhatWasWithdrawnTouchesNothingNew) {
   Collector::say(*asking[1]);
   ASSERT_TRUE(waitUntil([&] { return client.waiting() == 0; }));
   EXPECT_EQ(collector.names(), (QStringList{"one", "two"}));
+}
+
+// A failure that is told while the network's thread is not heard is no second one beside the withdrawal.
+TEST_F(Measurement, AWithdrawalDuringAFailureIsQuiet) {
+  bool isHungUp = false;
+  Collector collector([&isHungUp](qsizetype, QTcpSocket& socket) {
+    socket.write("HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\n{");
+    socket.flush();
+    socket.abort();
+    isHungUp = true;
+  });
+  const ConsoleLines console;
+  for (int round = 0; round < 20; ++round) {
+    MeasurementClient client(settings(collector.address()), path());
+    client.setConsent(true);
+    isHungUp = false;
+    client.take(named("one"));
+    while (!isHungUp) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    QThread::msleep(2);
+    client.setConsent(false);
+    QCoreApplication::processEvents();
+  }
+  EXPECT_EQ(console.lines(), QStringList());
 }
 
 TEST_F(Measurement, AFileThatCannotBeDeletedIsEmptied) {
