@@ -200,7 +200,7 @@ void CalculateViewController::tappedManualButton() {
 }
 
 bool CalculateViewController::pressedHardwareKey(int key, int modifiers, const QString& text) {
-  const auto held = Qt::KeyboardModifiers::fromInt(modifiers) & ~Qt::KeypadModifier;
+  const auto held = Qt::KeyboardModifiers(QFlag(modifiers)) & ~Qt::KeypadModifier;
   const QKeySequence pressed(QKeyCombination(held, static_cast<Qt::Key>(key)));
   for (const Command& command : commands) {
     const bool isOtherRedo = command.key == QKeySequence::Redo && pressed == otherRedo;

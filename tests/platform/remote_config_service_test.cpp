@@ -226,7 +226,7 @@ TEST_F(RemoteConfigServiceTest, ASlowServerIsGivenUp) {
 
 TEST_F(RemoteConfigServiceTest, AnAnswerUpToTheLimitComesWhole) {
   RemoteConfigService service(settings(), path());
-  const qsizetype frame = qstrlen(R"({"apps":""})");
+  const qsizetype frame = QByteArrayView(R"({"apps":""})").size();
   const QByteArray text(settings().bodyLimit - frame, 'x');
   const QByteArray body = R"({"apps":")" + text + R"("})";
   for (const QByteArray& head :

@@ -117,7 +117,8 @@ class ShareSheetTest : public testing::Test {
  protected:
   ShareSheetTest() : picture(200, 200, QImage::Format_RGB32) {
     for (int y = 0; y < picture.height(); ++y)
-      for (int x = 0; x < picture.width(); ++x) picture.setPixel(x, y, 0xff000000U | (x * 7919U * (y + 1U)));
+      for (int x = 0; x < picture.width(); ++x)
+        picture.setPixel(x, y, 0xff000000U | (static_cast<unsigned>(x * (y + 1)) * 7919U));
   }
 
   void waitUntilWritten(const ShareSheetController& sheet) {

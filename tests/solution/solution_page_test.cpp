@@ -431,8 +431,10 @@ TEST_F(SolutionPageTest, TheKeyboardGoesFromTheLockToOneVideoAfterTheOther) {
   for (const auto& [key, name] : steps) {
     press(key);
     // A video that was out of sight has its button only once it is there.
-    EXPECT_TRUE(QTest::qWaitFor([&] { return named() == name && isInSight(window.activeFocusItem()); }))
-        << name.toStdString() << " but " << named().toStdString();
+    EXPECT_TRUE(QTest::qWaitFor([&, wanted = name] {
+      return named() == wanted && isInSight(window.activeFocusItem());
+    })) << name.toStdString()
+        << " but " << named().toStdString();
   }
   press(Qt::Key_Up);
   EXPECT_EQ(window.activeFocusItem(), cells().front()) << "of the row and its button only one has the focus";

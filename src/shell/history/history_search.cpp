@@ -130,7 +130,7 @@ void HistorySearch::goOn(std::chrono::milliseconds time) {
 void HistorySearch::remove(qsizetype index) {
   if (index < ends_.size()) {
     const qsizetype length = ends_[index] - startOf(index);
-    text_.erase(startOf(index), length);
+    text_.erase(text_.begin() + startOf(index), text_.begin() + ends_[index]);
     ends_.removeAt(index);
     for (qsizetype each = index; each < ends_.size(); ++each) ends_[each] -= length;
   }

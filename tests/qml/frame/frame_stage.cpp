@@ -33,7 +33,8 @@ void FrameStage::open(QQuickItem* holder) {
   ViewManager::hideToast();
   openedLink_.clear();
   isOffline_ = false;
-  Services& services = services_.emplace();
+  services_ = std::make_unique<Services>();
+  Services& services = *services_;
   services.links.setHandler([](const QUrl& url) { return url.scheme() == u"https"; },
                             [this](const QUrl& url) {
                               openedLink_ = url.toString();

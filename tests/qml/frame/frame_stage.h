@@ -6,7 +6,6 @@
 #include <QTcpServer>
 #include <QTemporaryDir>
 #include <memory>
-#include <optional>
 
 #include "shell/app_services.h"
 #include "shell/frame/navigation_drawer_controller.h"
@@ -79,7 +78,7 @@ class FrameStage : public QObject {
   bool isDismissed_ = false;
   QString chosen_;
   QString openedLink_;
-  std::optional<Services> services_;
+  std::unique_ptr<Services> services_;
   std::shared_ptr<AppPageTabBarController> tabs_;
   std::shared_ptr<AppNavigationDrawerController> drawer_;
   std::unique_ptr<QQuickItem> host_;
