@@ -1,5 +1,6 @@
 #include "platform/system_voice.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QQmlComponent>
@@ -28,11 +29,23 @@ SystemVoice::SystemVoice(QUrl source, QString language)
       language_(std::move(language)),
       state_(source_.isEmpty() ? State::Missing : State::Unknown) {}
 
-/// A thread that is kept waiting by a service that does not answer is left behind.
 SystemVoice::~SystemVoice() {
+  end();
+}
+
+const std::shared_ptr<SystemVoice>& SystemVoice::shared() {
+  static const auto voice = std::make_shared<SystemVoice>();
+  return voice;
+}
+
+// A thread that is kept waiting by a service that does not answer is left behind.
+void SystemVoice::end() {
   if (!thread_) return;
   thread_->quit();
   if (thread_->wait(500)) delete thread_;
+  thread_ = nullptr;
+  speaker_ = nullptr;
+  state_ = State::Missing;
 }
 
 QUrl SystemVoice::installedSpeaker() {
@@ -45,7 +58,9 @@ QUrl SystemVoice::installedSpeaker() {
 void SystemVoice::prepare() {
   if (state_ != State::Unknown || thread_) return;
   thread_ = new SpeakerThread(source_, language_);
+  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &SystemVoice::end);
   connect(thread_, &SpeakerThread::made, this, [this](QObject* speaker) {
+    if (!thread_) return;  // It came too late.
     speaker_ = speaker;
     state_ = speaker ? State::Ready : State::Missing;
     emit stateChanged();

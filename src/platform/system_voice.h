@@ -2,6 +2,7 @@
 
 #include <QThread>
 #include <QUrl>
+#include <memory>
 #include <utility>
 
 #include "platform/localization.h"
@@ -31,7 +32,7 @@ class SpeakerThread : public QThread {
 
 /// The voice of the system, where Qt's speech module and something that speaks the language are installed.
 /// Nothing of it is loaded before `prepare`. It is asked in a thread of its own: a speech service that is
-/// only being started, or that has no sound, keeps its callers waiting for seconds.
+/// only being started, that has no sound or a long list of voices, keeps its callers waiting for seconds.
 class SystemVoice : public Voice {
   Q_OBJECT
 
@@ -40,12 +41,16 @@ class SystemVoice : public Voice {
   explicit SystemVoice(QUrl source = installedSpeaker(), QString language = spokenLanguage());
   ~SystemVoice() override;
 
+  /// The one in the user's language, which ends with the application.
+  static const std::shared_ptr<SystemVoice>& shared();
+
   State state() const override { return state_; }
   void prepare() override;
   void say(const QString& text) override;
   void stop() override;
 
  private:
+  void end();
   /// Empty without the module or without an engine for it.
   static QUrl installedSpeaker();
 

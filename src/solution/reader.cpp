@@ -8,16 +8,19 @@ namespace tavi {
 
 Reader::Reader(Words words) : words_(std::move(words)) {
   QQmlEngine::setObjectOwnership(this, QQmlEngine::CppOwnership);
-  setVoice(std::make_unique<SystemVoice>());
+  setVoice(SystemVoice::shared());
 }
 
-void Reader::setVoice(std::unique_ptr<Voice> voice) {
+void Reader::setVoice(std::shared_ptr<Voice> voice) {
+  if (voice_) voice_->disconnect(this);
   voice_ = std::move(voice);
   connect(voice_.get(), &Voice::stateChanged, this, [this] {
     emit voiceChanged();
     if (const auto row = std::exchange(awaited_, std::nullopt)) readFrom(*row);
   });
-  connect(voice_.get(), &Voice::ended, this, [this](bool isSaid) { isSaid ? readFrom(row_ + 1) : stop(); });
+  connect(voice_.get(), &Voice::ended, this, [this](bool isSaid) {
+    if (isReading()) isSaid ? readFrom(row_ + 1) : stop();
+  });
   emit voiceChanged();
 }
 

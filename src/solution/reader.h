@@ -32,8 +32,8 @@ class Reader : public QObject {
   bool isOffered() const { return voice_->state() != Voice::State::Missing; }
   bool isReady() const { return voice_->state() == Voice::State::Ready; }
 
-  /// In place of the system's voice.
-  void setVoice(std::unique_ptr<Voice> voice);
+  /// In place of the system's voice, which all readers share.
+  void setVoice(std::shared_ptr<Voice> voice);
 
   /// Looks whether there is a voice.
   Q_INVOKABLE void prepare() { voice_->prepare(); }
@@ -50,7 +50,7 @@ class Reader : public QObject {
   void setRow(int row);
 
   const Words words_;
-  std::unique_ptr<Voice> voice_;
+  std::shared_ptr<Voice> voice_;
   std::optional<int> awaited_;  // The row to begin with, while it is not known whether there is a voice.
   int row_ = -1;
 };

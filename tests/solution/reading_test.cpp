@@ -13,9 +13,8 @@ class ReadingTest : public SolutionStage {
   ReadingTest() { setVoice(Voice::State::Ready); }
 
   void setVoice(Voice::State state) {
-    auto made = std::make_unique<FakeVoice>(state);
-    voice = made.get();
-    reader.setVoice(std::move(made));
+    voice = std::make_shared<FakeVoice>(state);
+    reader.setVoice(voice);
   }
   void showThree() {
     show({formulaStep("Your Input", "\\frac{3}{4}"), formulaStep("Step", "2"), formulaStep("Result", "=x")});
@@ -30,7 +29,7 @@ class ReadingTest : public SolutionStage {
   }
 
   Reader& reader = *solution->reader();
-  FakeVoice* voice;
+  std::shared_ptr<FakeVoice> voice;
 };
 
 TEST_F(ReadingTest, GoesFromRowToRowMarksEachAndEndsBehindTheLast) {
@@ -144,6 +143,21 @@ TEST_F(ReadingTest, IsOfferedWhereThereMayBeAVoice) {
     EXPECT_EQ(reader.isReading(), each.isEnabled) << "only the menu was closed";
     reader.stop();
   }
+}
+
+TEST_F(ReadingTest, ReadersShareAVoiceAndItsEndsAreOfTheOneThatReads) {
+  showThree();
+  {
+    Reader other([](int) { return QString("words"); });
+    other.setVoice(voice);
+    reader.readFrom(0);
+    emit voice->ended(true);
+    EXPECT_EQ(reader.row(), 1);
+    EXPECT_FALSE(other.isReading());
+  }
+  EXPECT_EQ(voice->stops, 0) << "who reads nothing stops nothing";
+  emit voice->ended(false);
+  EXPECT_FALSE(reader.isReading());
 }
 
 TEST_F(ReadingTest, WaitsForTheVoiceUnlessStoppedBefore) {
