@@ -1,10 +1,10 @@
 #include "platform/system_voice.h"
 
-#include <QCoreApplication>
 #include <QDir>
 #include <QLibraryInfo>
 #include <QQmlComponent>
 #include <QQmlEngine>
+#include <chrono>
 #include <memory>
 
 namespace tavi {
@@ -38,14 +38,13 @@ const std::shared_ptr<SystemVoice>& SystemVoice::shared() {
   return voice;
 }
 
-// A thread that is kept waiting by a service that does not answer is left behind.
 void SystemVoice::end() {
-  if (!thread_) return;
-  thread_->quit();
-  if (thread_->wait(500)) delete thread_;
-  thread_ = nullptr;
-  speaker_ = nullptr;
   state_ = State::Missing;
+  speaker_ = nullptr;
+  SpeakerThread* thread = std::exchange(thread_, nullptr);
+  if (!thread) return;
+  thread->quit();
+  if (thread->wait(std::chrono::seconds(5))) delete thread;
 }
 
 QUrl SystemVoice::installedSpeaker() {
@@ -58,7 +57,6 @@ QUrl SystemVoice::installedSpeaker() {
 void SystemVoice::prepare() {
   if (state_ != State::Unknown || thread_) return;
   thread_ = new SpeakerThread(source_, language_);
-  connect(QCoreApplication::instance(), &QCoreApplication::aboutToQuit, this, &SystemVoice::end);
   connect(thread_, &SpeakerThread::made, this, [this](QObject* speaker) {
     if (!thread_) return;  // It came too late.
     speaker_ = speaker;

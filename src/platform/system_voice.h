@@ -41,8 +41,12 @@ class SystemVoice : public Voice {
   explicit SystemVoice(QUrl source = installedSpeaker(), QString language = spokenLanguage());
   ~SystemVoice() override;
 
-  /// The one in the user's language, which ends with the application.
+  /// The one in the user's language. The application ends it.
   static const std::shared_ptr<SystemVoice>& shared();
+
+  /// Nothing is asked or said from now on. Waits for the service, up to 5 seconds, as its thread must not go
+  /// on while the process takes itself apart; one that is kept longer is left behind.
+  void end();
 
   State state() const override { return state_; }
   void prepare() override;
@@ -50,7 +54,6 @@ class SystemVoice : public Voice {
   void stop() override;
 
  private:
-  void end();
   /// Empty without the module or without an engine for it.
   static QUrl installedSpeaker();
 

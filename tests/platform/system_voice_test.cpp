@@ -1,5 +1,7 @@
 #include "platform/system_voice.h"
 
+#include <QCoreApplication>
+#include <QElapsedTimer>
 #include <QFile>
 #include <QSignalSpy>
 #include <QTemporaryDir>
@@ -63,6 +65,29 @@ TEST_F(SystemVoiceTest, IsThereWhereWhatSpeaksKnowsTheLanguage) {
     EXPECT_EQ(voice.state(), each.expected) << each.name;
   }
   EXPECT_EQ(SystemVoice(QUrl(), "de").state(), Voice::State::Missing) << "known without a look";
+}
+
+TEST_F(SystemVoiceTest, IsWaitedForAtTheEnd) {
+  SystemVoice voice(speaker(R"(import QtQml
+QtObject {
+    property string language
+    property bool isSpoken: true
+    signal ended(int number, bool isSaid)
+    Component.onCompleted: {
+        const begin = Date.now();
+        while (Date.now() < begin + 600);
+    }
+})"),
+                    "de");
+  QSignalSpy changes(&voice, &Voice::stateChanged);
+  QElapsedTimer timer;
+  timer.start();
+  voice.prepare();
+  voice.end();
+  EXPECT_GE(timer.elapsed(), 600);
+  EXPECT_EQ(voice.state(), Voice::State::Missing);
+  QCoreApplication::processEvents();
+  EXPECT_TRUE(changes.isEmpty()) << "it is over";
 }
 
 TEST_F(SystemVoiceTest, TellsOfTheEndOfTheTextThatItIsAtOnly) {

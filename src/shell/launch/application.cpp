@@ -25,6 +25,7 @@
 #include "platform/motion.h"
 #include "platform/preferences.h"
 #include "platform/resource_bundle.h"
+#include "platform/system_voice.h"
 #include "shell/frame/page_loader.h"
 #include "shell/launch/command_line.h"
 #include "shell/settings/settings_view_controller.h"
@@ -155,6 +156,7 @@ Application::Application(int& argumentCount, char** arguments)
 
 Application::~Application() {
   Analytics::setSink({});
+  SystemVoice::shared()->end();
 }
 
 void Application::readFirstPages() {
