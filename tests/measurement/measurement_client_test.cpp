@@ -103,7 +103,7 @@ TEST_F(Measurement, AWithdrawalDuringAFailureIsQuiet) {
     client.setConsent(true);
     isHungUp = false;
     client.take(named("one"));
-    while (!isHungUp) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    ASSERT_TRUE(waitUntil([&isHungUp] { return isHungUp; }));
     QThread::msleep(2);
     client.setConsent(false);
     QCoreApplication::processEvents();
